@@ -1,0 +1,40 @@
+// Panels: records read and written whole, at every change, by temporary file and rename.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "data/Scrivania.h"
+#include "records/ScanRecord.h"
+
+namespace orvane {
+
+inline constexpr std::string_view kPannelloEPN = "Panels\\Untitled.EPN";
+inline constexpr std::string_view kPannelloEAM = "Panels\\Untitled.EAM";
+inline constexpr std::string_view kPannelloPTH = "Panels\\Untitled.PTH";
+
+/// Path of a panel by its bare name: "Panels\<nome>.<estensione>".
+std::string PercorsoPannello(std::string_view nome, std::string_view estensione);
+
+// Loading: an absent file is written with the defaults and is no failure; a short or unreadable
+// one shows "Failed loading" and the path, keeps what was read, and gives false. Saving: a failure
+// shows "Cannot open file " and the path, and the old file stays.
+bool CaricaPanelEPN(Scrivania& s, std::string_view percorso);
+bool SalvaPanelEPN(Scrivania& s, std::string_view percorso);
+bool CaricaPanelEAM(Scrivania& s, std::string_view percorso);
+bool SalvaPanelEAM(Scrivania& s, std::string_view percorso); ///< nothing with `NoSaveSetup`
+bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan);
+bool SalvaPanelEST(Scrivania& s, std::string_view percorso, const ScanRecord& scan);
+bool CaricaPathPTH(Scrivania& s);
+bool SalvaPathPTH(Scrivania& s);
+
+/// `caricato` false sets the default colours first.
+void ApplicaEnv(EnvRecord& env, bool caricato);
+void ImpostaColoriDefault(EnvRecord& env);
+SetupRecord SetupDefault();
+/// Makes every stored value harmless: colours, integers, offsets, names. True if any was changed.
+bool ControllaParStand(EnvRecord& env);
+/// The last line of "Orvane Console.DAT"; empty without the file.
+void LeggiDatiSetup(Scrivania& s);
+
+} // namespace orvane

@@ -1,0 +1,73 @@
+// Scales of the graph: units and their offsets, the vertical range, frequency to x and back, ticks
+// and labels. Arithmetic only.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/SetupRecord.h"
+
+namespace orvane {
+
+/// A display unit: level in the unit = level in dBuV + (parteA + parteB) / 10.
+struct VoceUnita {
+    std::string testo; ///< with the micro sign
+    int parteA = 0;    ///< tenths of a dB
+    int parteB = 0;
+    bool chiedeFattore = false; ///< a field unit: only with a conversion factor
+    float Offset() const { return static_cast<float>(parteA + parteB) / 10.0f; }
+};
+/// By `UnitId` 0 to 7.
+const std::array<VoceUnita, 8>& TabellaUnitaGrafico();
+/// `UnitOffset` in dB of a unit; an index outside the list counts as 1, dBuV.
+float ImpostaUnita(int unitId);
+
+/// Top and bottom of the vertical range that a unit allows, in hundredths of a dB. An offset that
+/// the table does not know leaves both as they were.
+void ImpostaLimitiScala(float unitOffset, int& scaleTop, int& scaleFloor);
+
+/// Everything that `SetScaleGraph` computes. Levels in hundredths of a dB, frequencies in MHz.
+struct ScalaGrafico {
+    double start = 0;
+    double stop = 0;
+    bool logaritmica = true;
+    double RangeDB = 0;
+    double TopLevel = 0;
+    double AttLevel = 0;
+    double UnitOffset = 0; ///< dB
+    int ScaleTop = 0;
+    int ScaleFloor = 0;
+    double basso = 0; ///< bottom of the grid, as its labels read
+    double alto = 0;
+    double larghezzaPixel = 0; ///< of the grid
+    double XScale = 0;
+    double XOffset = 0;
+};
+
+/// `refOffset`: the correction held by the mode, hundredths of a dB.
+ScalaGrafico SetScaleGraph(const SetupRecord& setup, double startMhz, double stopMhz,
+                           bool logaritmica, double larghezzaPixel, double refOffset);
+
+/// Pixel of a frequency (MHz) from the left edge of the grid, whole; 0 for frequency 0, and 0 where
+/// the result is beyond 10000 either way.
+int FreqToX(const ScalaGrafico& scala, double freqMhz);
+double XToFreq(const ScalaGrafico& scala, double x);
+
+/// A frequency label: "150 k", "30 M", "1 G".
+std::string FormatFreqLabel(double mhz);
+
+/// ln 10 as the labelling has it.
+inline constexpr double kLog10App = 2.3026;
+
+/// A vertical line of the logarithmic grid.
+struct Tacca {
+    double freqMhz = 0;
+    bool decade = false;   ///< on a power of ten
+    std::string etichetta; ///< empty where there is none
+};
+/// The 1, 2, 3 to 9 of each decade inside start..stop, labels where they have room.
+std::vector<Tacca> CalcolaDecade(double startMhz, double stopMhz);
+
+} // namespace orvane

@@ -1,0 +1,60 @@
+// The seam to a picture: user coordinates, lines, shapes and text, whoever paints them.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace orvane {
+
+struct Punto {
+    double x = 0;
+    double y = 0;
+};
+
+enum class Tratto { Pieno, Punteggiato, Tratteggiato };
+
+/// `colore` as `Rgb` makes it. Width in pixels.
+struct Penna {
+    int32_t colore = 0;
+    double larghezza = 1;
+    Tratto tratto = Tratto::Pieno;
+};
+
+/// Which point of a text lies at the given place.
+enum class Ancora {
+    SinistraAlto,
+    CentroAlto,
+    DestraAlto,
+    SinistraMezzo,
+    CentroMezzo,
+    DestraMezzo,
+    SinistraBasso,
+    CentroBasso,
+    DestraBasso
+};
+
+struct Superficie {
+    virtual ~Superficie() = default;
+
+    /// Size of the picture in pixels.
+    virtual double LarghezzaPixel() const = 0;
+    virtual double AltezzaPixel() const = 0;
+    /// User coordinates of the picture's edges; every later call is in these.
+    virtual void Scala(double sinistra, double alto, double destra, double basso) = 0;
+    virtual void Linea(Punto da, Punto a, const Penna& penna) = 0;
+    virtual void Spezzata(std::span<const Punto> punti, const Penna& penna) = 0;
+    virtual void Rettangolo(Punto angolo, Punto opposto, int32_t riempimento, double opacita) = 0;
+    /// Colour runs from corner to corner.
+    virtual void TriangoloSfumato(const Punto (&vertici)[3], const int32_t (&colori)[3]) = 0;
+    /// `altezza` of the letters in pixels.
+    virtual void Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
+                       double altezza) = 0;
+    /// Width and height of a text, in pixels.
+    virtual Punto DimensioneTesto(const std::string& testo, double altezza) const = 0;
+    /// What is drawn from here on shows only inside this rectangle; `FineRitaglio` ends it.
+    virtual void Ritaglio(Punto angolo, Punto opposto) = 0;
+    virtual void FineRitaglio() = 0;
+};
+
+} // namespace orvane

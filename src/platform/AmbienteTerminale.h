@@ -1,0 +1,45 @@
+// The environment of the command line program: boxes as lines on standard error, Ctrl-C as an
+// event, sleep by poll.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "base/Ambiente.h"
+#include "platform/SorvegliaLink.h"
+
+namespace orvane {
+
+/// Monotonic clock and local calendar of the machine, shared by terminal and window.
+double OraMonotona();
+OraCalendario OraLocale();
+
+class AmbienteTerminale : public Ambiente {
+public:
+    /// `rispostaSi`: what `--answer` chose; empty takes the careful answer of each box.
+    AmbienteTerminale(SorvegliaLink& sorveglia, std::string rigaComando,
+                      std::optional<bool> rispostaSi);
+    ~AmbienteTerminale() override;
+
+    double Adesso() const override;
+    OraCalendario Calendario() const override;
+    void ElaboraEventi(double alPiuS, Veglia veglia) override;
+    /// Prints "[box] TEXT -> ANSWER" on standard error, line ends of the text as blanks.
+    Risposta Mostra(const Riquadro& riquadro) override;
+    const std::string& RigaComando() const override { return rigaComando_; }
+    void SegnalaDifetto(std::string_view testo) override;
+
+    /// Called from the pump at each Ctrl-C (or SIGTERM), with how many there have been.
+    std::function<void(int)> alInterrompi;
+    /// Called from every turn of the pump, for what happens by the clock.
+    std::function<void()> alGiro;
+
+private:
+    SorvegliaLink& sorveglia_;
+    std::string rigaComando_;
+    std::optional<bool> rispostaSi_;
+    int viste_ = 0;
+};
+
+} // namespace orvane

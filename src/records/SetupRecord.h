@@ -1,0 +1,159 @@
+// All measuring settings: the whole of an EAM file, and the second part of each KSH.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "records/Visite.h"
+
+namespace orvane {
+
+/// Ranges called `Riserva...` belong to the live modes and the positioner settings; they are kept
+/// byte for byte.
+struct SetupRecord {
+    double GraphStart = 0; ///< left end of the frequency axis, MHz
+    double GraphStop = 0;  ///< right end, MHz
+    int16_t GraphFlag = 0;
+    float HoldTimeAn = 0;
+    std::array<float, 2> ScaleAn{};
+    int16_t Coupled = 0;
+    int16_t MaxHold = 0;
+    int16_t KeepTrace = 0;
+    int16_t ParAn = 0;
+    std::array<uint8_t, 604> Riserva38{};
+    double FreqMa = 0; ///< MHz
+    float SpanMa = 0;
+    int16_t VolumeMa = 0;
+    int16_t ParMa1 = 0;
+    int16_t ManualOld = 0; ///< an older release's Manual level
+    int16_t HoldTimeMa = 0;
+    int16_t MaxHoldMa = 0;
+    int16_t MaxHoldInf = 0;
+    int16_t ParMa2 = 0;
+    std::array<uint8_t, 198> Riserva668{};
+    float ManualLevel = 0;
+    std::array<uint8_t, 400> Riserva870{};
+    std::string BWIFText;
+    int16_t BWIFId = 0;
+    int16_t MinAtt = 0;
+    int16_t Attenuator = 0; ///< dB
+    int16_t PreSel = 0;
+    int16_t PreAmp = 0;
+    std::array<int16_t, 4> DetectorAn{};
+    std::array<int16_t, 10> LimitOn{};
+    std::array<std::string, 10> LimitName{};
+    std::array<uint8_t, 606> Riserva1928{};
+    int16_t Mode = 0; ///< tab of `SSTabMode`; 5 is the Sweeps Archive
+    int16_t DinamicaId = 0;
+    int16_t RefLevel = 0; ///< dB
+    std::array<uint8_t, 2> Riserva2540{};
+    double TGLevel = 0;
+    std::array<uint8_t, 2> Riserva2550{};
+    double TGFreq = 0; ///< MHz
+    int16_t TGOn = 0;
+    std::array<std::string, 7> FactorName{};
+    std::array<int16_t, 7> FactorOn{};
+    int16_t SommaFact = 0;
+    int16_t UnitId = 0; ///< 0 to 7
+    std::array<uint8_t, 610> Riserva3000{};
+    int16_t OverwriteWarning = 0; ///< 0 off, -1 on
+    int16_t OrderForDate = 0;     ///< menu marks, 0 off, -1 on
+    int16_t SymbolOnPeaks = 0;
+    int16_t TableUnitId = 0;
+    int16_t GX2207FFTSwept = 0;
+    int16_t CheckSweepArchiveSize = 0;
+    int16_t ZoomModeA = 0;
+    int16_t ZoomModeB = 0;
+    std::array<uint8_t, 38> Riserva3626{};
+    std::string AntennaName;
+    std::array<uint8_t, 98> Riserva3724{};
+    float InsLossRef = 0;
+    std::array<uint8_t, 400> Riserva3826{};
+    std::string SwRelease; ///< printed after "Rel. SW "
+    std::string FwRelease; ///< printed after "Rel. FW "
+    std::string SerialA;
+    std::string SerialB;
+    std::array<uint8_t, 2> Riserva4306{};
+    std::string ModelText;
+    std::array<uint8_t, 604> Riserva4320{};
+    std::array<uint8_t, 170> Spare{}; ///< 85 empty counted strings
+};
+
+template <class Visita> constexpr void Campi(Visita& v, SetupRecord& r) {
+    v.F64(r.GraphStart);
+    v.F64(r.GraphStop);
+    v.I16(r.GraphFlag);
+    v.F32(r.HoldTimeAn);
+    for (auto& x : r.ScaleAn)
+        v.F32(x);
+    v.I16(r.Coupled);
+    v.I16(r.MaxHold);
+    v.I16(r.KeepTrace);
+    v.I16(r.ParAn);
+    v.Riserva(r.Riserva38);
+    v.F64(r.FreqMa);
+    v.F32(r.SpanMa);
+    v.I16(r.VolumeMa);
+    v.I16(r.ParMa1);
+    v.I16(r.ManualOld);
+    v.I16(r.HoldTimeMa);
+    v.I16(r.MaxHoldMa);
+    v.I16(r.MaxHoldInf);
+    v.I16(r.ParMa2);
+    v.Riserva(r.Riserva668);
+    v.F32(r.ManualLevel);
+    v.Riserva(r.Riserva870);
+    v.Testo(r.BWIFText, 20);
+    v.I16(r.BWIFId);
+    v.I16(r.MinAtt);
+    v.I16(r.Attenuator);
+    v.I16(r.PreSel);
+    v.I16(r.PreAmp);
+    for (auto& x : r.DetectorAn)
+        v.I16(x);
+    for (auto& x : r.LimitOn)
+        v.I16(x);
+    for (auto& x : r.LimitName)
+        v.Testo(x, 60);
+    v.Riserva(r.Riserva1928);
+    v.I16(r.Mode);
+    v.I16(r.DinamicaId);
+    v.I16(r.RefLevel);
+    v.Riserva(r.Riserva2540);
+    v.F64(r.TGLevel);
+    v.Riserva(r.Riserva2550);
+    v.F64(r.TGFreq);
+    v.I16(r.TGOn);
+    for (auto& x : r.FactorName)
+        v.Testo(x, 60);
+    for (auto& x : r.FactorOn)
+        v.I16(x);
+    v.I16(r.SommaFact);
+    v.I16(r.UnitId);
+    v.Riserva(r.Riserva3000);
+    v.I16(r.OverwriteWarning);
+    v.I16(r.OrderForDate);
+    v.I16(r.SymbolOnPeaks);
+    v.I16(r.TableUnitId);
+    v.I16(r.GX2207FFTSwept);
+    v.I16(r.CheckSweepArchiveSize);
+    v.I16(r.ZoomModeA);
+    v.I16(r.ZoomModeB);
+    v.Riserva(r.Riserva3626);
+    v.Testo(r.AntennaName, 60);
+    v.Riserva(r.Riserva3724);
+    v.F32(r.InsLossRef);
+    v.Riserva(r.Riserva3826);
+    v.Testo(r.SwRelease, 30);
+    v.Testo(r.FwRelease, 30);
+    v.Testo(r.SerialA, 10);
+    v.Testo(r.SerialB, 10);
+    v.Riserva(r.Riserva4306);
+    v.Testo(r.ModelText, 12);
+    v.Riserva(r.Riserva4320);
+    v.Riserva(r.Spare);
+}
+static_assert(DimensioneSuDisco<SetupRecord>() == 5094);
+
+} // namespace orvane

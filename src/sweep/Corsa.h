@@ -1,0 +1,99 @@
+// The run of a scan table: from the click on Execute to the last byte on disk.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "data/Misure.h"
+#include "data/Scrivania.h"
+#include "link/Ricevitore.h"
+#include "records/ScanRecord.h"
+
+namespace orvane {
+
+enum class FaseCorsa {
+    Ferma,
+    Controlli,
+    Attesa,
+    Preparazione,
+    Riga,
+    Misura,
+    Pausa,
+    Arresto,
+    Guasto
+};
+
+/// How far a run is. Times in seconds.
+struct Avanzamento {
+    int riga = 0; ///< 0 to 9
+    int numRighe = 0;
+    int passata = 0; ///< from 0
+    int numPassate = 1;
+    std::string nomePassata; ///< "L1", "V"; empty without passes
+    long long passiRiga = 0; ///< steps of the pass so far
+    long long totaleRiga = 0;
+    double frazione = 0; ///< of the whole run, 0 to 1
+    double trascorsiS = 0;
+    double restanoS = -1; ///< measured from the speed so far; -1 while unknown
+};
+
+/// What a run says to its window.
+struct VistaCorsa {
+    virtual ~VistaCorsa() = default;
+    /// Captions and enabled controls follow from the phase.
+    virtual void MostraFase(FaseCorsa fase) = 0;
+    /// The axis spans these frequencies (MHz); what was drawn is gone.
+    virtual void IniziaTraccia(const ScanTable& tabella, const std::string& misura) = 0;
+    /// New steps of the current line, the first of them at `freqMhz`, one each `passoMhz`.
+    virtual void AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
+                               std::span<const SampleRecord> passi) = 0;
+    /// `LBFreqTrc`, at most ten times a second.
+    virtual void MostraFreqLivello(double freqMhz, int16_t livelloCent) = 0;
+    virtual void MostraAvanzamento(const Avanzamento& avanzamento) = 0;
+    virtual void MostraBatteria(const std::string& livello) = 0;
+    /// The scan table was changed by a check: the grid must show it.
+    virtual void AggiornaGriglia() = 0;
+    /// Marks or clears a cell of the grid. `colonna` as `ColonnaScan`.
+    virtual void EvidenziaCella(int riga, int colonna, bool errata) = 0;
+    /// The receiver has been identified.
+    virtual void MostraModello() = 0;
+};
+
+enum class EsitoCorsa {
+    Compiuta,
+    Rifiutata,   ///< by a check, before anything was written
+    Fermata,     ///< Stop; the measure stands
+    Abbandonata, ///< the global abort
+    GuastoLink,  ///< receiver or link
+    GuastoFile
+};
+
+/// Flags through which the window reaches the run, and what the run keeps.
+struct StatoCorsa {
+    FaseCorsa fase = FaseCorsa::Ferma;
+    bool SweepInCorso = false;
+    bool StopRichiesto = false;
+    int16_t PausaRichiesta = 0; ///< 0 none, 1 pause wanted, 2 resume wanted
+    bool SweepFinito = false;
+    std::string misura; ///< name of the measure under way, or of the last one
+    std::string motivo; ///< why the run ended, in words; empty when it was completed
+};
+
+struct Corsa {
+    Scrivania& scrivania;
+    Ricevitore& ricevitore;
+    ScanRecord& scan;
+    StatoCorsa& stato;
+    VistaCorsa& vista;
+};
+
+/// `CMBExecuteSweep`: a click while a run is on is the Stop; otherwise runs to the end, pumping
+/// events. `misura` is the wished name of the measure.
+EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura);
+
+/// Asks a run to stop. It sends `#ASBK*` itself as soon as no command is in flight.
+void ChiediStop(StatoCorsa& stato);
+
+} // namespace orvane
