@@ -82,7 +82,8 @@ void LogTraffico::Accoda(const char* file, std::string_view dati) {
 std::string LogTraffico::Ora() const {
     if (!conOra_)
         return {};
-    return "\t" + TestoFisso(ambiente_.Calendario().secondiDelGiorno, 2) + "\t";
+    std::string ora = "\t";
+    return ora.append(TestoFisso(ambiente_.Calendario().secondiDelGiorno, 2)).append("\t");
 }
 
 } // namespace orvane
