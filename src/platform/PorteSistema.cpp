@@ -33,6 +33,7 @@ constexpr std::array kTipi = {
 };
 constexpr std::string_view kNomeGenerico = "Serial Port";
 constexpr int kUltimoLegame = 99;
+constexpr int kUltimoIndice = 9999;
 
 struct Dispositivo {
     const TipoDispositivo* tipo = nullptr;
@@ -41,12 +42,12 @@ struct Dispositivo {
     fs::path percorso;
 };
 
-/// A whole number without sign or leading blanks, from end to end.
+/// A whole number up to `kUltimoIndice`, digits from end to end.
 std::optional<int> LeggiCifre(std::string_view testo) {
     int valore = 0;
     const char* fine = testo.data() + testo.size();
     const auto [dove, errore] = std::from_chars(testo.data(), fine, valore);
-    if (errore != std::errc() || dove != fine || valore < 0)
+    if (errore != std::errc() || dove != fine || valore < 0 || valore > kUltimoIndice)
         return std::nullopt;
     return valore;
 }
