@@ -150,15 +150,15 @@ class Peer:
 
     regole: replies by the beginning of a command without "#" ("?IDN", "SDIS"); text gets its CR LF,
     bytes go as they are, None is silence, a list is worked off and its last entry stays, a callable
-    is asked. ritardo: seconds before each reply. spezza: every byte by itself. flussi: a Flusso for
-    each sweep command, the last one stays."""
+    is asked. muto: no reply to anything. ritardo: seconds before each reply. spezza: every byte by
+    itself. flussi: a Flusso for each sweep command, the last one stays."""
 
-    def __init__(self, modello="5520", fw=FIRMWARE, regole=None, flussi=None, ritardo=0.0,
-                 spezza=False):  # fmt: skip
+    def __init__(self, modello="5520", fw=FIRMWARE, regole=None, flussi=None, muto=False,
+                 ritardo=0.0, spezza=False):  # fmt: skip
         testi = {nome: testo.format(fw=fw) for nome, testo in MODELLI[modello].items()}
         self.regole = {**COMUNI, **testi, **(regole or {})}
         self.flussi = list(flussi or [Flusso()])
-        self.ritardo, self.spezza = ritardo, spezza
+        self.muto, self.ritardo, self.spezza = muto, ritardo, spezza
         self.comandi, self.tempi, self.estranei = [], [], b""
         self.campioni = []  # samples of each sweep, as far as they went out
         self.staccato = False
@@ -242,6 +242,8 @@ class Peer:
             self._Esegui(comando)
 
     def _Esegui(self, comando):
+        if self.muto:
+            return
         if comando.startswith("#SSFD") and "SSFD" not in self.regole:
             flusso = self.flussi.pop(0) if len(self.flussi) > 1 else self.flussi[0]
             self.campioni.append(bytearray())
