@@ -52,7 +52,8 @@ double ColonneTraccia::Frequenza(int i) const {
 
 bool ColonneTraccia::Trova(double freqMhz) {
     const double ultimo = bordi_.back();
-    if (!(freqMhz >= bordi_.front() - kTolleranzaMhz && freqMhz <= ultimo + kTolleranzaMhz))
+    if (!std::isfinite(freqMhz) || freqMhz < bordi_.front() - kTolleranzaMhz ||
+        freqMhz > ultimo + kTolleranzaMhz)
         return false;
     for (size_t passo = 0; passo < kPassiVicini && qui_ + 1 < estremi_.size(); ++passo)
         if (Dentro(++qui_, freqMhz))

@@ -27,6 +27,8 @@ constexpr double kStampaLarghezza = 2;
 /// Height of a label's place, in text heights; free width between two labels, in pixels.
 constexpr double kPostoLivello = 1.2;
 constexpr double kFraFrequenze = 10;
+/// From 1 to 2, the narrowest step between labels, in decades.
+constexpr double kUnoADue = 0.301;
 
 /// In the order of the pairs in `GraphColors`, and of painting: what counts more lies on top.
 enum class GenereLinea { Punteggiata, Sub, Principale };
@@ -160,15 +162,22 @@ void ScriviFrequenze(Superficie& superficie, const ScalaGrafico& scala, const Pa
                      const TintaGrafico& tinta) {
     FilaEtichette fila(superficie, tinta, scala.basso - kStaccoFrequenza * passo.y, passo.x);
     const std::vector<Tacca> tacche = TaccheAsse(scala);
-    for (const bool decade : {true, false})
+    const auto scrivi = [&](bool decade) {
         for (const Tacca& tacca : tacche)
             if (tacca.decade == decade && !tacca.etichetta.empty())
                 fila.Scrivi(FreqToX(scala, tacca.freqMhz), tacca.etichetta);
+    };
+    scrivi(true);
+    // All of a decade or none: a lone 2 here and there would only puzzle.
+    const double larga = superficie.DimensioneTesto("500 M", tinta.altezzaTesto).x + kFraFrequenze;
+    const double unoADue = scala.XScale * kLog10App * kUnoADue / passo.x;
+    if (!scala.logaritmica || unoADue > larga || fila.Quante() < 2)
+        scrivi(false);
     // A narrow span may hold no line worth a number: then its ends tell where it lies.
-    if (fila.Quante() < 2 && !tacche.empty())
+    if (fila.Quante() < 2 && scala.XScale > 0) {
         fila.Scrivi(0, FormatFreqLabel(scala.start));
-    if (fila.Quante() < 2 && !tacche.empty())
         fila.Scrivi(scala.larghezzaPixel, FormatFreqLabel(scala.stop));
+    }
 }
 
 } // namespace

@@ -105,10 +105,10 @@ bool Porta::ApriBluetooth() {
     return false;
 }
 
+/// The link stays chosen even where the port does not come back yet: the next failure tries again.
 void Porta::RiapriBluetooth() {
     vettori_.seriale->Chiudi();
-    const bool riuscita = ApriNumero(vettori_, link.NumeroCom) == EsitoApertura::Aperto;
-    aperto_ = riuscita ? Aperto::Bluetooth : Aperto::Niente;
+    ApriNumero(vettori_, link.NumeroCom);
     Attendi(ambiente_, kAttesaRiapertura);
 }
 
@@ -203,7 +203,8 @@ void Porta::SvuotaRicezione() {
 }
 
 bool Porta::Aperta() const {
-    return aperto_ != Aperto::Niente;
+    const FlussoByte* flusso = Flusso();
+    return aperto_ == Aperto::Usb || (flusso && flusso->Aperto());
 }
 
 bool Porta::Seriale() const {
@@ -212,7 +213,11 @@ bool Porta::Seriale() const {
 
 std::optional<size_t> Porta::Arretrato() {
     FlussoByte* flusso = Flusso();
-    return flusso ? flusso->DaSpedire() : std::nullopt;
+    const auto arretrato = flusso ? flusso->DaSpedire() : std::nullopt;
+    if (arretrato || aperto_ != Aperto::Bluetooth)
+        return arretrato;
+    RiapriBluetooth();
+    return flusso->DaSpedire();
 }
 
 std::string Porta::Descrizione() const {

@@ -22,6 +22,7 @@ public:
     }
     Json& Coppia(std::string_view nome, const char* valore) { return Chiave(nome).Testo(valore); }
     Json& Coppia(std::string_view nome, double valore) { return Chiave(nome).Numero(valore); }
+    Json& Coppia(std::string_view nome, int valore) { return Chiave(nome).Numero(valore); }
     Json& Coppia(std::string_view nome, bool valore) { return Chiave(nome).Logico(valore); }
 
     const std::string& Documento() const { return testo_; }

@@ -27,7 +27,7 @@ std::string TestoAvanzamento(const Avanzamento& a, double freqMhz, int16_t livel
 
 std::string EventoAvanzamento(const Avanzamento& a) {
     Json json;
-    json.Oggetto().Coppia("event", "progress").Coppia("line", a.riga + 1.0);
+    json.Oggetto().Coppia("event", "progress").Coppia("line", a.riga + 1);
     json.Coppia("lines", static_cast<double>(a.numRighe));
     json.Coppia("steps", static_cast<double>(a.passiRiga));
     json.Coppia("steps_of", static_cast<double>(a.totaleRiga));

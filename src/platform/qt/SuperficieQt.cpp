@@ -24,14 +24,6 @@ constexpr double kTrattino[] = {4, 3};
 __attribute__((target("avx"))) void AzzeraMetaAlte() {
     _mm256_zeroupper();
 }
-/// Fills and polylines may leave the upper halves of the wide registers in use. Numeric loops run
-/// many times slower from then on, until they are cleared.
-void LiberaRegistri() {
-    if (__builtin_cpu_supports("avx"))
-        AzzeraMetaAlte();
-}
-#else
-void LiberaRegistri() {}
 #endif
 
 QPen PennaQt(const Penna& penna) {
@@ -96,6 +88,13 @@ QImage DipingiTriangolo(const Triangolo& triangolo, const QRect& riquadro) {
 
 } // namespace
 
+void LiberaRegistri() {
+#if defined(__x86_64__) || defined(__i386__)
+    if (__builtin_cpu_supports("avx"))
+        AzzeraMetaAlte();
+#endif
+}
+
 QColor ColoreQt(int32_t colore) {
     return QColor(colore & 0xff, colore >> 8 & 0xff, colore >> 16 & 0xff);
 }
@@ -103,6 +102,11 @@ QColor ColoreQt(int32_t colore) {
 SuperficieQt::SuperficieQt(QPainter& painter, double larghezza, double altezza)
     : painter_(painter), larghezza_(larghezza), altezza_(altezza),
       dispositivo_(painter.deviceTransform()) {
+    // A mirrored or turned painter has no such pixels; it draws as it comes.
+    if (dispositivo_.m11() > 0 && dispositivo_.m22() > 0) {
+        orizzontale_ = {.scala = dispositivo_.m11(), .inizio = dispositivo_.dx()};
+        verticale_ = {.scala = dispositivo_.m22(), .inizio = dispositivo_.dy()};
+    }
     painter_.setRenderHint(QPainter::Antialiasing, true);
     painter_.setRenderHint(QPainter::TextAntialiasing, true);
 }
@@ -123,34 +127,41 @@ QPointF SuperficieQt::Pixel(Punto p) const {
     return {(p.x - origine_.x) * scalaX_, (p.y - origine_.y) * scalaY_};
 }
 
-/// The nearest place for a stroke's middle where its edges fall between pixels of the device.
-double SuperficieQt::CentroTratto(double v, bool orizzontale, double larghezza) const {
-    const double scala = orizzontale ? dispositivo_.m22() : dispositivo_.m11();
-    const double inizio = orizzontale ? dispositivo_.dy() : dispositivo_.dx();
-    if (!(scala > 0))
-        return v;
-    const double pixel = v * scala + inizio;
-    const bool dispari = std::lround(std::max(1.0, larghezza * scala)) % 2 != 0;
-    return ((dispari ? std::floor(pixel + 1e-6) + 0.5 : std::round(pixel)) - inizio) / scala;
+double SuperficieQt::Retino::Pixel(double v) const {
+    // A place that is meant to be an edge may lie a rounding below it.
+    constexpr double kInezia = 1e-6;
+    return (std::floor(v * scala + inizio + kInezia) - inizio) / scala;
 }
 
-double SuperficieQt::BordoIntero(double v, bool orizzontale) const {
-    const double scala = orizzontale ? dispositivo_.m22() : dispositivo_.m11();
-    const double inizio = orizzontale ? dispositivo_.dy() : dispositivo_.dx();
-    return scala > 0 ? (std::round(v * scala + inizio) - inizio) / scala : v;
+double SuperficieQt::Retino::Bordo(double v) const {
+    return (std::round(v * scala + inizio) - inizio) / scala;
+}
+
+double SuperficieQt::Retino::Spessore(double larghezza) const {
+    return std::max(1.0, std::round(larghezza * scala)) / scala;
 }
 
 void SuperficieQt::Linea(Punto da, Punto a, const Penna& penna) {
     QPointF inizio = Pixel(da);
     QPointF fine = Pixel(a);
+    QPen qt = PennaQt(penna);
+    // Along the axes a line covers whole pixels, those at both ends included, so that corners meet.
     if (inizio.y() == fine.y()) {
-        inizio.setY(CentroTratto(inizio.y(), true, penna.larghezza));
-        fine.setY(inizio.y());
+        const double spessore = verticale_.Spessore(penna.larghezza);
+        const double y = verticale_.Pixel(inizio.y()) + spessore / 2;
+        const auto [sinistra, destra] = std::minmax({inizio.x(), fine.x()});
+        qt.setWidthF(spessore);
+        inizio = {orizzontale_.Pixel(sinistra), y};
+        fine = {orizzontale_.Pixel(destra) + spessore, y};
     } else if (inizio.x() == fine.x()) {
-        inizio.setX(CentroTratto(inizio.x(), false, penna.larghezza));
-        fine.setX(inizio.x());
+        const double spessore = orizzontale_.Spessore(penna.larghezza);
+        const double x = orizzontale_.Pixel(inizio.x()) + spessore / 2;
+        const auto [alto, basso] = std::minmax({inizio.y(), fine.y()});
+        qt.setWidthF(spessore);
+        inizio = {x, verticale_.Pixel(alto)};
+        fine = {x, verticale_.Pixel(basso) + spessore};
     }
-    painter_.setPen(PennaQt(penna));
+    painter_.setPen(qt);
     painter_.drawLine(inizio, fine);
 }
 
@@ -167,8 +178,8 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
 QRectF SuperficieQt::RettangoloPixel(Punto angolo, Punto opposto) const {
     QPointF a = Pixel(angolo);
     QPointF b = Pixel(opposto);
-    a = {BordoIntero(a.x(), false), BordoIntero(a.y(), true)};
-    b = {BordoIntero(b.x(), false), BordoIntero(b.y(), true)};
+    a = {orizzontale_.Bordo(a.x()), verticale_.Bordo(a.y())};
+    b = {orizzontale_.Bordo(b.x()), verticale_.Bordo(b.y())};
     return QRectF(a, b).normalized();
 }
 
@@ -198,7 +209,7 @@ void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, in
     const QFontMetricsF misure(font, painter_.device());
     const QString scritta = QString::fromStdString(testo);
     QPointF base = Pixel(dove) + InizioTesto(ancora, misure.horizontalAdvance(scritta), misure);
-    base = {BordoIntero(base.x(), false), BordoIntero(base.y(), true)};
+    base = {orizzontale_.Bordo(base.x()), verticale_.Bordo(base.y())};
     painter_.setFont(font);
     painter_.setPen(ColoreQt(colore));
     painter_.drawText(base, scritta);

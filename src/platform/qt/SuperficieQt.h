@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPainter>
+#include <QTransform>
 
 #include "graph/Superficie.h"
 
@@ -11,6 +12,11 @@ namespace orvane {
 
 /// The colour that `Rgb` packed.
 QColor ColoreQt(int32_t colore);
+
+/// Qt's start-up, opaque fills and polylines may leave the upper halves of the wide registers in
+/// use. Numeric loops run many times slower from then on, until this clears them. The surface does
+/// so at its end; worth a call before other long arithmetic.
+void LiberaRegistri();
 
 /// Paints with an active painter, which it must not outlive. Lines along the axes and rectangles
 /// fall on whole pixels of the device, whatever its pixel ratio.
@@ -36,15 +42,27 @@ public:
     void FineRitaglio() override;
 
 private:
+    /// One direction of the device: its pixels against logical ones.
+    struct Retino {
+        double scala = 1;
+        double inizio = 0;
+        /// Logical place where the pixel under `v` begins.
+        double Pixel(double v) const;
+        /// Logical place of the nearest edge between two pixels.
+        double Bordo(double v) const;
+        /// Logical width of the whole pixels, at least one, that come nearest to a width.
+        double Spessore(double larghezza) const;
+    };
+
     QPointF Pixel(Punto p) const;
     QRectF RettangoloPixel(Punto angolo, Punto opposto) const;
-    double CentroTratto(double v, bool orizzontale, double larghezza) const;
-    double BordoIntero(double v, bool orizzontale) const;
 
     QPainter& painter_;
     double larghezza_;
     double altezza_;
     QTransform dispositivo_; ///< logical pixels to those of the device
+    Retino orizzontale_;
+    Retino verticale_;
     double scalaX_ = 1;
     double scalaY_ = 1;
     Punto origine_;
