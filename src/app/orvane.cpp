@@ -105,7 +105,9 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
     VistaTerminale vista(ambiente, std::cerr, isatty(STDERR_FILENO) != 0, o.json);
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
+    bool interrotto = false;
     ambiente.alInterrompi = [&](int quante) {
+        interrotto = true;
         if (corsa.SweepInCorso && quante == 1)
             ChiediStop(corsa);
         else
@@ -121,6 +123,7 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
                 .vista = vista,
                 .catalogo = collegamento.Catalogo(),
                 .linkScelto = !o.link.empty(),
+                .interrotto = interrotto,
                 .dati = std::cout,
                 .messaggi = std::cerr,
                 .json = o.json};
