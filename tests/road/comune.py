@@ -32,12 +32,13 @@ class Esito:
 class Corsa:
     """A program under way, its outputs going to files."""
 
-    def __init__(self, argomenti, cartella=None, programma="orvane"):
-        self._out, self._err = tempfile.TemporaryFile(), tempfile.TemporaryFile()
+    def __init__(self, argomenti, cartella=None, uscita=None, senza_segnali=False):
+        """senza_segnali: a file over its limit is an error of the write, as a full disk is."""
+        self._out, self._err = uscita or tempfile.TemporaryFile(), tempfile.TemporaryFile()
         self._inizio = time.monotonic()
         self.processo = subprocess.Popen(
-            [PROGRAMMI / programma, *argomenti], stdin=subprocess.DEVNULL, stdout=self._out,
-            stderr=self._err, cwd=cartella,
+            [PROGRAMMI / "orvane", *argomenti], stdin=subprocess.DEVNULL, stdout=self._out,
+            stderr=self._err, cwd=cartella, restore_signals=not senza_segnali,
         )  # fmt: skip
 
     def Segnala(self, segnale=signal.SIGINT):
@@ -64,8 +65,11 @@ class Corsa:
 
     @staticmethod
     def _Testo(file):
-        file.seek(0)
-        return file.read().decode()
+        if not file.readable():
+            return ""
+        with file:
+            file.seek(0)
+            return file.read().decode()
 
 
 class ProvaStrada(unittest.TestCase):

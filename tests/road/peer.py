@@ -72,18 +72,20 @@ class Flusso:
     taglia: falls silent behind so many; chiudi: takes the line away behind so many; intestazione:
     bytes of the 5520F before the samples, or a step in Hz to make them of; pezzi: the stream goes
     out in blocks of so many bytes, `pausa` seconds apart; tagli_fine: where the end mark is torn;
-    coda: what follows the mark; tieni: never ends by itself, samples come until aborted."""
+    coda: what follows the mark; fine: whether the mark comes, if not by itself; tieni: samples come
+    until aborted."""
 
     def __init__(self, livello=Livello, riscontro=b"SFD=OK\r\n", intestazione=None, passi=None,
                  pezzi=4096, pausa=0.0, tagli_fine=(), taglia=None, chiudi=None, coda=b"",
-                 muta=False, tieni=False):  # fmt: skip
+                 fine=None, tieni=False):  # fmt: skip
         self.livello, self.riscontro, self.passi = livello, riscontro, passi
         self.intestazione = intestazione
         if isinstance(intestazione, float):
             self.intestazione = struct.pack("<f", intestazione) + bytes(range(28))
         self.pezzi, self.pausa, self.tagli_fine = pezzi, pausa, tagli_fine
         self.taglia, self.chiudi, self.coda = taglia, chiudi, coda
-        self.muta, self.tieni = muta, tieni
+        self.tieni = tieni
+        self.fine = taglia is None and chiudi is None if fine is None else fine
 
     def Campioni(self, passi, detector):
         return b"".join(
@@ -99,7 +101,7 @@ class Flusso:
     def Pezzi(self, comando):
         """Bytes to send, seconds to wait, or "chiudi", in order."""
         yield self.riscontro
-        if not b"OK" in self.riscontro or self.muta:
+        if b"OK" not in self.riscontro:
             return
         if self.intestazione:
             yield self.intestazione
@@ -117,7 +119,7 @@ class Flusso:
         if self.chiudi is not None:
             yield 0.05
             yield "chiudi"
-        if self.taglia is not None:
+        if not self.fine:
             return
         fine, da = b"SFD_END", 0
         for taglio in (*self.tagli_fine, len(fine)):
@@ -200,6 +202,8 @@ class Peer:
     def _Gira(self):
         while not self.staccato:
             self._Carica()
+            if self.staccato:
+                return
             resto = self._libero - time.monotonic()
             scrivere = bool(self._coda) and resto <= 0
             attesa = max(resto, 0) if self._coda or self._flusso else 1.0

@@ -11,16 +11,16 @@ BCD = ["#?BCD*", *OPZIONI]
 
 # model of the peer: commands between start and serial number; model, extension, mil, fmin, fmax.
 FORME = {
-    "5520": (BCD, "5520", "none", "yes", "1e-05", "30.1"),
+    "5520": (BCD, "5520", "none", "yes", "0.00001", "30.1"),
     "5540": (BCD, "5540", "5540", "yes", "28", "3000"),
     "5570": (BCD, "5570", "5570", "yes", "28", "6000"),
     "5590": (BCD, "5590", "5590", "yes", "6000.001", "18000"),
     "5520+GX2207": (BCD, "5/GX2207", "none", "yes", "0.009", "30.1"),
-    "K3X low": (["#?BCD*", "#?3PR*", *OPZIONI], "5520/K3X", "none", "yes", "1e-05", "30.1"),
-    "60 OEM low": (["#?BCD*", "#?3PR*", *OPZIONI], "OEM", "none", "yes", "1e-05", "30.1"),
-    "5520F": (["#?CO6*", *OPZIONI], "5520/60OEM", "none", "yes", "1e-05", "30.1"),
+    "K3X low": (["#?BCD*", "#?3PR*", *OPZIONI], "5520/K3X", "none", "yes", "0.00001", "30.1"),
+    "60 OEM low": (["#?BCD*", "#?3PR*", *OPZIONI], "OEM", "none", "yes", "0.00001", "30.1"),
+    "5520F": (["#?CO6*", *OPZIONI], "5520/60OEM", "none", "yes", "0.00001", "30.1"),
     "5520F rad": (["#?CO6*", *OPZIONI], "5520/60OEM", "none", "yes", "28", "6000"),
-    "VSD3": (["#?LNK*", "#?CO6*", *OPZIONI], "5520/VSD3", "none", "yes", "1e-05", "30.1"),
+    "VSD3": (["#?LNK*", "#?CO6*", *OPZIONI], "5520/VSD3", "none", "yes", "0.00001", "30.1"),
     "T4470K": (["#?LNK*", "#?CO6*", *OPZIONI], "5520/T4470K", "none", "yes", "30", "6000"),
     "GX2207": (BCD, "GX2207", "none", "yes", "0.009", "30.1"),
     "TB05": (BCD, "GX2207", "none", "yes", "0.009", "30.1"),
