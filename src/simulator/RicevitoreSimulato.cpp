@@ -254,6 +254,10 @@ const std::vector<std::string>& RicevitoreSimulato::Comandi() const {
     return io_->comandi;
 }
 
+void RicevitoreSimulato::DimenticaComandi() {
+    io_->comandi.clear();
+}
+
 std::string RicevitoreSimulato::Valore(std::string_view nome) const {
     return ValoreOppure(io_->memoria, nome, "");
 }

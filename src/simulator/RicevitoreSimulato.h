@@ -82,8 +82,9 @@ public:
     void Aggiungi(const Capriccio& capriccio);
     void Scorda(); ///< drops all misbehaviours
 
-    /// Every whole command that arrived, in order.
+    /// Every whole command that arrived, in order, since the last `DimenticaComandi`.
     const std::vector<std::string>& Comandi() const;
+    void DimenticaComandi();
     /// What a setter left behind, by the three letters of its name; empty if it never came.
     std::string Valore(std::string_view nome) const;
     /// A table that was uploaded and closed by "LIC", "CFE" or "LIE" under a slot (0: custom): its
