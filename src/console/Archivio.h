@@ -11,9 +11,9 @@ namespace orvane {
 struct MisuraAperta {
     std::string nome;
     SweepHeader header;
-    SweepTrace traccia; ///< lines merged by the first detector in use
+    SweepTrace traccia;                        ///< lines merged by the first detector in use
     std::array<bool, kNumDetector> detector{}; ///< those that any line measured
-    double startMhz = 0; ///< span of all lines in use
+    double startMhz = 0;                       ///< span of all lines in use
     double stopMhz = 0;
     bool leggibile = false; ///< the header is there and whole
 };

@@ -1,8 +1,10 @@
 // The life of the console: start-up, the modes and the way between them, the confirmed exit.
 #pragma once
 
-#include <functional>
+#include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "data/Scrivania.h"
 #include "link/Identificazione.h"
@@ -39,6 +41,9 @@ struct StatoConsole {
     int16_t ModoPrecedente = 0;
     bool ChiusuraInCorso = false;
     bool uscitaChiesta = false; ///< the exit box is up
+    bool avvioInCorso = false;  ///< a live mode is opening the link
+    /// The tab to go to once what is under way has unwound.
+    std::optional<Modalita> schedaChiesta = {};
 };
 
 struct Console {
@@ -54,8 +59,8 @@ struct Console {
 const std::array<std::string, 7>& TabelleUnita();
 
 /// The order of launch up to the loaded panels: `InitForm`, then the main window's own load. What
-/// was damaged is repaired and told once it is read.
-void AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan);
+/// was damaged is repaired; the result tells of it, a sentence each.
+std::vector<std::string> AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan);
 /// `VisualizzazioneIniziale`: shows the first mode.
 void VisualizzazioneIniziale(Console& c);
 

@@ -1,5 +1,5 @@
-// The rules behind the window `FrmRemoteLink`: which link and which COM port, saved at once, and put
-// back when the user cancels.
+// The rules behind the window `FrmRemoteLink`: which link and which COM port, saved at once, and
+// put back when the user cancels.
 #pragma once
 
 #include <string>

@@ -73,4 +73,14 @@ std::array<ModelCaps, 2> ImpostaModelCaps(const ReceiverModel& modello);
 /// Whether the model carries a battery that answers.
 bool HaBatteria(const ReceiverModel& modello);
 
+/// Whether one instrument has a conducted and a radiated input, switched by command.
+inline bool HaCondottoERadiato(const ReceiverModel& modello) {
+    return modello.HaK3XK6X || modello.Is3360 || modello.ModelloOEM != 0;
+}
+
+/// Whether the tracking generator takes commands.
+inline bool HaGeneratore(const ReceiverModel& modello) {
+    return !modello.Is3360 && !modello.Is5520F && modello.TipoFrontEnd < 2;
+}
+
 } // namespace orvane

@@ -10,6 +10,7 @@
 #include "data/Scrivania.h"
 #include "link/Ricevitore.h"
 #include "records/ScanRecord.h"
+#include "setup/PreVolo.h"
 
 namespace orvane {
 
@@ -39,12 +40,11 @@ struct Avanzamento {
     double restanoS = -1; ///< measured from the speed so far; -1 while unknown
 };
 
-/// What a run says to its window.
-struct VistaCorsa {
-    virtual ~VistaCorsa() = default;
+/// What a run says to its window, besides what its checks show in the grid.
+struct VistaCorsa : VistaGriglia {
     /// Captions and enabled controls follow from the phase.
     virtual void MostraFase(FaseCorsa fase) = 0;
-    /// The axis spans these frequencies (MHz); what was drawn is gone.
+    /// The axis spans the lines of this table; what was drawn is gone.
     virtual void IniziaTraccia(const ScanTable& tabella, const std::string& misura) = 0;
     /// New steps of the current line, the first of them at `freqMhz`, one each `passoMhz`.
     virtual void AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
@@ -53,12 +53,6 @@ struct VistaCorsa {
     virtual void MostraFreqLivello(double freqMhz, int16_t livelloCent) = 0;
     virtual void MostraAvanzamento(const Avanzamento& avanzamento) = 0;
     virtual void MostraBatteria(const std::string& livello) = 0;
-    /// The scan table was changed by a check: the grid must show it.
-    virtual void AggiornaGriglia() = 0;
-    /// Marks or clears a cell of the grid. `colonna` as `ColonnaScan`.
-    virtual void EvidenziaCella(int riga, int colonna, bool errata) = 0;
-    /// The receiver has been identified.
-    virtual void MostraModello() = 0;
 };
 
 enum class EsitoCorsa {

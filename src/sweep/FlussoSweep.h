@@ -58,7 +58,8 @@ public:
 
 private:
     bool LeggiRiscontro(Accumulo& dati);
-    bool LeggiIntestazione(Accumulo& dati);
+    void LeggiIntestazione(Accumulo& dati);
+    void Decodifica(std::span<const uint8_t> dati, size_t interi);
     void LeggiCampioni(Accumulo& dati,
                        const std::function<void(std::span<const SampleRecord>)>& passi);
 

@@ -1,0 +1,64 @@
+#include "sweep/Progresso.h"
+
+#include <algorithm>
+
+#include "setup/TabellaScan.h"
+
+namespace orvane {
+namespace {
+
+// What a step takes besides its hold time: tuning and the way over the link, in ms.
+constexpr double kMsPerPasso = 0.1;
+// Below this share the speed so far tells nothing yet.
+constexpr double kFrazioneMinima = 0.005;
+
+} // namespace
+
+Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella)
+    : ambiente_(ambiente), inizio_(ambiente.Adesso()) {
+    for (size_t i = 0; i < RigheInUso(tabella); ++i) {
+        const ScanLine& riga = tabella[i];
+        const PesoRiga peso{.passi = PassiDellaRiga(riga),
+                            .perPasso = std::max<double>(riga.HoldTime, 0) + kMsPerPasso};
+        totale_ += static_cast<double>(peso.passi) * peso.perPasso;
+        righe_.push_back(peso);
+    }
+}
+
+void Progresso::IniziaRiga(int riga) {
+    riga_ = riga;
+    passiRiga_ = 0;
+}
+
+void Progresso::CorreggiRiga(long long passi) {
+    PesoRiga& peso = righe_[static_cast<size_t>(riga_)];
+    if (passi <= 0 || peso.passi <= 0)
+        return;
+    // The line takes the time it was going to take, in other steps.
+    peso.perPasso *= static_cast<double>(peso.passi) / static_cast<double>(passi);
+    peso.passi = passi;
+}
+
+void Progresso::FineRiga() {
+    finite_ += PesoFatto();
+    passiRiga_ = 0;
+}
+
+double Progresso::PesoFatto() const {
+    const PesoRiga& peso = righe_[static_cast<size_t>(riga_)];
+    return static_cast<double>(std::min(passiRiga_, peso.passi)) * peso.perPasso;
+}
+
+Avanzamento Progresso::Adesso() const {
+    Avanzamento ora{.riga = riga_, .numRighe = static_cast<int>(righe_.size())};
+    ora.passiRiga = passiRiga_;
+    ora.totaleRiga = righe_.empty() ? 0 : righe_[static_cast<size_t>(riga_)].passi;
+    ora.trascorsiS = ambiente_.Adesso() - inizio_;
+    if (totale_ > 0)
+        ora.frazione = std::min(1.0, (finite_ + PesoFatto()) / totale_);
+    if (ora.frazione >= kFrazioneMinima)
+        ora.restanoS = ora.trascorsiS * (1 - ora.frazione) / ora.frazione;
+    return ora;
+}
+
+} // namespace orvane
