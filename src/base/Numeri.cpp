@@ -12,7 +12,9 @@ namespace {
 template <class T> std::string Corto(T valore) {
     char buffer[400];
     const double grandezza = std::abs(static_cast<double>(valore));
-    const bool fisso = grandezza == 0 || (grandezza < 1e17 && grandezza > 1e-16);
+    if (grandezza == 0)
+        return "0";
+    const bool fisso = grandezza < 1e17 && grandezza >= 1e-20;
     const auto esito = std::to_chars(buffer, buffer + sizeof buffer, valore,
                                      fisso ? std::chars_format::fixed : std::chars_format::general);
     return std::string(buffer, esito.ptr);
@@ -20,7 +22,7 @@ template <class T> std::string Corto(T valore) {
 
 /// The longest leading part of `testo` that reads as a decimal number; `usati` tells its length.
 std::optional<double> Prefisso(std::string_view testo, size_t& usati) {
-    const size_t segno = !testo.empty() && testo[0] == '+' ? 1 : 0;
+    const size_t segno = testo.starts_with('+') && !testo.starts_with("+-") ? 1 : 0;
     double valore = 0;
     const auto esito = std::from_chars(testo.data() + segno, testo.data() + testo.size(), valore);
     usati = static_cast<size_t>(esito.ptr - testo.data());

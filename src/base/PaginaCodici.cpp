@@ -13,6 +13,9 @@ constexpr std::array<char16_t, 32> kAlti = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+// The least character that needs so many bytes; a longer form of a smaller one is no text.
+constexpr std::array<uint32_t, 5> kPrimoPunto = {0, 0, 0x80, 0x800, 0x10000};
+
 void Accoda(std::string& testo, char16_t punto) {
     if (punto < 0x80) {
         testo += static_cast<char>(punto);
@@ -46,6 +49,10 @@ uint32_t Prossimo(std::string_view testo, size_t& lunghezza) {
             return ~0u;
         }
         punto = punto << 6 | (seguente & 0x3F);
+    }
+    if (punto < kPrimoPunto[lunghezza]) {
+        lunghezza = 1;
+        return ~0u;
     }
     return punto;
 }

@@ -55,6 +55,23 @@ std::vector<std::string> AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& sca
     return avvisi;
 }
 
+void AvviaInLettura(Scrivania& s, LinkPort& link, bool linkScelto) {
+    ApplicaEnv(s.env, false);
+    s.setup = SetupDefault();
+    if (s.albero.Esiste(kPannelloEPN)) {
+        CaricaPanelEPN(s, kPannelloEPN);
+        ControllaParStand(s.env);
+    }
+    if (s.albero.Esiste(kPannelloEAM)) {
+        CaricaPanelEAM(s, kPannelloEAM);
+        ControllaSetup(s.setup);
+    }
+    if (linkScelto)
+        return;
+    link.TipoLink = s.env.LinkKind;
+    link.NumeroCom = s.env.LinkPort;
+}
+
 void VisualizzazioneIniziale(Console& c) {
     c.stato.ModoPrecedente = static_cast<int16_t>(c.stato.modalita);
     SalvaPanelEPN(c.scrivania, kPannelloEPN);

@@ -21,22 +21,29 @@ public:
     const std::filesystem::path& Radice() const { return radice_; }
 
     /// Host path of a tree path, absolute (behind `DataRoot`) or relative to it. Each part that
-    /// exists under another case is taken as it stands on disk. A part ".." is refused: it gives
-    /// a path that does not exist.
+    /// exists under another case is taken as it stands on disk, the exact case first; the rest
+    /// keeps the case that was asked for. A part "..", a drive or an absolute path from elsewhere
+    /// is refused: the result is then a name below the root that no file system can hold.
     std::filesystem::path Host(std::string_view percorso) const;
 
-    bool Esiste(std::string_view percorso) const;
+    /// The path as boxes show it: `DataRoot` and the relative path, with backslashes.
+    std::string PercorsoIntero(std::string_view percorso) const;
+
+    bool Esiste(std::string_view percorso) const; ///< a file, not a directory
     bool EsisteCartella(std::string_view percorso) const;
     /// Creates the directory with those above it; errors are ignored.
     void AssicuraCartella(std::string_view percorso) const;
-    /// The bytes of a file; empty when it cannot be read.
-    std::optional<std::vector<uint8_t>> Leggi(std::string_view percorso) const;
+    /// The bytes of a file, at most `alPiu` of them; empty when it cannot be read.
+    std::optional<std::vector<uint8_t>> Leggi(std::string_view percorso,
+                                              size_t alPiu = SIZE_MAX) const;
     /// Writes a temporary file beside the target and renames it over: a failed write leaves the
     /// old file. False on failure.
     bool Salva(std::string_view percorso, std::span<const uint8_t> dati) const;
+    /// Over an old file too, which stays when the copy fails.
     bool Copia(std::string_view da, std::string_view a) const;
-    /// Missing files are no failure.
+    /// A missing file is no failure; a directory is.
     bool Cancella(std::string_view percorso) const;
+    /// With all that is in it; never the root itself.
     void CancellaCartella(std::string_view percorso) const;
 
     /// Names in a directory, sorted without regard to case; files with this extension (with its
@@ -46,6 +53,9 @@ public:
     std::vector<std::string> ElencaCartelle(std::string_view cartella) const;
 
 private:
+    /// The path below the root, without `DataRoot`; empty when it leads elsewhere.
+    std::optional<std::string> Relativo(std::string_view percorso) const;
+
     std::filesystem::path radice_;
     std::string dataRoot_;
 };

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "data/ControllaRecord.h"
 #include "data/Scrivania.h"
 #include "records/ScanRecord.h"
 
@@ -11,14 +12,17 @@ namespace orvane {
 
 inline constexpr std::string_view kPannelloEPN = "Panels\\Untitled.EPN";
 inline constexpr std::string_view kPannelloEAM = "Panels\\Untitled.EAM";
+inline constexpr std::string_view kPannelloEST = "Panels\\Untitled.EST";
 inline constexpr std::string_view kPannelloPTH = "Panels\\Untitled.PTH";
+inline constexpr std::string_view kSweepUntitled = "Sweep\\Untitled\\Untitled.KSH";
 
 /// Path of a panel by its bare name: "Panels\<nome>.<estensione>".
 std::string PercorsoPannello(std::string_view nome, std::string_view estensione);
 
 // Loading: an absent file is written with the defaults and is no failure; a short or unreadable
 // one shows "Failed loading" and the path, keeps what was read, and gives false. Saving: a failure
-// shows "Cannot open file " and the path, and the old file stays.
+// shows "Cannot open file " and the path, and the old file stays. What was loaded has been made
+// harmless by the checks of `data/ControllaRecord.h`; a file in order is taken as it stands.
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso);
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso);
 bool CaricaPanelEAM(Scrivania& s, std::string_view percorso);
@@ -31,9 +35,8 @@ bool SalvaPathPTH(Scrivania& s);
 /// `caricato` false sets the default colours first.
 void ApplicaEnv(EnvRecord& env, bool caricato);
 void ImpostaColoriDefault(EnvRecord& env);
+/// The record of a console that has no EAM yet.
 SetupRecord SetupDefault();
-/// Makes every stored value harmless: colours, integers, offsets, names. True if any was changed.
-bool ControllaParStand(EnvRecord& env);
 /// The last line of "Orvane Console.DAT"; empty without the file.
 void LeggiDatiSetup(Scrivania& s);
 

@@ -32,7 +32,14 @@ struct RiquadroGriglia {
 /// Leaves room for the labels of this scale.
 RiquadroGriglia DisponiGriglia(const Superficie& superficie, const TintaGrafico& tinta);
 
-/// Draws the horizontal and vertical lines, then the numbers and units along the axes.
+/// Sets user coordinates for whatever belongs into the grid: x in pixels of the scale from the
+/// grid's left edge, y in hundredths of a dB as the labels read. False, and nothing set, when there
+/// is no grid: no size, or no range.
+bool ImpostaCoordinate(Superficie& superficie, const ScalaGrafico& scala,
+                       const RiquadroGriglia& dove);
+
+/// Fills the picture with the background and draws the horizontal and vertical lines; `GridLabel`
+/// writes the numbers and units along the axes. Both leave the coordinates set as above.
 void Grid(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGriglia& dove,
           const EnvRecord& env, const TintaGrafico& tinta);
 void GridLabel(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGriglia& dove,

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,8 +55,14 @@ ScalaGrafico SetScaleGraph(const SetupRecord& setup, double startMhz, double sto
 /// the result is beyond 10000 either way.
 int FreqToX(const ScalaGrafico& scala, double freqMhz);
 double XToFreq(const ScalaGrafico& scala, double x);
+/// The same pixel before it is rounded, beyond the edges too; empty without an axis or a place on
+/// it. Traces are drawn with it.
+std::optional<double> PosizioneX(const ScalaGrafico& scala, double freqMhz);
+/// Whether frequencies have a place: finite ends, start below stop, above 0 when logarithmic.
+bool AsseValido(double startMhz, double stopMhz, bool logaritmica);
 
-/// A frequency label: "150 k", "30 M", "1 G".
+/// A frequency label: "150 k", "30 M", "1 G"; "0 Hz" and below with the plain unit. Empty when not
+/// finite.
 std::string FormatFreqLabel(double mhz);
 
 /// ln 10 as the labelling has it.
@@ -67,7 +74,8 @@ struct Tacca {
     bool decade = false;   ///< on a power of ten
     std::string etichetta; ///< empty where there is none
 };
-/// The 1, 2, 3 to 9 of each decade inside start..stop, labels where they have room.
+/// The 1, 2, 3 to 9 of each decade inside start..stop, rising. Labels at 1, 2 and 5, or at each
+/// where that would leave fewer than two; whoever draws leaves out what has no room.
 std::vector<Tacca> CalcolaDecade(double startMhz, double stopMhz);
 
 } // namespace orvane

@@ -67,6 +67,7 @@ struct VoceImpostazione {
     std::string_view descrizione;
     std::string_view risposta0;
     std::string_view risposta1;
+    bool inSerie = false; ///< one of many in a row: sent without a drain before it
 };
 std::span<const VoceImpostazione> TabellaImpostazioni();
 /// The command of a row with its arguments filled in.

@@ -22,6 +22,10 @@ float VersioneFirmware(std::string_view testo);
 /// `#?IDN*` with two silent retries: the firmware text, "---" when no form was recognised.
 std::string LeggiFirmware(Ricevitore& r);
 
+/// MIL filters and Rms-Avg detector, asked where the firmware knows the question. False: the user
+/// gave up.
+bool LeggiOpzioni(Ricevitore& r);
+
 /// The whole sequence; rebuilds `r.modello` and `r.caps`. `sorgente` is the range last chosen in
 /// Analyzer or Manual (clamped to 1..2). True: an extension unit, or the high range, is in charge.
 /// With `AbbandonaComandi` set on return the start of the mode must stop.

@@ -110,15 +110,23 @@ private:
     enum class Aperto { Niente, Com, Bluetooth, Usb, Fisso };
 
     bool ApriCom();
-    bool ApriBluetooth();
-    bool ApriUsb(bool mostraErrori);
     bool ApriFisso();
-    bool RiapriBluetooth();
-    bool ChiudiUsb();
-    std::string TrovaDispositivoUsb(bool mostraErrori);
-    void ErroreUsb(bool mostraErrori);
-    void SvuotaUsb();
+    bool EsitoSeriale(Aperto quale, const std::string& nome, EsitoApertura esito);
+    bool ApriBluetooth();
+    void RiapriBluetooth();
+    void ChiudiAltro();
+    size_t LeggiSeriale(std::span<uint8_t> dove);
     FlussoByte* Flusso() const;
+
+    bool ApriUsb(bool mostraErrori);
+    void AbbandonaUsb();
+    std::string TrovaDispositivoUsb(bool mostraErrori);
+    void ErroreUsb(bool mostraErrori, const std::string& testo);
+    bool ChiudiUsb();
+    bool ScriviUsb(std::span<const uint8_t> dati);
+    size_t InCodaUsb();
+    bool LeggiUsb(std::span<uint8_t> dove, size_t& letti);
+    void SvuotaUsb();
 
     Ambiente& ambiente_;
     StatoProtocollo& stato_;

@@ -44,17 +44,26 @@ std::vector<uint8_t> LeggiBloccoFisso(Ricevitore& r, size_t quanti, std::string_
 /// Gathers whatever the receiver answers until it has been silent for 0.3 s.
 std::string LeggiFinoASilenzio(Ricevitore& r);
 
-/// One line of an upload: three tries of 0.3 s; "Error" or the last reply.
+/// One line of an upload: three tries of 0.3 s, until the reply holds `attesa` and "OK"; "Error" or
+/// the last reply.
 std::string InviaRigaCaricamento(Ricevitore& r, std::string_view comando, std::string_view attesa);
 
 /// Writes a command without waiting for its reply, such as "#SSTP*".
 bool InviaGrezzo(Ricevitore& r, std::string_view comando);
 
 /// The standard query loop. `leggi` parses a reply and says whether it was one. False: the user
-/// gave up. `tentativi` silent retries before the banner.
+/// gave up. `tentativi` silent retries before the banner. `dopoFallimento` runs between two tries
+/// and is told how many have failed.
 bool Interroga(Ricevitore& r, std::string_view query, std::string_view descrizione,
                const std::function<bool(const std::string&)>& leggi,
-               double tempoMax = kTempoRisposta, int tentativi = 3);
+               double tempoMax = kTempoRisposta, int tentativi = 3,
+               const std::function<void(int)>& dopoFallimento = {});
+
+/// True where a command would go out inside another one: nothing may be sent, and the defect has
+/// been reported.
+bool RifiutaInVolo(Ricevitore& r, std::string_view comando);
+/// The last reply was not what it should be: so the log has it, once.
+void RegistraFallita(Ricevitore& r);
 
 /// Shows the banner "Error " + `descrizione`, or clears it.
 void MostraErrore(Ricevitore& r, const std::string& descrizione, bool errore);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace orvane {
 
@@ -16,19 +17,25 @@ struct StatoProtocollo {
     bool SeparaLog = false;
     /// A command is out and its reply is awaited: nothing may be sent. Handled by `GuardiaVolo`.
     bool inVolo = false;
+    /// What is in flight, for the message about a send inside a send.
+    std::string comandoInVolo = {};
 
     /// The banner: empty when hidden.
     std::string striscia = {};
     /// Which of the two colours is in front; exchanged at each blink.
     bool strisciaScambiata = false;
-    /// The last reply, for the log of a failure.
+    /// The last reply, or what came of one, and whether the log still waits for its verdict.
     std::string ultimaRisposta = {};
+    bool rispostaDaRegistrare = false;
 };
 
 /// Marks a command as in flight for as long as it lives.
 class GuardiaVolo {
 public:
-    explicit GuardiaVolo(StatoProtocollo& stato) : stato_(stato) { stato_.inVolo = true; }
+    explicit GuardiaVolo(StatoProtocollo& stato, std::string_view comando = {}) : stato_(stato) {
+        stato_.inVolo = true;
+        stato_.comandoInVolo = comando;
+    }
     ~GuardiaVolo() { stato_.inVolo = false; }
     GuardiaVolo(const GuardiaVolo&) = delete;
     GuardiaVolo& operator=(const GuardiaVolo&) = delete;

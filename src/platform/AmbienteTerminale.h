@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/Ambiente.h"
+#include "platform/Interruzioni.h"
 #include "platform/SorvegliaLink.h"
 
 namespace orvane {
@@ -20,7 +21,6 @@ public:
     /// `rispostaSi`: what `--answer` chose; empty takes the careful answer of each box.
     AmbienteTerminale(SorvegliaLink& sorveglia, std::string rigaComando,
                       std::optional<bool> rispostaSi);
-    ~AmbienteTerminale() override;
 
     double Adesso() const override;
     OraCalendario Calendario() const override;
@@ -30,16 +30,24 @@ public:
     const std::string& RigaComando() const override { return rigaComando_; }
     void SegnalaDifetto(std::string_view testo) override;
 
-    /// Called from the pump at each Ctrl-C (or SIGTERM), with how many there have been.
+    /// Called from the pump at each Ctrl-C (or SIGTERM), with how many there have been. Without it
+    /// the first ends the process.
     std::function<void(int)> alInterrompi;
-    /// Called from every turn of the pump, for what happens by the clock.
+    /// Called from every turn of the pump, for what happens by the clock; at least every 50 ms
+    /// while something waits. Not from a turn inside itself.
     std::function<void()> alGiro;
 
 private:
+    void Dormi(double alPiuS, Veglia veglia) const;
+    void ServiInterruzioni();
+    void FaiGiro();
+    Risposta Risolvi(Pulsanti pulsanti);
+
     SorvegliaLink& sorveglia_;
     std::string rigaComando_;
     std::optional<bool> rispostaSi_;
-    int viste_ = 0;
+    Interruzioni interruzioni_;
+    bool nelGiro_ = false;
 };
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // From a scan line to what the receiver is told before it runs.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "link/ReceiverModel.h"

@@ -1,0 +1,138 @@
+#include "data/Panels.h"
+
+#include "base/Testo.h"
+#include "data/FileRecord.h"
+#include "records/ColoriGrafico.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kCartellaPanels = "Panels";
+constexpr std::string_view kFileSetup = "Orvane Console.DAT";
+constexpr std::string_view kNessuno = "NONE";
+
+void ImpostaEnvDefault(EnvRecord& env) {
+    env.LinkKind = 1;
+    env.LinkPort = 1;
+    env.WaterfallScale = {0, 400};
+    ApplicaEnv(env, false);
+    ControllaParStand(env); // names the panels
+}
+
+/// An older release kept the Manual level as an integer; that field stays as it is.
+void ApplicaManualOld(SetupRecord& setup) {
+    if (setup.ManualLevel == 0 && setup.ManualOld != 0)
+        setup.ManualLevel = setup.ManualOld;
+}
+
+} // namespace
+
+std::string PercorsoPannello(std::string_view nome, std::string_view estensione) {
+    return std::string(kCartellaPanels) + "\\" + std::string(nome) + "." + std::string(estensione);
+}
+
+bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    if (!s.albero.Esiste(percorso)) {
+        ImpostaEnvDefault(s.env);
+        return SalvaPanelEPN(s, percorso);
+    }
+    const bool letto = LeggiFileRecord(s, percorso, s.env);
+    ControllaParStand(s.env);
+    ApplicaEnv(s.env, true);
+    return letto;
+}
+
+bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    return SalvaFileRecord(s, percorso, s.env);
+}
+
+bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    if (!s.albero.Esiste(percorso)) {
+        s.setup = SetupDefault();
+        return SalvaPanelEAM(s, percorso);
+    }
+    const bool letto = LeggiFileRecord(s, percorso, s.setup);
+    ControllaSetup(s.setup);
+    ApplicaManualOld(s.setup);
+    return letto;
+}
+
+bool SalvaPanelEAM(Scrivania& s, std::string_view percorso) {
+    if (s.NoSaveSetup)
+        return true;
+    s.albero.AssicuraCartella(kCartellaPanels);
+    return SalvaFileRecord(s, percorso, s.setup);
+}
+
+bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    if (!s.albero.Esiste(percorso)) {
+        scan = {};
+        return SalvaPanelEST(s, percorso, scan);
+    }
+    const bool letto = LeggiFileRecord(s, percorso, scan);
+    ControllaScan(scan);
+    return letto;
+}
+
+bool SalvaPanelEST(Scrivania& s, std::string_view percorso, const ScanRecord& scan) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    return SalvaFileRecord(s, percorso, scan);
+}
+
+bool CaricaPathPTH(Scrivania& s) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    if (s.albero.Esiste(kPannelloPTH))
+        return LeggiFileRecord(s, kPannelloPTH, s.path);
+    s.path = {};
+    return SalvaPathPTH(s);
+}
+
+bool SalvaPathPTH(Scrivania& s) {
+    s.albero.AssicuraCartella(kCartellaPanels);
+    return SalvaFileRecord(s, kPannelloPTH, s.path);
+}
+
+void ApplicaEnv(EnvRecord& env, bool caricato) {
+    if (!caricato)
+        ImpostaColoriDefault(env);
+}
+
+void ImpostaColoriDefault(EnvRecord& env) {
+    env.GraphColors = kColoriDefault;
+}
+
+SetupRecord SetupDefault() {
+    SetupRecord setup;
+    setup.DetectorAn.fill(1);
+    setup.OverwriteWarning = -1;
+    setup.OrderForDate = -1;
+    setup.GraphFlag = 1;
+    setup.UnitId = 1;
+    setup.TableUnitId = 1;
+    setup.GX2207FFTSwept = 0;
+    setup.CheckSweepArchiveSize = -1;
+    setup.InsLossRef = 2.0f;
+    setup.LimitName.fill(std::string(kNessuno));
+    setup.FactorName.fill(std::string(kNessuno));
+    return setup;
+}
+
+void LeggiDatiSetup(Scrivania& s) {
+    s.RigaSetup.clear();
+    const auto dati = s.albero.Leggi(kFileSetup);
+    if (!dati)
+        return;
+    std::string_view testo(reinterpret_cast<const char*>(dati->data()), dati->size());
+    if (testo.ends_with('\n')) // the end of the last line begins no further one
+        testo.remove_suffix(1);
+    testo = testo.substr(testo.rfind('\n') + 1);
+    if (testo.ends_with('\r'))
+        testo.remove_suffix(1);
+    s.RigaSetup = DaAnsi(testo);
+}
+
+} // namespace orvane

@@ -1,0 +1,151 @@
+#include "platform/AmbienteTerminale.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <utility>
+
+#include "base/Testo.h"
+
+namespace orvane {
+namespace {
+
+constexpr double kGiroS = 0.05; ///< how long what happens by the clock may be kept waiting
+constexpr double kPrimaDiRiprovareS = 1;
+
+/// One line of a terminal: a run of line ends is one blank, and no other control character goes
+/// out, since names from the link stand in boxes.
+std::string SuUnaRiga(std::string_view testo) {
+    std::string riga;
+    bool fineRiga = false;
+    for (const char c : testo) {
+        const bool a_capo = c == '\r' || c == '\n';
+        if (!a_capo)
+            riga += static_cast<unsigned char>(c) < ' ' || c == '\x7F' ? ' ' : c;
+        else if (!fineRiga)
+            riga += ' ';
+        fineRiga = a_capo;
+    }
+    return Rifila(riga);
+}
+
+const char* NomeRisposta(Risposta risposta) {
+    switch (risposta) {
+    case Risposta::Annulla:
+        return "Cancel";
+    case Risposta::Si:
+        return "Yes";
+    case Risposta::No:
+        return "No";
+    case Risposta::Riprova:
+        return "Retry";
+    case Risposta::Ok:
+        break;
+    }
+    return "OK";
+}
+
+} // namespace
+
+double OraMonotona() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+OraCalendario OraLocale() {
+    const double adesso =
+        std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
+    const auto intero = static_cast<std::time_t>(adesso);
+    std::tm campi = {};
+    localtime_r(&intero, &campi);
+    return {.anno = campi.tm_year + 1900,
+            .mese = campi.tm_mon + 1,
+            .giorno = campi.tm_mday,
+            .secondiDelGiorno = campi.tm_hour * 3600 + campi.tm_min * 60 + campi.tm_sec +
+                                (adesso - static_cast<double>(intero))};
+}
+
+AmbienteTerminale::AmbienteTerminale(SorvegliaLink& sorveglia, std::string rigaComando,
+                                     std::optional<bool> rispostaSi)
+    : sorveglia_(sorveglia), rigaComando_(std::move(rigaComando)), rispostaSi_(rispostaSi) {}
+
+double AmbienteTerminale::Adesso() const {
+    return OraMonotona();
+}
+
+OraCalendario AmbienteTerminale::Calendario() const {
+    return OraLocale();
+}
+
+void AmbienteTerminale::ElaboraEventi(double alPiuS, Veglia veglia) {
+    // With no time to wait there is nothing to ask of the system: signals come by themselves. A
+    // run calls this for every block of its stream.
+    if (alPiuS > 0)
+        Dormi(alPiuS, veglia);
+    ServiInterruzioni();
+    FaiGiro();
+}
+
+void AmbienteTerminale::Dormi(double alPiuS, Veglia veglia) const {
+    const bool conLink = veglia == Veglia::EventiELink;
+    if (conLink && sorveglia_.senzaAvviso)
+        alPiuS = std::min(alPiuS, kSguardoS);
+    if (alGiro)
+        alPiuS = std::min(alPiuS, kGiroS);
+    pollfd occhio = {.fd = conLink ? sorveglia_.descrittore : -1, .events = POLLIN, .revents = 0};
+    if (!interruzioni_.Dormi(occhio, alPiuS))
+        return;
+    if ((occhio.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0)
+        return;
+    // A device that is gone reports itself without end; whoever waits is told by his next read.
+    occhio.fd = -1;
+    interruzioni_.Dormi(occhio, std::min(alPiuS, kSguardoS));
+}
+
+void AmbienteTerminale::ServiInterruzioni() {
+    if (!alInterrompi && interruzioni_.DaServire() > 0)
+        interruzioni_.Termina();
+    while (alInterrompi && interruzioni_.DaServire() > 0)
+        alInterrompi(interruzioni_.Prendi());
+}
+
+void AmbienteTerminale::FaiGiro() {
+    if (!alGiro || nelGiro_)
+        return;
+    nelGiro_ = true;
+    alGiro();
+    nelGiro_ = false;
+}
+
+Risposta AmbienteTerminale::Risolvi(Pulsanti pulsanti) {
+    const bool si = rispostaSi_.value_or(false);
+    switch (pulsanti) {
+    case Pulsanti::SiNo:
+        return si ? Risposta::Si : Risposta::No;
+    case Pulsanti::OkAnnulla:
+        return si ? Risposta::Ok : Risposta::Annulla;
+    case Pulsanti::RiprovaAnnulla:
+        if (!si)
+            return Risposta::Annulla;
+        // Nobody takes the time to mend what failed: without a pause a script would spin.
+        Attendi(*this, kPrimaDiRiprovareS);
+        return Risposta::Riprova;
+    case Pulsanti::Ok:
+        break;
+    }
+    return Risposta::Ok;
+}
+
+Risposta AmbienteTerminale::Mostra(const Riquadro& riquadro) {
+    const Risposta risposta = Risolvi(riquadro.pulsanti);
+    std::fprintf(stderr, "[box] %s -> %s\n", SuUnaRiga(riquadro.testo).c_str(),
+                 NomeRisposta(risposta));
+    return risposta;
+}
+
+void AmbienteTerminale::SegnalaDifetto(std::string_view testo) {
+    std::fprintf(stderr, "internal fault: %s\n", SuUnaRiga(testo).c_str());
+}
+
+} // namespace orvane

@@ -1,0 +1,51 @@
+#include "verbs/Verbo.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+
+namespace orvane {
+namespace {
+
+constexpr std::array kVerbi = {
+    VoceVerbo{"identify", "", "who the receiver is, one `key: value` a line", VerboIdentify},
+    VoceVerbo{"ports", "", "the serial ports of this machine, with their COM numbers", VerboPorts},
+    VoceVerbo{"scan",
+              "list | show NAME | clear NAME | add NAME (--band B | --start MHZ --stop MHZ)\n"
+              "        [--rbw TEXT] [--detector P,Q,...] [--hold MS] [--step MHZ] [--min-att DB]\n"
+              "        [--preamp on|off] [--presel on|off]",
+              "scan tables", VerboScan},
+    VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
+              "the run of a scan table, with progress on standard error; Ctrl-C is Stop",
+              VerboSweep},
+    VoceVerbo{"archive", "", "the measures, with date and lines", VerboArchive},
+    VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
+              "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+};
+
+} // namespace
+
+std::span<const VoceVerbo> TabellaVerbi() {
+    return kVerbi;
+}
+
+const VoceVerbo* TrovaVerbo(std::string_view nome) {
+    const auto voce = std::find_if(kVerbi.begin(), kVerbi.end(),
+                                   [&](const VoceVerbo& v) { return v.nome == nome; });
+    return voce == kVerbi.end() ? nullptr : &*voce;
+}
+
+EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche) {
+    banco.messaggi << "orvane " << verbo << ": " << perche << "\n";
+    if (const VoceVerbo* voce = TrovaVerbo(verbo))
+        banco.messaggi << "usage: orvane " << voce->nome << " " << voce->uso << "\n";
+    return kUsoErrato;
+}
+
+EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche) {
+    banco.vista.FineRiga();
+    banco.messaggi << "orvane: " << perche << "\n";
+    return esito;
+}
+
+} // namespace orvane

@@ -1,0 +1,62 @@
+// The verbs of the command line program: each a row of one table, each a small procedure over the
+// core.
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "data/Scrivania.h"
+#include "link/Ricevitore.h"
+#include "records/ScanRecord.h"
+#include "sweep/Corsa.h"
+#include "verbs/VistaTerminale.h"
+
+namespace orvane {
+
+/// Exit status of the program.
+enum EsitoVerbo : int {
+    kFatto = 0,
+    kRifiutato = 1, ///< by a check
+    kUsoErrato = 2,
+    kGuastoLink = 3, ///< link or receiver
+    kGuastoFile = 4,
+    kFermato = 5
+};
+
+/// What a verb works with.
+struct Banco {
+    Scrivania& scrivania;
+    Ricevitore& ricevitore;
+    StatoCorsa& corsa;
+    VistaTerminale& vista;
+    CatalogoPorte& catalogo;
+    bool linkScelto = false; ///< --link was given: the panel does not decide
+    std::ostream& dati;      ///< standard output
+    std::ostream& messaggi;  ///< standard error
+    bool json = false;
+};
+using Parole = std::span<const std::string>;
+
+struct VoceVerbo {
+    std::string_view nome;
+    std::string_view uso;   ///< words behind the name
+    std::string_view aiuto; ///< one line
+    EsitoVerbo (*esegui)(Banco&, Parole);
+};
+std::span<const VoceVerbo> TabellaVerbi();
+const VoceVerbo* TrovaVerbo(std::string_view nome);
+
+/// Says what is wrong with the words, and how the verb is used.
+EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);
+EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche);
+
+EsitoVerbo VerboIdentify(Banco& banco, Parole parole);
+EsitoVerbo VerboScan(Banco& banco, Parole parole);
+EsitoVerbo VerboSweep(Banco& banco, Parole parole);
+EsitoVerbo VerboArchive(Banco& banco, Parole parole);
+EsitoVerbo VerboTrace(Banco& banco, Parole parole);
+EsitoVerbo VerboPorts(Banco& banco, Parole parole);
+
+} // namespace orvane

@@ -1,0 +1,75 @@
+#include <ostream>
+
+#include "base/Percorsi.h"
+#include "console/Console.h"
+#include "data/ControllaRecord.h"
+#include "data/Panels.h"
+#include "setup/TabellaScan.h"
+#include "verbs/Argomenti.h"
+#include "verbs/Json.h"
+#include "verbs/Verbo.h"
+
+namespace orvane {
+namespace {
+
+EsitoVerbo DaCorsa(EsitoCorsa esito) {
+    switch (esito) {
+    case EsitoCorsa::Compiuta:
+        return kFatto;
+    case EsitoCorsa::Rifiutata:
+        return kRifiutato;
+    case EsitoCorsa::Fermata:
+        return kFermato;
+    case EsitoCorsa::GuastoFile:
+        return kGuastoFile;
+    case EsitoCorsa::Abbandonata:
+    case EsitoCorsa::GuastoLink:
+        break;
+    }
+    return kGuastoLink;
+}
+
+/// Where the measure lies, as the host names it.
+void DiMisura(Banco& banco, const std::string& misura, EsitoVerbo esito) {
+    const auto cartella = banco.scrivania.albero.Host(CartellaMisura(misura)).string();
+    if (!banco.json) {
+        banco.dati << cartella << "\n";
+        return;
+    }
+    Json json;
+    json.Oggetto().Coppia("event", "end").Coppia("measure", misura).Coppia("folder", cartella);
+    json.Coppia("status", static_cast<double>(esito));
+    banco.dati << json.Chiudi().Documento() << "\n";
+}
+
+} // namespace
+
+EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
+    const Argomenti argomenti(parole, {"scan", "name"});
+    const auto nomeScan = argomenti.Opzione("scan");
+    const std::string misura = argomenti.Opzione("name").value_or("Untitled");
+    if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty() || !nomeScan)
+        return UsoErrato(banco, "sweep",
+                         argomenti.Errore().empty() ? "wants --scan NAME" : argomenti.Errore());
+    for (const std::string& nome : {*nomeScan, misura})
+        if (nome.empty() || ControllaNomeMisura(nome) != nome)
+            return UsoErrato(banco, "sweep", "\"" + nome + "\" is no valid name");
+    const std::string percorso = PercorsoPannello(*nomeScan, "EST");
+    if (!banco.scrivania.albero.Esiste(percorso))
+        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
+
+    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
+    ScanRecord scan;
+    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
+        return kGuastoFile;
+    ControllaScan(scan);
+    banco.scrivania.env.ScanPanelPath = percorso;
+    Corsa corsa{banco.scrivania, banco.ricevitore, scan, banco.corsa, banco.vista};
+    const EsitoVerbo esito = DaCorsa(ClickExecuteSweep(corsa, misura));
+    banco.vista.FineRiga();
+    if (!banco.corsa.misura.empty())
+        DiMisura(banco, banco.corsa.misura, esito);
+    return esito == kFatto ? kFatto : Guasto(banco, esito, banco.corsa.motivo);
+}
+
+} // namespace orvane

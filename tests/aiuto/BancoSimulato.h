@@ -1,0 +1,113 @@
+// The whole core on a bench: simulated receiver, virtual time, a data tree of its own, and views
+// that note what they were told.
+#pragma once
+
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "aiuto/AmbienteProva.h"
+#include "aiuto/CartellaProva.h"
+#include "data/Panels.h"
+#include "data/Scrivania.h"
+#include "link/LogTraffico.h"
+#include "link/Ricevitore.h"
+#include "simulator/FlussoSimulato.h"
+#include "sweep/Corsa.h"
+
+namespace orvane::prova {
+
+struct NessunUsb : DriverUsb {
+    bool Installato() override { return false; }
+    StatoUsb ListaNumero(uint32_t&) override { return std::nullopt; }
+    StatoUsb ListaDescrizione(uint32_t, std::string&) override { return std::nullopt; }
+    StatoUsb Apri(const std::string&, HandleUsb&) override { return std::nullopt; }
+    StatoUsb ImpostaBaud(HandleUsb, uint32_t) override { return std::nullopt; }
+    StatoUsb ImpostaCaratteristiche(HandleUsb, int, int, int) override { return std::nullopt; }
+    StatoUsb ImpostaTrasferimenti(HandleUsb, uint32_t, uint32_t) override { return std::nullopt; }
+    StatoUsb Scrivi(HandleUsb, std::span<const uint8_t>, size_t&) override { return std::nullopt; }
+    StatoUsb Leggi(HandleUsb, std::span<uint8_t>, size_t&) override { return std::nullopt; }
+    StatoUsb InCoda(HandleUsb, size_t&) override { return std::nullopt; }
+    StatoUsb Svuota(HandleUsb) override { return std::nullopt; }
+    StatoUsb Chiudi(HandleUsb) override { return std::nullopt; }
+};
+
+struct NessunaPorta : CatalogoPorte {
+    std::vector<PortaCom> Elenca() override { return {}; }
+};
+
+/// Notes what a run and a banner say.
+struct VistaNota : VistaErrore, VistaCorsa {
+    std::vector<std::string> strisce;
+    bool strisciaVisibile = false;
+    std::vector<FaseCorsa> fasi;
+    size_t passi = 0;
+    std::vector<double> restano;
+    double frazione = 0;
+    std::vector<std::pair<int, ColonnaScan>> celleErrate;
+    std::function<void()> alPasso;
+
+    void MostraStriscia(const std::string& testo) override {
+        strisce.push_back(testo);
+        strisciaVisibile = true;
+    }
+    void NascondiStriscia() override { strisciaVisibile = false; }
+    void ColoraStriscia(bool) override {}
+    void AbilitaSSTabMode() override {}
+    void AggiornaGriglia() override {}
+    void EvidenziaCella(int riga, ColonnaScan colonna, bool errata) override {
+        if (errata)
+            celleErrate.emplace_back(riga, colonna);
+    }
+    void MostraModello() override {}
+    void MostraFase(FaseCorsa fase) override { fasi.push_back(fase); }
+    void IniziaTraccia(const ScanTable&, const std::string&) override {}
+    void AggiungiPassi(const ScanLine&, double, double,
+                       std::span<const SampleRecord> nuovi) override {
+        passi += nuovi.size();
+        if (alPasso)
+            alPasso();
+    }
+    void MostraFreqLivello(double, int16_t) override {}
+    void MostraAvanzamento(const Avanzamento& a) override {
+        frazione = a.frazione;
+        restano.push_back(a.restanoS);
+    }
+    void MostraBatteria(const std::string&) override {}
+};
+
+struct BancoSimulato {
+    explicit BancoSimulato(const OpzioniSimulatore& opzioni = {}) : simulato(opzioni) {
+        ambiente.linkPronto = [this] { return simulato.Pronti(ambiente.ora) > 0; };
+        ambiente.prossimoByte = [this] {
+            return simulato.ProssimoByte(ambiente.ora)
+                .value_or(std::numeric_limits<double>::infinity());
+        };
+        porta.fisso = LinkFisso{&flusso, opzioni.modello, "simulated " + opzioni.modello};
+        scrivania.setup = SetupDefault();
+        ApplicaEnv(scrivania.env, false);
+    }
+
+    /// Bytes of a file of the data tree.
+    std::vector<uint8_t> File(const std::string& percorso) const {
+        return scrivania.albero.Leggi(percorso).value_or(std::vector<uint8_t>{});
+    }
+
+    CartellaProva cartella;
+    AmbienteProva ambiente;
+    RicevitoreSimulato simulato;
+    FlussoSimulato flusso{ambiente, simulato};
+    NessunUsb usb;
+    NessunaPorta catalogo;
+    StatoProtocollo stato;
+    LogTraffico log{ambiente, cartella.Percorso()};
+    Porta porta{ambiente, stato, log, Vettori{&flusso, &usb, &catalogo}};
+    VistaNota vista;
+    Ricevitore ricevitore{ambiente, stato, log, porta, vista};
+    Scrivania scrivania{.ambiente = ambiente, .albero = AlberoDati(cartella.Percorso())};
+    ScanRecord scan;
+    StatoCorsa statoCorsa;
+    Corsa corsa{scrivania, ricevitore, scan, statoCorsa, vista};
+};
+
+} // namespace orvane::prova

@@ -1,0 +1,210 @@
+#include "console/Console.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+
+#include "aiuto/BancoSimulato.h"
+#include "console/Titolo.h"
+#include "link/Comandi.h"
+#include "link/Protocollo.h"
+#include "setup/TabellaScan.h"
+
+namespace orvane {
+namespace {
+
+using prova::BancoSimulato;
+
+/// Notes what the modes tell the main window, and serves `TimerTask` as a window would.
+struct VistaModi : VistaConsole {
+    std::vector<std::string> detto;
+    bool timer = false;
+    bool terminato = false;
+
+    void MostraTitolo(const std::string&) override {}
+    void MostraScheda(Modalita m) override { Nota("tab", m); }
+    void DisabilitaMenu() override { detto.push_back("menus off"); }
+    void EntraArchivio() override { detto.push_back("archive"); }
+    void EntraSweep() override { detto.push_back("sweep"); }
+    void EntraModoVivo(Modalita m) override { Nota("live", m); }
+    void PulisciQuadro() override {}
+    void ChiudiFinestreAusiliarie() override {}
+    void AbilitaTimerTask() override { timer = true; }
+    void TerminaProcesso() override { terminato = true; }
+    void MostraStato(const std::string& testo) override { detto.push_back("status " + testo); }
+
+    bool Detto(const std::string& testo) const {
+        return std::find(detto.begin(), detto.end(), testo) != detto.end();
+    }
+
+private:
+    void Nota(const char* cosa, Modalita m) {
+        detto.push_back(cosa + std::string(" ") + std::to_string(static_cast<int>(m)));
+    }
+};
+
+struct ConsoleTest : testing::Test {
+    explicit ConsoleTest(const char* modello = "5520") : banco({.modello = modello}) {}
+
+    /// The main loop: serves the timer until nothing is left to do.
+    void Giro() {
+        for (int i = 0; i < 50 && vista.timer; ++i) {
+            vista.timer = false;
+            TimerTask_Timer(console);
+        }
+    }
+
+    BancoSimulato banco;
+    VistaModi vista;
+    StatoConsole stato;
+    Console console{banco.scrivania, banco.ricevitore, banco.scan, banco.corsa, stato, vista};
+};
+
+TEST_F(ConsoleTest, StartsOnTheArchiveWithoutALink) {
+    AvviaDati(banco.scrivania, banco.porta.link, banco.scan);
+    VisualizzazioneIniziale(console);
+    EXPECT_TRUE(vista.Detto("archive"));
+    EXPECT_FALSE(banco.porta.Aperta());
+    EXPECT_TRUE(banco.simulato.Comandi().empty());
+    EXPECT_EQ(banco.porta.link.TipoLink, 1);
+    for (const auto& [file, byte] : {std::pair("Untitled.EPN", 2096u), {"Untitled.EAM", 5094u}})
+        EXPECT_EQ(banco.File(std::string("Panels\\") + file).size(), byte) << file;
+    EXPECT_TRUE(banco.ambiente.riquadri.empty());
+}
+
+TEST_F(ConsoleTest, StartsWithDamagedPanelsOfAnyLength) {
+    for (const size_t lunghezza : {0u, 1u, 233u, 1500u, 2095u, 2096u, 5094u, 20000u}) {
+        SCOPED_TRACE(lunghezza);
+        BancoSimulato altro;
+        std::filesystem::create_directories(altro.cartella.Percorso() / "Panels");
+        for (const char* nome : {"Untitled.EPN", "Untitled.EAM", "Untitled.EST"}) {
+            std::ofstream file(altro.cartella.Percorso() / "Panels" / nome, std::ios::binary);
+            for (size_t i = 0; i < lunghezza; ++i)
+                file.put(static_cast<char>(i * 37 + 251));
+        }
+        const auto avvisi = AvviaDati(altro.scrivania, altro.porta.link, altro.scan);
+        EXPECT_FALSE(avvisi.empty() && altro.ambiente.riquadri.empty());
+        EXPECT_GE(altro.porta.link.TipoLink, 0);
+        EXPECT_LE(altro.porta.link.TipoLink, 1);
+        EXPECT_GE(altro.porta.link.NumeroCom, 1);
+        EXPECT_LE(altro.scrivania.setup.UnitId, 7);
+        for (const int32_t colore : altro.scrivania.env.GraphColors)
+            EXPECT_TRUE(colore >= 0 && colore <= 0xFFFFFF) << colore;
+    }
+}
+
+TEST_F(ConsoleTest, ALiveModeIdentifiesTheReceiverAndLeavesItQuiet) {
+    VisualizzazioneIniziale(console);
+    ClickSSTabMode(console, Modalita::Analyzer);
+    EXPECT_TRUE(vista.Detto("live 2"));
+    EXPECT_TRUE(banco.porta.Aperta());
+    const auto& comandi = banco.simulato.Comandi();
+    ASSERT_GE(comandi.size(), 3u);
+    EXPECT_EQ(comandi[0], "#ASBK*");
+    EXPECT_EQ(comandi[1], "#?IDN*");
+    EXPECT_EQ(comandi.back(), "#SCFA -1*");
+    ClickSSTabMode(console, Modalita::SweepsArchive);
+    EXPECT_EQ(comandi.back(), "#SSTP*");
+    EXPECT_FALSE(banco.porta.Aperta());
+    EXPECT_EQ(stato.modalita, Modalita::SweepsArchive);
+}
+
+TEST_F(ConsoleTest, AModeThatCannotStartFallsBackToTheArchive) {
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Scollegato});
+    const std::string via = "#?IDN*";
+    banco.simulato.Riceve({reinterpret_cast<const uint8_t*>(via.data()), via.size()}, 0);
+    ASSERT_TRUE(banco.simulato.Scollegato());
+    VisualizzazioneIniziale(console);
+    ClickSSTabMode(console, Modalita::Manual);
+    EXPECT_EQ(stato.modalita, Modalita::SweepsArchive);
+    EXPECT_FALSE(banco.porta.link.PortaNonDisponibile);
+    EXPECT_FALSE(vista.Detto("live 3"));
+}
+
+TEST_F(ConsoleTest, AnotherTabDuringARetryingStartLeadsThere) {
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Muto});
+    VisualizzazioneIniziale(console);
+    banco.ambiente.Fra(20, [this] { ClickSSTabMode(console, Modalita::Sweep); });
+    ClickSSTabMode(console, Modalita::Analyzer);
+    Giro();
+    EXPECT_EQ(stato.modalita, Modalita::Sweep);
+    EXPECT_FALSE(banco.vista.strisciaVisibile);
+    EXPECT_FALSE(banco.porta.Aperta());
+}
+
+TEST_F(ConsoleTest, CancelInTheExitBoxLeavesTheSweepRunning) {
+    ImpostaBanda(banco.scan.Righe[0], TabellaBande()[1], 0);
+    bool chiesto = false;
+    banco.vista.alPasso = [&] {
+        if (!chiesto)
+            ChiediUscita(console);
+        chiesto = true;
+    };
+    stato.modalita = Modalita::Sweep;
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
+    ASSERT_EQ(banco.ambiente.riquadri.size(), 1u);
+    EXPECT_EQ(banco.ambiente.riquadri[0].testo, "Are You Sure You Want To Exit?");
+    EXPECT_EQ(banco.ambiente.riquadri[0].icona, Icona::Domanda);
+    EXPECT_FALSE(stato.ChiusuraInCorso);
+}
+
+TEST_F(ConsoleTest, OkInTheExitBoxEndsTheRunFirstAndThenTheProcess) {
+    ImpostaBanda(banco.scan.Righe[0], TabellaBande()[1], 0);
+    banco.ambiente.risposte = {Risposta::Ok};
+    bool chiesto = false;
+    banco.vista.alPasso = [&] {
+        if (!chiesto)
+            ChiediUscita(console);
+        chiesto = true;
+        TimerTask_Timer(console);
+        EXPECT_FALSE(vista.terminato) << "the run is still on the stack";
+    };
+    stato.modalita = Modalita::Sweep;
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Abbandonata);
+    EXPECT_EQ(banco.simulato.Comandi().back(), "#ASBK*");
+    Giro();
+    EXPECT_TRUE(vista.terminato);
+    EXPECT_FALSE(banco.porta.Aperta());
+    EXPECT_EQ(banco.File("Sweep\\M\\M.KSH").size(), 17770u);
+}
+
+TEST_F(ConsoleTest, ClosingWhileASetterRetriesEndsTheProcess) {
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Muto, .comando = "SCFA"});
+    banco.ambiente.risposte = {Risposta::Ok};
+    banco.ambiente.Fra(20, [this] { ChiediUscita(console); });
+    VisualizzazioneIniziale(console);
+    ClickSSTabMode(console, Modalita::Analyzer);
+    Giro();
+    EXPECT_TRUE(vista.terminato);
+    EXPECT_FALSE(banco.porta.Aperta());
+}
+
+TEST_F(ConsoleTest, TheAbortInALiveModeLeadsBackToTheArchive) {
+    VisualizzazioneIniziale(console);
+    ClickSSTabMode(console, Modalita::Analyzer);
+    ClickCMBAbort(console);
+    Giro();
+    EXPECT_EQ(stato.modalita, Modalita::SweepsArchive);
+    // The next entry starts afresh.
+    ClickSSTabMode(console, Modalita::Analyzer);
+    EXPECT_EQ(stato.modalita, Modalita::Analyzer);
+}
+
+TEST(Titolo, ShowsPanelModelAndLinkWhereTheyBelong) {
+    const ParteTitolo parte{.modalita = Modalita::Analyzer,
+                            .pannello = "Untitled",
+                            .modello = "5520/K6X",
+                            .descrizione = " (USB)"};
+    const std::string dieci(10, ' ');
+    const std::string pieno = ComponiTitolo(parte, "/INFOMOD /INFOCOMUSB");
+    EXPECT_TRUE(pieno.starts_with("Orvane Console" + dieci + "Rel. ")) << pieno;
+    EXPECT_TRUE(pieno.ends_with(dieci + "Panel: Untitled" + dieci + "5520/K6X (USB)")) << pieno;
+    EXPECT_TRUE(ComponiTitolo(parte, "/infomod").ends_with("Panel: Untitled"));
+    ParteTitolo archivio = parte;
+    archivio.modalita = Modalita::SweepsArchive;
+    EXPECT_EQ(ComponiTitolo(archivio, "/INFOMOD").find("Panel"), std::string::npos);
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,217 @@
+#include "sweep/Corsa.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "aiuto/BancoSimulato.h"
+#include "data/Misure.h"
+#include "setup/TabellaScan.h"
+#include "sweep/FlussoSweep.h"
+
+namespace orvane {
+namespace {
+
+using prova::BancoSimulato;
+
+void MettiBanda(ScanLine& riga, const char* banda, const char* detector) {
+    ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
+    riga.Detector = *LeggiDetector(detector);
+}
+
+struct CorsaTest : testing::Test {
+    void SetUp() override {
+        MettiBanda(banco.scan.Righe[0], "B", "P,Q");
+        banco.scan.Righe[0].Stop = 0.65;
+    }
+    EsitoCorsa Esegui(const char* misura = "M") { return ClickExecuteSweep(banco.corsa, misura); }
+    size_t PassiSuDisco(int riga = 0) const {
+        return banco.File(PercorsoRS("M", "M", riga)).size() / kByteCampione;
+    }
+    void Capriccia(Capriccio capriccio) { banco.simulato.Aggiungi(capriccio); }
+
+    BancoSimulato banco;
+};
+
+TEST_F(CorsaTest, GoesFromReceiverToDisk) {
+    MettiBanda(banco.scan.Righe[1], "B", "A");
+    banco.scan.Righe[1].Start = 1;
+    banco.scan.Righe[1].Stop = 1.5;
+    ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    EXPECT_EQ(PassiSuDisco(0), 101u);
+    EXPECT_EQ(PassiSuDisco(1), 101u);
+    EXPECT_EQ(banco.vista.passi, 202u);
+    EXPECT_EQ(banco.vista.frazione, 1.0);
+    EXPECT_FALSE(banco.porta.Aperta());
+
+    // The file holds what the receiver sent, and nothing for the detectors not in use.
+    const auto traccia = LeggiTraccia(banco.scrivania, PercorsoRS("M", "M", 0));
+    ASSERT_EQ(traccia.size(), 101u);
+    const CondizioniSpettro condizioni{.rbwHz = 9000, .attDb = 10};
+    EXPECT_EQ(traccia[40].Livello[0], LivelloSimulato(0.35, 0, condizioni));
+    EXPECT_EQ(traccia[40].Livello[1], LivelloSimulato(0.35, 1, condizioni));
+    EXPECT_EQ(traccia[40].Livello[2], kNessunLivello);
+
+    ScanRecord scan;
+    SetupRecord setup;
+    EXPECT_EQ(banco.File(PercorsoKSH("M")).size(), 17770u);
+    ASSERT_TRUE(CaricaHeaderSweep(banco.scrivania, PercorsoKSH("M"), scan, setup));
+    EXPECT_EQ(scan.Righe[1].Start, 1.0);
+    EXPECT_EQ(setup.ModelText, "5520");
+    EXPECT_TRUE(setup.FwRelease.starts_with("2.")) << setup.FwRelease;
+}
+
+TEST_F(CorsaTest, SpeaksToTheReceiverInTheFixedOrder) {
+    ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    const std::vector<std::string> attesi = {
+        "#ASBK*",    "#?IDN*",      "#?BCD*",
+        "#?MIL*",    "#?CRA*",      "#?S/N*",
+        "#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*",
+        "#STGSOFF*", "#STGL0*",     "#STGTOFF*",
+        "#STGF0e3*", "#?BAT*",      "#SSFD 150000;650000;5000;PQ;1.9;6;10;OFF;ON;0*",
+        "#?UHT*"};
+    EXPECT_EQ(banco.simulato.Comandi(), attesi);
+}
+
+TEST_F(CorsaTest, StopKeepsWhatHasArrivedAndTellsTheReceiver) {
+    banco.scan.Righe[0].Stop = 30;
+    banco.vista.alPasso = [this] { ChiediStop(banco.statoCorsa); };
+    EXPECT_EQ(Esegui(), EsitoCorsa::Fermata);
+    EXPECT_EQ(PassiSuDisco(), banco.vista.passi);
+    EXPECT_GT(PassiSuDisco(), 0u);
+    EXPECT_LT(PassiSuDisco(), 5971u);
+    EXPECT_EQ(banco.simulato.Comandi().back(), "#ASBK*");
+    EXPECT_EQ(banco.File(PercorsoKSH("M")).size(), 17770u);
+    EXPECT_FALSE(banco.statoCorsa.SweepInCorso);
+    EXPECT_EQ(banco.statoCorsa.fase, FaseCorsa::Ferma);
+    // The same bench runs on.
+    banco.vista.alPasso = {};
+    banco.scrivania.setup.OverwriteWarning = 0;
+    EXPECT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    EXPECT_EQ(PassiSuDisco(), 5971u);
+}
+
+TEST_F(CorsaTest, ASecondClickInARunIsTheStop) {
+    banco.scan.Righe[0].Stop = 30;
+    banco.vista.alPasso = [this] { ClickExecuteSweep(banco.corsa, "M"); };
+    EXPECT_EQ(Esegui(), EsitoCorsa::Fermata);
+}
+
+TEST_F(CorsaTest, EndsAsToldWhenTheReceiverMisbehaves) {
+    struct Caso {
+        const char* nome;
+        Capriccio capriccio;
+        EsitoCorsa esito;
+        const char* parole; ///< in a box or in the banner
+    };
+    const Caso casi[] = {
+        {"refused",
+         {.tipo = Capriccio::Tipo::Errore, .comando = "SSFD", .numero = 5},
+         EsitoCorsa::GuastoLink,
+         "Error set RBW"},
+        {"no acknowledgement",
+         {.tipo = Capriccio::Tipo::Muto, .comando = "SSFD"},
+         EsitoCorsa::GuastoLink,
+         "5520 Time out"},
+        {"silent in mid-sample",
+         {.tipo = Capriccio::Tipo::StreamMuto, .numero = 41},
+         EsitoCorsa::GuastoLink,
+         "5520 Time out"},
+        {"line gone",
+         {.tipo = Capriccio::Tipo::Scollegato, .numero = 102},
+         EsitoCorsa::GuastoLink,
+         "5520 Time out"},
+    };
+    for (const Caso& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        BancoSimulato altro;
+        altro.scan = banco.scan;
+        altro.simulato.Aggiungi(caso.capriccio);
+        EXPECT_EQ(ClickExecuteSweep(altro.corsa, "M"), caso.esito);
+        std::string detto;
+        for (const auto& riquadro : altro.ambiente.riquadri)
+            detto += riquadro.testo + "\n";
+        for (const auto& striscia : altro.vista.strisce)
+            detto += striscia + "\n";
+        EXPECT_NE(detto.find(caso.parole), std::string::npos) << detto;
+        EXPECT_EQ(altro.File(PercorsoKSH("M")).size(), 17770u);
+        EXPECT_EQ(altro.File(PercorsoRS("M", "M", 0)).size(), altro.vista.passi * kByteCampione);
+        EXPECT_FALSE(altro.porta.Aperta());
+    }
+}
+
+TEST_F(CorsaTest, TheAbortEndsARunThatWaitsForASetter) {
+    Capriccia({.tipo = Capriccio::Tipo::Rifiuto, .comando = "SDIS"});
+    banco.ambiente.Fra(30, [this] { banco.stato.AbbandonaComandi = true; });
+    EXPECT_EQ(Esegui(), EsitoCorsa::Abbandonata);
+    EXPECT_EQ(banco.vista.strisce.size(), 1u);
+    EXPECT_FALSE(banco.vista.strisciaVisibile);
+    EXPECT_FALSE(banco.scrivania.albero.EsisteCartella(CartellaMisura("M")));
+}
+
+TEST_F(CorsaTest, ChecksRefuseBeforeAnythingIsWritten) {
+    struct Caso {
+        const char* nome;
+        std::function<void(ScanLine&)> guasta;
+        const char* parole;
+    };
+    const Caso casi[] = {
+        {"span turned round", [](ScanLine& r) { r.Stop = r.Start; }, "Start/Stop Frequency Error"},
+        {"out of reach", [](ScanLine& r) { r.Stop = 31; }, "Start/Stop Frequency Error"},
+        {"step too small",
+         [](ScanLine& r) {
+             r.AutoStep = 0;
+             r.Step = 0.00005;
+         },
+         "Too small step"},
+        {"step too big",
+         [](ScanLine& r) {
+             r.AutoStep = 0;
+             r.Step = 0.3;
+         },
+         "Too big step"},
+        {"span too small", [](ScanLine& r) { r.Stop = r.Start + 0.00009; }, "Too small Span"},
+    };
+    for (const Caso& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        BancoSimulato altro;
+        altro.scan = banco.scan;
+        caso.guasta(altro.scan.Righe[0]);
+        EXPECT_EQ(ClickExecuteSweep(altro.corsa, "M"), EsitoCorsa::Rifiutata);
+        ASSERT_EQ(altro.ambiente.riquadri.size(), 1u);
+        EXPECT_NE(altro.ambiente.riquadri[0].testo.find(caso.parole), std::string::npos);
+        EXPECT_FALSE(altro.vista.celleErrate.empty());
+        EXPECT_FALSE(altro.scrivania.albero.EsisteCartella("Sweep\\"));
+    }
+    BancoSimulato vuoto;
+    EXPECT_EQ(ClickExecuteSweep(vuoto.corsa, "M"), EsitoCorsa::Rifiutata);
+}
+
+TEST_F(CorsaTest, AFileThatCannotBeWrittenStopsTheRun) {
+    // A directory stands where the header belongs.
+    std::filesystem::create_directories(banco.cartella.Percorso() / "Sweep");
+    std::ofstream(banco.cartella.Percorso() / "Sweep" / "M").put('x');
+    EXPECT_EQ(Esegui(), EsitoCorsa::GuastoFile);
+    ASSERT_FALSE(banco.ambiente.riquadri.empty());
+    EXPECT_TRUE(banco.ambiente.riquadri[0].testo.starts_with("Cannot open file "));
+    EXPECT_FALSE(banco.statoCorsa.SweepInCorso);
+}
+
+TEST(Corsa5520F, TakesTheStepThatTheReceiverAnnounces) {
+    BancoSimulato banco({.modello = "5520F"});
+    MettiBanda(banco.scan.Righe[0], "B", "P");
+    banco.scan.Righe[0].Stop = 1.15;
+    ASSERT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
+    ScanRecord scan;
+    SetupRecord setup;
+    ASSERT_TRUE(CaricaHeaderSweep(banco.scrivania, PercorsoKSH("M"), scan, setup));
+    const auto byte = banco.File(PercorsoRS("M", "M", 0)).size();
+    EXPECT_EQ(static_cast<long long>(byte / kByteCampione), PassiDellaRiga(scan.Righe[0]));
+    EXPECT_EQ(banco.vista.frazione, 1.0);
+    // The table that the user set up is as it was.
+    EXPECT_EQ(banco.scan.Righe[0].Step, 0.005);
+}
+
+} // namespace
+} // namespace orvane
