@@ -95,9 +95,8 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
 
     Postazione postazione(ambiente, opzioni.dati, collegamento.VettoriPorta());
-    const auto motivo = postazione.Carica(
-        [&](Porta& porta) { return collegamento.Applica(opzioni.link, porta); });
-    if (!motivo.empty())
+    postazione.Carica();
+    if (const auto motivo = collegamento.Applica(opzioni.link, postazione.porta); !motivo.empty())
         return Rifiuta(motivo);
     postazione.Mostra();
     inizio.close();

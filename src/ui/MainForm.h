@@ -29,8 +29,7 @@ class MainForm : public QMainWindow,
 public:
     MainForm(Scrivania& scrivania, ScanRecord& scan);
 
-    /// To be called once, before anything is shown. `descrizioneLink`: how the link is named where
-    /// the program was started with one.
+    /// To be called once, before anything is shown.
     void Collega(Console& console, CatalogoPorte& catalogo);
     /// Shows the loaded records.
     void Carica();

@@ -26,14 +26,15 @@ Postazione::Postazione(AmbienteQt& ambienteQt, const std::filesystem::path& dati
     finestra.Collega(console, *vettori.catalogo);
 }
 
-void Postazione::Avvia() {
-    // What the command line chose for the link stays chosen, whatever the panel says.
-    const LinkPort scelto = porta.link;
-    const auto avvisi = AvviaDati(scrivania, porta.link, scan);
+void Postazione::Carica() {
+    avvisi_ = AvviaDati(scrivania, porta.link, scan);
     finestra.Carica();
+}
+
+void Postazione::Mostra() {
     finestra.show();
     VisualizzazioneIniziale(console);
-    finestra.MostraAvvisi(avvisi);
+    finestra.MostraAvvisi(avvisi_);
 }
 
 } // namespace orvane

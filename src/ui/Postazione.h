@@ -14,8 +14,10 @@ namespace orvane {
 struct Postazione {
     Postazione(AmbienteQt& ambienteQt, const std::filesystem::path& dati, const Vettori& vettori);
 
-    /// Loads the data, shows the window and enters the first mode.
-    void Avvia();
+    /// Loads the data; the link is the panel's then, until something else chooses it.
+    void Carica();
+    /// Shows the window and enters the first mode.
+    void Mostra();
 
     AmbienteQt& ambiente;
     StatoProtocollo protocollo;
@@ -29,6 +31,9 @@ struct Postazione {
     Ricevitore ricevitore;
     Corsa corsa;
     Console console;
+
+private:
+    std::vector<std::string> avvisi_;
 };
 
 } // namespace orvane
