@@ -59,8 +59,8 @@ struct Console {
 const std::array<std::string, 7>& TabelleUnita();
 
 /// The order of launch up to the loaded panels: `InitForm`, then the main window's own load. What
-/// was damaged is repaired; the result tells of it, a sentence each.
-std::vector<std::string> AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan);
+/// was damaged is repaired, and told in `Scrivania::avvisi`.
+void AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan);
 /// The panels as they are, with defaults where there are none, and nothing written: for programs
 /// that only pass by. With `linkScelto` the link stays as it is.
 void AvviaInLettura(Scrivania& s, LinkPort& link, bool linkScelto);

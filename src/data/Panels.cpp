@@ -25,6 +25,11 @@ void ApplicaManualOld(SetupRecord& setup) {
         setup.ManualLevel = setup.ManualOld;
 }
 
+void AvvisaRiparato(Scrivania& s, std::string_view percorso, bool cambiato) {
+    if (cambiato)
+        s.avvisi.push_back(std::string(percorso) + " held damaged values; they were repaired");
+}
+
 } // namespace
 
 std::string PercorsoPannello(std::string_view nome, std::string_view estensione) {
@@ -38,7 +43,7 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
         return SalvaPanelEPN(s, percorso);
     }
     const bool letto = LeggiFileRecord(s, percorso, s.env);
-    ControllaParStand(s.env);
+    AvvisaRiparato(s, percorso, ControllaParStand(s.env));
     ApplicaEnv(s.env, true);
     return letto;
 }
@@ -55,7 +60,7 @@ bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
         return SalvaPanelEAM(s, percorso);
     }
     const bool letto = LeggiFileRecord(s, percorso, s.setup);
-    ControllaSetup(s.setup);
+    AvvisaRiparato(s, percorso, ControllaSetup(s.setup));
     ApplicaManualOld(s.setup);
     return letto;
 }
@@ -74,7 +79,7 @@ bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
         return SalvaPanelEST(s, percorso, scan);
     }
     const bool letto = LeggiFileRecord(s, percorso, scan);
-    ControllaScan(scan);
+    AvvisaRiparato(s, percorso, ControllaScan(scan));
     return letto;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/Ambiente.h"
 #include "data/AlberoDati.h"
@@ -18,6 +19,8 @@ struct Scrivania {
     SetupRecord setup = {};
     PathRecord path = {};
     std::string RigaSetup = {}; ///< last line of the setup file
+    /// Panels whose damaged values were repaired while loading, a sentence each.
+    std::vector<std::string> avvisi = {};
     bool NoSaveSetup = false;   ///< a stored measure's set-up is being viewed
 };
 

@@ -22,6 +22,8 @@ public:
     void Scarta() override;
 
 private:
+    bool Vivo() const;
+
     const Ambiente& ambiente_;
     RicevitoreSimulato& ricevitore_;
     bool aperto_ = false;

@@ -34,15 +34,18 @@ std::optional<OpzioniSimulatore> LeggiOpzioniSimulatore(std::string_view testo,
 /// A misbehaviour, for the commands that hold `comando` (empty: all), `volte` times (-1: for ever).
 struct Capriccio {
     enum class Tipo {
-        Muto,       ///< no reply
-        Tardi,      ///< the reply comes after `secondi`
-        Spezzato,   ///< the reply comes in two pieces, `secondi` apart
-        Rifiuto,    ///< XXX=N/A
-        Errore,     ///< XXX=ERR, for a sweep "SFD=ERR n" with `numero`
+        Muto,     ///< the command goes unheard: nothing done, no reply
+        Tardi,    ///< the reply comes after `secondi`
+        Spezzato, ///< the reply comes in two pieces, `secondi` apart
+        Rifiuto,  ///< XXX=N/A
+        /// XXX=ERR; for a sweep "SFD=ERR n" with `numero`; for pause and resume "SERR".
+        Errore,
         Spazzatura, ///< bytes that mean nothing in place of the reply
-        Testo,      ///< `testo` in place of the reply
-        StreamMuto, ///< a sweep falls silent after `numero` bytes
-        Scollegato  ///< the link goes dead after `numero` bytes of a sweep, or at once
+        Testo,      ///< `testo` in place of the reply; CR LF is added where it has no line end
+        StreamMuto, ///< a sweep falls silent after `numero` bytes behind its acknowledgement
+        /// The link goes dead after `numero` bytes of a sweep; with 0 when the command comes, and
+        /// without a command at once.
+        Scollegato
     };
     Tipo tipo = Tipo::Muto;
     std::string comando;
@@ -52,7 +55,8 @@ struct Capriccio {
     std::string testo;
 };
 /// "mute:?IDN", "late:SRBW=0.5", "split:...", "refuse:...", "error:SSFD=5", "garbage:...",
-/// "silent:1000", "unplug:1000"; an "xN" behind the kind limits it to N times.
+/// "text:?DET=...", "silent:1000", "unplug:1000"; an "xN" behind the kind ("mutex2:...") limits it
+/// to N times. Empty with an unknown kind or a bad value, which `errore` then tells.
 std::optional<Capriccio> LeggiCapriccio(std::string_view testo, std::string& errore);
 
 class RicevitoreSimulato {
@@ -82,6 +86,12 @@ public:
     const std::vector<std::string>& Comandi() const;
     /// What a setter left behind, by the three letters of its name; empty if it never came.
     std::string Valore(std::string_view nome) const;
+    /// A table that was uploaded and closed by "LIC", "CFE" or "LIE" under a slot (0: custom): its
+    /// name, then its rows without their ordinals. Empty if there is none.
+    std::vector<std::string> Tabella(std::string_view nome, int slot) const;
+    /// How often what was under way has been dropped by an abort, a stop or a new sweep: a carrier
+    /// that holds bytes on the way drops them too.
+    unsigned Tagli() const;
     /// User port and battery, as a test sets them.
     void ImpostaUserPort(int valore);
     void ImpostaBatteria(std::string livello, double volt, bool inCarica);

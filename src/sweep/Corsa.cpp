@@ -66,7 +66,7 @@ private:
     bool ControllaInterruzioni();
     bool Attendi5520F(Scadenza& intestazione, const ScanLine& riga);
     bool LetturaFallita();
-    bool Elabora(const ScanLine& riga);
+    bool Elabora(ScanLine& riga);
     void MostraDati(const ScanLine& riga, Passi passi);
     void ApplicaPassoAnnunciato(ScanLine& riga);
     bool SweepRifiutato();
@@ -272,7 +272,6 @@ bool Svolgimento::RiceviPassata(ScanLine& riga) {
             break;
         if (!Attendi5520F(intestazione, riga))
             return false;
-        ApplicaPassoAnnunciato(riga);
     }
     ScarigaDatiSweepRestanti();
     return true;
@@ -297,9 +296,10 @@ bool Svolgimento::LetturaFallita() {
 }
 
 /// What has just been read: to the log, through the decoder, to the file, to the picture.
-bool Svolgimento::Elabora(const ScanLine& riga) {
+bool Svolgimento::Elabora(ScanLine& riga) {
     bool scritti = true;
     const auto stato = lettore_->Avanza(r_.porta.accumulo, [&](Passi passi) {
+        ApplicaPassoAnnunciato(riga);
         scritti = traccia_.Scrivi(passi);
         MostraDati(riga, passi);
     });

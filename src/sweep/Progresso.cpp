@@ -20,14 +20,18 @@ Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella)
         const ScanLine& riga = tabella[i];
         const PesoRiga peso{.passi = PassiDellaRiga(riga),
                             .perPasso = std::max<double>(riga.HoldTime, 0) + kMsPerPasso};
-        totale_ += static_cast<double>(peso.passi) * peso.perPasso;
+        totale_ += peso.Peso();
         righe_.push_back(peso);
     }
 }
 
 void Progresso::IniziaRiga(int riga) {
+    finite_ = 0;
+    for (int i = 0; i < riga; ++i)
+        finite_ += righe_[static_cast<size_t>(i)].Peso();
     riga_ = riga;
     passiRiga_ = 0;
+    rigaFinita_ = false;
 }
 
 void Progresso::CorreggiRiga(long long passi) {
@@ -39,14 +43,11 @@ void Progresso::CorreggiRiga(long long passi) {
     peso.passi = passi;
 }
 
-void Progresso::FineRiga() {
-    finite_ += PesoFatto();
-    passiRiga_ = 0;
-}
-
 double Progresso::PesoFatto() const {
-    const PesoRiga& peso = righe_[static_cast<size_t>(riga_)];
-    return static_cast<double>(std::min(passiRiga_, peso.passi)) * peso.perPasso;
+    const PesoRiga& riga = righe_[static_cast<size_t>(riga_)];
+    if (rigaFinita_)
+        return riga.Peso();
+    return static_cast<double>(std::min(passiRiga_, riga.passi)) * riga.perPasso;
 }
 
 Avanzamento Progresso::Adesso() const {

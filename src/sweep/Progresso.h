@@ -18,13 +18,15 @@ public:
     /// A 5520F has announced another step than the table's: its line has `passi` steps.
     void CorreggiRiga(long long passi);
     void Aggiungi(long long passi) { passiRiga_ += passi; }
-    void FineRiga();
+    /// The line is done, however many steps it had.
+    void FineRiga() { rigaFinita_ = true; }
     Avanzamento Adesso() const;
 
 private:
     struct PesoRiga {
         long long passi = 0;
         double perPasso = 0; ///< relative time of one step
+        double Peso() const { return static_cast<double>(passi) * perPasso; }
     };
     double PesoFatto() const;
 
@@ -35,6 +37,7 @@ private:
     double finite_ = 0; ///< weight of the lines that are done
     int riga_ = 0;
     long long passiRiga_ = 0;
+    bool rigaFinita_ = false;
 };
 
 } // namespace orvane

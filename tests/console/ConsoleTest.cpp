@@ -83,8 +83,8 @@ TEST_F(ConsoleTest, StartsWithDamagedPanelsOfAnyLength) {
             for (size_t i = 0; i < lunghezza; ++i)
                 file.put(static_cast<char>(i * 37 + 251));
         }
-        const auto avvisi = AvviaDati(altro.scrivania, altro.porta.link, altro.scan);
-        EXPECT_FALSE(avvisi.empty() && altro.ambiente.riquadri.empty());
+        AvviaDati(altro.scrivania, altro.porta.link, altro.scan);
+        EXPECT_FALSE(altro.scrivania.avvisi.empty() && altro.ambiente.riquadri.empty());
         EXPECT_GE(altro.porta.link.TipoLink, 0);
         EXPECT_LE(altro.porta.link.TipoLink, 1);
         EXPECT_GE(altro.porta.link.NumeroCom, 1);

@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <numeric>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <termios.h>
 
@@ -97,6 +96,22 @@ TEST(PortaSeriale, HoldsTheDeviceForItselfAlone) {
     EXPECT_EQ(l.ArrivatiAlPadrone(6), Byte("#SVER*"));
     l.porta.Chiudi();
     EXPECT_EQ(seconda.Apri(l.pseudo.Percorso()), EsitoApertura::Aperto);
+}
+
+TEST(PortaSeriale, KeepsOutProgramsThatAskForNoLock) {
+    Linea l;
+    ASSERT_EQ(chmod(l.pseudo.Percorso().c_str(), 0666), 0);
+    const auto apriComeNessuno = [&] {
+        return prova::EsitoAltrove([&] {
+            if (geteuid() == 0 && setuid(kNessuno) != 0)
+                return -1;
+            return open(l.pseudo.Percorso().c_str(), O_RDWR | O_NOCTTY) >= 0 ? 0 : errno;
+        });
+    };
+    ASSERT_EQ(l.Apri(), EsitoApertura::Aperto);
+    EXPECT_EQ(apriComeNessuno(), EBUSY);
+    l.porta.Chiudi();
+    EXPECT_EQ(apriComeNessuno(), 0);
 }
 
 TEST(PortaSeriale, OpensBehindAClientThatDiedWithTheLineOpen) {

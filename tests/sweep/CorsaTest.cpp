@@ -75,20 +75,26 @@ TEST_F(CorsaTest, SpeaksToTheReceiverInTheFixedOrder) {
 }
 
 TEST_F(CorsaTest, StopKeepsWhatHasArrivedAndTellsTheReceiver) {
-    banco.scan.Righe[0].Stop = 30;
-    banco.vista.alPasso = [this] { ChiediStop(banco.statoCorsa); };
-    EXPECT_EQ(Esegui(), EsitoCorsa::Fermata);
+    BancoSimulato banco({.byteAlSecondo = kByteAlSecondoLinea});
+    MettiBanda(banco.scan.Righe[0], "B", "P,Q");
+    banco.vista.alPasso = [&] { ChiediStop(banco.statoCorsa); };
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Fermata);
+    const auto PassiSuDisco = [&] {
+        return banco.File(PercorsoRS("M", "M", 0)).size() / kByteCampione;
+    };
     EXPECT_EQ(PassiSuDisco(), banco.vista.passi);
     EXPECT_GT(PassiSuDisco(), 0u);
     EXPECT_LT(PassiSuDisco(), 5971u);
-    EXPECT_EQ(banco.simulato.Comandi().back(), "#ASBK*");
+    const auto& comandi = banco.simulato.Comandi();
+    EXPECT_EQ(comandi[comandi.size() - 2], "#ASBK*");
+    EXPECT_EQ(comandi.back(), "#?BAT*");
     EXPECT_EQ(banco.File(PercorsoKSH("M")).size(), 17770u);
     EXPECT_FALSE(banco.statoCorsa.SweepInCorso);
     EXPECT_EQ(banco.statoCorsa.fase, FaseCorsa::Ferma);
     // The same bench runs on.
     banco.vista.alPasso = {};
     banco.scrivania.setup.OverwriteWarning = 0;
-    EXPECT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
     EXPECT_EQ(PassiSuDisco(), 5971u);
 }
 
