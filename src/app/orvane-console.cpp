@@ -98,6 +98,9 @@ int main(int argc, char** argv) {
     postazione.Carica();
     if (const auto motivo = collegamento.Applica(opzioni.link, postazione.porta); !motivo.empty())
         return Rifiuta(motivo);
+    // A quit is only noted: the loop ends once every handler has returned to it.
+    QObject::connect(&postazione.finestra, &MainForm::Terminata, &applicazione,
+                     &QApplication::quit);
     postazione.Mostra();
     inizio.close();
     return QApplication::exec();

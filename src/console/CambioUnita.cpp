@@ -24,9 +24,8 @@ double CimaSenzaRiferimento(int unitId) {
 bool ControlladBpTFC(Scrivania& s, int unitId) {
     const auto& voce = TabellaUnitaGrafico()[static_cast<size_t>(unitId)];
     const auto& accesi = s.setup.FactorOn;
-    if (!voce.chiedeFattore || std::any_of(accesi.begin(), accesi.end(), [](int16_t f) {
-            return f == 1;
-        }))
+    if (!voce.chiedeFattore ||
+        std::any_of(accesi.begin(), accesi.end(), [](int16_t f) { return f == 1; }))
         return true;
     s.ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
                                 "\rShould have an active Conversion Factor",
@@ -39,8 +38,7 @@ bool CambiaUnita(Scrivania& s, int unitId) {
         return false;
     if (!ControlladBpTFC(s, unitId))
         return false;
-    const double spostamento =
-        CimaSenzaRiferimento(s.setup.UnitId) - CimaSenzaRiferimento(unitId);
+    const double spostamento = CimaSenzaRiferimento(s.setup.UnitId) - CimaSenzaRiferimento(unitId);
     const auto riferimento = std::lround(s.setup.RefLevel + spostamento);
     s.setup.RefLevel = static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
     s.setup.UnitId = static_cast<int16_t>(unitId);

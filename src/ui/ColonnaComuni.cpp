@@ -148,8 +148,8 @@ void ColonnaComuni::CreaFrontEnd(QVBoxLayout& colonna) {
 void ColonnaComuni::CreaLivello(QVBoxLayout& colonna) {
     auto* gruppo = CreaGruppo(colonna, tr("Level"), interno_);
     unita_ = CreaLista("CBXUnitaDiMisura", tr("Unit"), tr("Unit of all levels"), interno_);
-    riferimento_ = CreaLista("CBXRefLevel", tr("Reference"),
-                             tr("Level at the top of the picture"), interno_);
+    riferimento_ =
+        CreaLista("CBXRefLevel", tr("Reference"), tr("Level at the top of the picture"), interno_);
     dinamica_ = CreaLista("CBXDinamica", tr("Dynamics"), tr("Vertical range"), interno_);
     for (int i = 0; i < kUnitaScelte; ++i)
         unita_->addItem(Q(TabellaUnitaGrafico()[static_cast<size_t>(i)].testo), i);
@@ -212,7 +212,9 @@ void ColonnaComuni::RiempiRiferimento() {
     const auto testo = [&](int riferimento) {
         prova.RefLevel = static_cast<int16_t>(riferimento);
         const ScalaGrafico scala = SetScaleGraph(prova, 0.15, 30, true, 1000, 0);
-        return QStringLiteral("%1 %2").arg(std::lround(scala.alto / 100)).arg(unita_->currentText());
+        return QStringLiteral("%1 %2")
+            .arg(std::lround(scala.alto / 100))
+            .arg(unita_->currentText());
     };
     for (int dB = kMaxRiferimento; dB >= -kMaxRiferimento; dB -= kPassoRiferimento)
         riferimento_->addItem(testo(dB), dB);

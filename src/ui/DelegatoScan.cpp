@@ -57,8 +57,8 @@ QWidget* DelegatoScan::createEditor(QWidget* padre, const QStyleOptionViewItem&,
         return CreaElenco(padre, indice);
     auto* testo = new QLineEdit(padre);
     testo->setObjectName(QStringLiteral("TBCella"));
-    testo->setAccessibleName(indice.model()->headerData(indice.column(), Qt::Horizontal,
-                                                        Qt::ToolTipRole).toString());
+    testo->setAccessibleName(
+        indice.model()->headerData(indice.column(), Qt::Horizontal, Qt::ToolTipRole).toString());
     return testo;
 }
 

@@ -45,9 +45,9 @@ void DepositoTracce::ImpostaLarghezza(int colonne) {
 DepositoTracce::Coppia& DepositoTracce::Prendi(size_t detector) {
     auto& traccia = tracce_[detector];
     if (!traccia)
-        traccia = std::make_unique<Coppia>(
-            Coppia{ColonneTraccia(start_, stop_, kColonneDeposito, true),
-                   ColonneTraccia(start_, stop_, colonne_, true)});
+        traccia =
+            std::make_unique<Coppia>(Coppia{ColonneTraccia(start_, stop_, kColonneDeposito, true),
+                                            ColonneTraccia(start_, stop_, colonne_, true)});
     return *traccia;
 }
 

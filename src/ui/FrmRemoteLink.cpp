@@ -71,7 +71,8 @@ QWidget* FrmRemoteLink::CreaScelta(const QString& fisso) {
     if (!fisso.isEmpty()) {
         auto* nota = CreaDidascalia(
             tr("This session was started with the link \"%1\";\nthe choice counts from the next "
-               "start on.").arg(fisso),
+               "start on.")
+                .arg(fisso),
             quadro);
         nota->setObjectName(QStringLiteral("LBFisso"));
         modulo->addRow(nota);

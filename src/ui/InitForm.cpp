@@ -27,8 +27,9 @@ QPixmap Disegna(int lato) {
     p.drawLine(QPointF(10, 50), QPointF(54, 50));
     QPainterPath traccia;
     traccia.moveTo(10, 44);
-    for (const QPointF& punto : {QPointF(19, 41), QPointF(23, 44), QPointF(28, 14), QPointF(33, 43),
-                                 QPointF(38, 40), QPointF(42, 28), QPointF(46, 43), QPointF(54, 41)})
+    for (const QPointF& punto :
+         {QPointF(19, 41), QPointF(23, 44), QPointF(28, 14), QPointF(33, 43), QPointF(38, 40),
+          QPointF(42, 28), QPointF(46, 43), QPointF(54, 41)})
         traccia.lineTo(punto);
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(Tinta(true, Ruolo::Accento), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -2,8 +2,8 @@
 
 #include <QCloseEvent>
 #include <QGridLayout>
-#include <QMessageBox>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -166,8 +166,7 @@ void MainForm::CollegaPannelli() {
     attesa_.setSingleShot(true);
     attesa_.setInterval(60);
     connect(archivio_, &PannelloArchivio::MisuraScelta, &attesa_, qOverload<>(&QTimer::start));
-    connect(&attesa_, &QTimer::timeout, this,
-            [this] { ApriMisuraScelta(Q(archivio_->Scelta())); });
+    connect(&attesa_, &QTimer::timeout, this, [this] { ApriMisuraScelta(Q(archivio_->Scelta())); });
     connect(quadro_, &MainPict::Puntata, this, [this](double mhz, double livello) {
         if (!console_->corsa.stato.SweepInCorso)
             stato_->MostraFreqLivello(mhz, livello, Unita());

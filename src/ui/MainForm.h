@@ -21,10 +21,7 @@
 
 namespace orvane {
 
-class MainForm : public QMainWindow,
-                 public VistaConsole,
-                 public VistaCorsa,
-                 public VistaErrore {
+class MainForm : public QMainWindow, public VistaConsole, public VistaCorsa, public VistaErrore {
     Q_OBJECT
 public:
     MainForm(Scrivania& scrivania, ScanRecord& scan);
@@ -66,6 +63,10 @@ public:
     void NascondiStriscia() override;
     void ColoraStriscia(bool scambiata) override;
     void AbilitaSSTabMode() override;
+
+Q_SIGNALS:
+    /// The process is to end; comes from the main loop, outside the handler that asked for it.
+    void Terminata();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -117,7 +118,7 @@ private:
 
     MisuraAperta misura_;
     ScanTable righeAperte_{}; ///< lines of the open measure, as the foot of the archive shows them
-    double stopRigaMhz_ = 0; ///< where the last line drawn has ended
+    double stopRigaMhz_ = 0;  ///< where the last line drawn has ended
     std::string batteria_;
     std::string nomeCorsa_; ///< the measure that the picture of the Sweep tab belongs to
 };

@@ -1,5 +1,4 @@
 // What the modes and the archive say to the main window.
-#include <QCoreApplication>
 #include <QMenuBar>
 #include <QSignalBlocker>
 
@@ -92,9 +91,8 @@ void MainForm::AbilitaTimerTask() {
     timerTask_.start();
 }
 
-/// A quit that is only noted: the loop ends once every handler has returned to it.
 void MainForm::TerminaProcesso() {
-    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &MainForm::Terminata, Qt::QueuedConnection);
 }
 
 void MainForm::MostraStato(const std::string& testo) {
@@ -107,8 +105,8 @@ void MainForm::ApriMisuraScelta(const QString& nome) {
     righeMisura_->Modello().Aggiorna();
     archivio_->MostraMisura(misura_);
     titoloMisura_->setText(nome.isEmpty() ? QString() : tr("Scan lines of %1").arg(nome));
-    quadro_->ImpostaInvito(nome.isEmpty()         ? tr("No measure is open")
-                           : !misura_.leggibile   ? tr("%1 cannot be read").arg(nome)
+    quadro_->ImpostaInvito(nome.isEmpty()            ? tr("No measure is open")
+                           : !misura_.leggibile      ? tr("%1 cannot be read").arg(nome)
                            : misura_.traccia.empty() ? tr("%1 holds no samples").arg(nome)
                                                      : QString());
     stato_->MostraMessaggio(
@@ -141,9 +139,9 @@ void MainForm::AggiornaEtichette() {
     const bool archivio = console_->stato.modalita == Modalita::SweepsArchive;
     const bool noto = !r.modello.FwTesto.empty();
     chipModello_->Mostra(archivio ? tr("No receiver needed")
-                         : noto   ? QStringLiteral("%1  FW %2").arg(
-                                      Q(NomeModello(r.modello, false)), Q(r.modello.FwTesto))
-                                  : QString(),
+                         : noto   ? QStringLiteral("%1  FW %2")
+                                      .arg(Q(NomeModello(r.modello, false)), Q(r.modello.FwTesto))
+                                : QString(),
                          !archivio && r.porta.Aperta());
     chipLink_->Mostra(archivio ? QString() : DescrizioneLink());
     chipBatteria_->Mostra(archivio || batteria_.empty() ? QString()

@@ -98,7 +98,8 @@ void MainPict::PreparaScala() {
     p.setFont(font());
     SuperficieQt superficie(p, punti.width(), punti.height());
     griglia_ = DisponiGriglia(superficie, TinteGrafico());
-    scala_ = SetScaleGraph(setup_, deposito_.Start(), deposito_.Stop(), true, griglia_.larghezza, 0);
+    scala_ =
+        SetScaleGraph(setup_, deposito_.Start(), deposito_.Stop(), true, griglia_.larghezza, 0);
     deposito_.ImpostaLarghezza(std::max(1, static_cast<int>(griglia_.larghezza)));
 }
 

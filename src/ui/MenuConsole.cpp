@@ -19,8 +19,7 @@ constexpr VoceMenu kMarca(const char* nome, const char* testo, int16_t SetupReco
     return {"Options", nullptr, nome, testo, kSegno, segno, nullptr, false};
 }
 /// A mark whose effect belongs to what is not there yet.
-constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo,
-                                int16_t SetupRecord::*segno) {
+constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
 }
 
@@ -47,8 +46,8 @@ constexpr VoceMenu kMenu[] = {
     {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
     {"Report", "MNUReport", "MNUReportRTF", "RTF…", kNessuna, nullptr, nullptr, true},
     kDopo("Report", "MNUAutoSaveReport", "Auto Save Report"),
-    {"Tools", nullptr, "MNURemoteLink", "Remote Link…", AzioneMenu::RemoteLink, nullptr,
-     "Ctrl+L", false},
+    {"Tools", nullptr, "MNURemoteLink", "Remote Link…", AzioneMenu::RemoteLink, nullptr, "Ctrl+L",
+     false},
     kSeparatore("Tools"),
     kDopo("Tools", "MNUWaterfall", "Waterfall…"),
     kDopo("Tools", "MNUCorrel", "Correlation…"),

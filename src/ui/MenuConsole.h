@@ -16,10 +16,10 @@ struct VoceMenu {
     const char* sotto; ///< and which menu of that one; null for none
     const char* nome;  ///< object name; null for a separator
     const char* testo;
-    AzioneMenu azione;             ///< `Nessuna`: present, and disabled
-    int16_t SetupRecord::*segno;   ///< the flag that a check mark shows, -1 on
+    AzioneMenu azione;           ///< `Nessuna`: present, and disabled
+    int16_t SetupRecord::*segno; ///< the flag that a check mark shows, -1 on
     const char* scorciatoia;
-    bool delModo;                  ///< `DisabilitaMenu` switches it off
+    bool delModo; ///< `DisabilitaMenu` switches it off
 };
 
 /// What the entries do.

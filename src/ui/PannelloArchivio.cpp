@@ -26,15 +26,15 @@ QString DataCorta(const std::string& data) {
     if (!giorno.isValid())
         return {};
     const bool quest = giorno.year() == QDate::currentDate().year();
-    return QLocale::c().toString(giorno, quest ? QStringLiteral("d MMM")
-                                               : QStringLiteral("d MMM yyyy"));
+    return QLocale::c().toString(giorno,
+                                 quest ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
 }
 
 /// "yyyymmdd hh:mm:ss", which sorts.
 std::string ChiaveData(const std::string& data) {
-    return data.size() < 19 ? std::string()
-                            : data.substr(6, 4) + data.substr(3, 2) + data.substr(0, 2) +
-                                  data.substr(10);
+    return data.size() < 19
+               ? std::string()
+               : data.substr(6, 4) + data.substr(3, 2) + data.substr(0, 2) + data.substr(10);
 }
 
 class DelegatoMisura : public QStyledItemDelegate {
@@ -64,9 +64,9 @@ public:
         p->setFont(nome);
         p->setPen(Tinta(o.palette, guasta ? Ruolo::Tenue : Ruolo::Testo));
         const QRect spazio = riga.adjusted(8, 0, -largo - 18, 0);
-        p->drawText(spazio, Qt::AlignVCenter,
-                    QFontMetrics(nome).elidedText(i.data(Nome).toString(), Qt::ElideRight,
-                                                  spazio.width()));
+        p->drawText(
+            spazio, Qt::AlignVCenter,
+            QFontMetrics(nome).elidedText(i.data(Nome).toString(), Qt::ElideRight, spazio.width()));
         p->restore();
     }
 
@@ -178,15 +178,14 @@ std::string PannelloArchivio::Scelta() const {
 void PannelloArchivio::Filtra(const QString& cercato) {
     int visibili = 0;
     for (int i = 0; i < lista_->count(); ++i) {
-        const bool c = lista_->item(i)->data(Cercabile).toString().contains(cercato,
-                                                                            Qt::CaseInsensitive);
+        const bool c =
+            lista_->item(i)->data(Cercabile).toString().contains(cercato, Qt::CaseInsensitive);
         lista_->item(i)->setHidden(!c);
         visibili += c;
     }
     vuota_->setVisible(visibili == 0);
-    vuota_->setText(lista_->count() == 0
-                        ? tr("No measures yet. Run a scan table in the Sweep tab.")
-                        : tr("No measure matches \"%1\".").arg(cercato));
+    vuota_->setText(lista_->count() == 0 ? tr("No measures yet. Run a scan table in the Sweep tab.")
+                                         : tr("No measure matches \"%1\".").arg(cercato));
 }
 
 void PannelloArchivio::MostraMisura(const MisuraAperta& misura) {
@@ -215,8 +214,8 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
                  .arg(misura.traccia.size())
                  .arg(RigheInUso(misura.header.Scan.Righe));
     if (misura.stopMhz > 0)
-        righe << tr("%1 to %2").arg(TestoFrequenza(misura.startMhz),
-                                    TestoFrequenza(misura.stopMhz));
+        righe
+            << tr("%1 to %2").arg(TestoFrequenza(misura.startMhz), TestoFrequenza(misura.stopMhz));
     if (!setup.ModelText.empty())
         righe << tr("Receiver %1  FW %2").arg(Q(setup.ModelText), Q(setup.FwRelease));
     if (!setup.SerialA.empty())

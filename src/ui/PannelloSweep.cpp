@@ -27,14 +27,10 @@ struct AspettoFase {
     const char* pausa; ///< null: hidden
 };
 constexpr AspettoFase kAspetti[] = {
-    {FaseCorsa::Ferma, "Execute", true, nullptr},
-    {FaseCorsa::Controlli, "Stop", true, nullptr},
-    {FaseCorsa::Attesa, "Stop", true, nullptr},
-    {FaseCorsa::Preparazione, "Stop", true, nullptr},
-    {FaseCorsa::Riga, "Stop", true, nullptr},
-    {FaseCorsa::Misura, "Stop", true, nullptr},
-    {FaseCorsa::Pausa, "Stop", true, "Resume"},
-    {FaseCorsa::Arresto, "Stop", false, nullptr},
+    {FaseCorsa::Ferma, "Execute", true, nullptr}, {FaseCorsa::Controlli, "Stop", true, nullptr},
+    {FaseCorsa::Attesa, "Stop", true, nullptr},   {FaseCorsa::Preparazione, "Stop", true, nullptr},
+    {FaseCorsa::Riga, "Stop", true, nullptr},     {FaseCorsa::Misura, "Stop", true, nullptr},
+    {FaseCorsa::Pausa, "Stop", true, "Resume"},   {FaseCorsa::Arresto, "Stop", false, nullptr},
     {FaseCorsa::Guasto, "Stop", false, nullptr},
 };
 
@@ -69,8 +65,8 @@ QWidget* PannelloSweep::CreaComandi() {
                            tr("Runs the scan table (F5)"), barra);
     esegui_->setShortcut(QKeySequence(Qt::Key_F5));
     esegui_->setMinimumWidth(esegui_->fontMetrics().horizontalAdvance(tr("Execute")) + 40);
-    pausa_ = CreaPulsante(QStringLiteral("CMBPauseSweep"), tr("Pause"), tr("Holds the sweep"),
-                          barra);
+    pausa_ =
+        CreaPulsante(QStringLiteral("CMBPauseSweep"), tr("Pause"), tr("Holds the sweep"), barra);
     tabelle_ = Nomina(new QComboBox(barra), QStringLiteral("CBXScanTab"), tr("Scan table"),
                       tr("Choose a scan table; a new name and Enter keep a copy under it"));
     tabelle_->setEditable(true);
@@ -115,8 +111,8 @@ void PannelloSweep::CreaBande(QPushButton* pulsante) {
         }
         menu->addAction(Q(banda.nome), this, [this, &banda] {
             if (!AggiungiBanda(scan_.Righe, banda, kAncillaryKind)) {
-                scrivania_.ambiente.Mostra({.testo = "A scan table has ten lines at most",
-                                            .icona = Icona::Esclamazione});
+                scrivania_.ambiente.Mostra(
+                    {.testo = "A scan table has ten lines at most", .icona = Icona::Esclamazione});
                 return;
             }
             SalvaTabella();
@@ -227,10 +223,10 @@ void PannelloSweep::NuovaTabella() {
 
 void PannelloSweep::CancellaTabella() {
     const std::string nome = EstraiNomeFile(scrivania_.env.ScanPanelPath);
-    const Risposta risposta = scrivania_.ambiente.Mostra(
-        {.testo = "Are you sure you want to delete " + nome + " ?",
-         .icona = Icona::Domanda,
-         .pulsanti = Pulsanti::SiNo});
+    const Risposta risposta =
+        scrivania_.ambiente.Mostra({.testo = "Are you sure you want to delete " + nome + " ?",
+                                    .icona = Icona::Domanda,
+                                    .pulsanti = Pulsanti::SiNo});
     if (risposta != Risposta::Si)
         return;
     scrivania_.albero.Cancella(scrivania_.env.ScanPanelPath);

@@ -18,8 +18,8 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
     freq_ = Nomina(CreaDidascalia(QString(), this), QStringLiteral("LBFreqTrc"),
                    tr("Frequency and level"));
     messaggio_ = Nomina(CreaDidascalia(QString(), this), QStringLiteral("LBStato"), tr("Message"));
-    passata_ = Nomina(CreaDidascalia(QString(), this), QStringLiteral("LBPassata"),
-                      tr("Line and pass"));
+    passata_ =
+        Nomina(CreaDidascalia(QString(), this), QStringLiteral("LBPassata"), tr("Line and pass"));
     tempo_ = Nomina(CreaDidascalia(QString(), this), QStringLiteral("LBTempo"), tr("Time"));
     barra_ = Nomina(new QProgressBar(this), QStringLiteral("PBSweep"), tr("Progress of the run"));
     barra_->setRange(0, kParti);
@@ -39,8 +39,8 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
 }
 
 void RigaStato::MostraFreqLivello(double mhz, double livello, const QString& unita) {
-    freq_->setText(QStringLiteral("%1    %2 %3")
-                       .arg(TestoFrequenza(mhz), Q(TestoFisso(livello, 1)), unita));
+    freq_->setText(
+        QStringLiteral("%1    %2 %3").arg(TestoFrequenza(mhz), Q(TestoFisso(livello, 1)), unita));
 }
 
 void RigaStato::MostraMessaggio(const QString& testo) {
@@ -57,9 +57,10 @@ void RigaStato::MostraAvanzamento(const Avanzamento& a) {
         parti << tr("pass %1 of %2").arg(a.passata + 1).arg(a.numPassate);
     passata_->setText(parti.join(QStringLiteral(" · ")));
     barra_->setValue(static_cast<int>(a.frazione * kParti));
-    tempo_->setText(a.restanoS < 0 ? tr("%1 elapsed").arg(TestoDurata(a.trascorsiS))
-                                   : tr("%1 elapsed · %2 left")
-                                         .arg(TestoDurata(a.trascorsiS), TestoDurata(a.restanoS)));
+    tempo_->setText(
+        a.restanoS < 0
+            ? tr("%1 elapsed").arg(TestoDurata(a.trascorsiS))
+            : tr("%1 elapsed · %2 left").arg(TestoDurata(a.trascorsiS), TestoDurata(a.restanoS)));
     passata_->show();
     barra_->show();
     tempo_->show();

@@ -16,10 +16,10 @@ SceltaDetector::SceltaDetector(const std::array<int16_t, kNumDetector>& accesi, 
     colonna->setContentsMargins(12, 10, 16, 10);
     colonna->setSpacing(6);
     for (size_t d = 0; d < kNumDetector; ++d) {
-        auto* casella = new QCheckBox(
-            QStringLiteral("%1  (%2)").arg(QLatin1String(kNomiDetector[d])).arg(
-                QLatin1Char(kLettereDetector[d])),
-            this);
+        auto* casella = new QCheckBox(QStringLiteral("%1  (%2)")
+                                          .arg(QLatin1String(kNomiDetector[d]))
+                                          .arg(QLatin1Char(kLettereDetector[d])),
+                                      this);
         casella->setObjectName(QStringLiteral("OPTDetector%1").arg(d));
         caselle_[d] = casella;
         colonna->addWidget(casella);

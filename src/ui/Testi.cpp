@@ -8,11 +8,12 @@ namespace orvane {
 
 QString TestoDurata(double secondi) {
     const auto interi = static_cast<long long>(std::floor(secondi < 0 ? 0 : secondi));
-    const QString resto = QStringLiteral("%1:%2").arg(interi / 60 % 60).arg(interi % 60, 2, 10,
-                                                                            QLatin1Char('0'));
+    const QString resto =
+        QStringLiteral("%1:%2").arg(interi / 60 % 60).arg(interi % 60, 2, 10, QLatin1Char('0'));
     return interi < 3600 ? resto
-                         : QStringLiteral("%1:%2").arg(interi / 3600).arg(
-                               resto.rightJustified(5, QLatin1Char('0')));
+                         : QStringLiteral("%1:%2")
+                               .arg(interi / 3600)
+                               .arg(resto.rightJustified(5, QLatin1Char('0')));
 }
 
 QString TestoFrequenza(double mhz) {

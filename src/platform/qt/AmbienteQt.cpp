@@ -42,9 +42,9 @@ constexpr std::array<VocePulsanti, 4> kPulsanti = {{
     {Pulsanti::SiNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
     {Pulsanti::RiprovaAnnulla, QMessageBox::Retry | QMessageBox::Cancel, QMessageBox::Cancel},
 }};
-constexpr std::array<QMessageBox::Icon, 5> kIcone = {
-    QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Warning, QMessageBox::Question,
-    QMessageBox::Critical};
+constexpr std::array<QMessageBox::Icon, 5> kIcone = {QMessageBox::NoIcon, QMessageBox::Information,
+                                                     QMessageBox::Warning, QMessageBox::Question,
+                                                     QMessageBox::Critical};
 
 Risposta Traduci(int pulsante) {
     switch (pulsante) {
@@ -136,7 +136,8 @@ Risposta AmbienteQt::Mostra(const Riquadro& riquadro) {
     const VocePulsanti& voce = kPulsanti[static_cast<size_t>(riquadro.pulsanti)];
     QMessageBox scatola(finestra);
     scatola.setObjectName(QStringLiteral("Riquadro"));
-    scatola.setWindowTitle(TestoRiquadro(riquadro.titolo.empty() ? kNomeProgramma : riquadro.titolo));
+    scatola.setWindowTitle(
+        TestoRiquadro(riquadro.titolo.empty() ? kNomeProgramma : riquadro.titolo));
     scatola.setTextFormat(Qt::PlainText);
     scatola.setText(TestoRiquadro(riquadro.testo));
     scatola.setIcon(kIcone[static_cast<size_t>(riquadro.icona)]);
