@@ -67,6 +67,7 @@ void MainForm::EntraSweep() {
     quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));
     sweep_->Carica();
     stato_->CancellaBarre();
+    quadro_->IniziaTraccia(0, 0);
     MostraAsseTabella();
 }
 

@@ -55,8 +55,6 @@ void MainForm::MostraFase(FaseCorsa fase) {
         voce->setEnabled(ferma);
     if (fase == FaseCorsa::Arresto)
         stato_->MostraMessaggio(tr("Stopping"));
-    if (ferma)
-        NascondiStriscia();
     AggiornaEtichette();
 }
 
@@ -110,13 +108,16 @@ void MainForm::MostraModello() {
     AggiornaEtichette();
 }
 
-/// The axis of the table that is being edited, as long as no trace of a run is worth keeping.
+/// The axis of the table that is being edited; a trace stays as long as it fits the axis.
 void MainForm::MostraAsseTabella() {
     if (console_->corsa.stato.SweepInCorso)
         return;
     double start = 0;
     double stop = 0;
     CampoDellaTabella(scan_.Righe, start, stop);
+    const DepositoTracce& mostrato = quadro_->Deposito();
+    if (StessaFrequenza(start, mostrato.Start()) && StessaFrequenza(stop, mostrato.Stop()))
+        return;
     quadro_->IniziaTraccia(start, stop);
     quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));
 }

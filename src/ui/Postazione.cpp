@@ -28,14 +28,14 @@ Postazione::Postazione(AmbienteQt& ambienteQt, const std::filesystem::path& dati
 }
 
 void Postazione::Carica() {
-    avvisi_ = AvviaDati(scrivania, porta.link, scan);
+    AvviaDati(scrivania, porta.link, scan);
     finestra.Carica();
 }
 
 void Postazione::Mostra() {
     finestra.show();
     VisualizzazioneIniziale(console);
-    finestra.MostraAvvisi(avvisi_);
+    finestra.MostraAvvisi(scrivania.avvisi);
 }
 
 } // namespace orvane

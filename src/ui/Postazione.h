@@ -31,9 +31,6 @@ struct Postazione {
     Ricevitore ricevitore;
     Corsa corsa;
     Console console;
-
-private:
-    std::vector<std::string> avvisi_;
 };
 
 } // namespace orvane
