@@ -27,7 +27,7 @@ struct Banco {
         ricevitore.Riceve({reinterpret_cast<const uint8_t*>(comandi.data()), comandi.size()}, ora);
     }
     /// At most `quanti` of the bytes that are there now.
-    std::string Prendi(size_t quanti = 1 << 24) {
+    std::string Prendi(size_t quanti = 1 << 20) {
         std::string testo(quanti, '\0');
         const auto dove = reinterpret_cast<uint8_t*>(testo.data());
         testo.resize(ricevitore.Da({dove, quanti}, ora));
