@@ -114,7 +114,9 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
             stato.AbbandonaComandi = true;
     };
     ambiente.alGiro = [&] {
-        if (o.pazienzaS > 0 && vista.StrisciaDaS() > o.pazienzaS)
+        // While the banner stands a command repeats itself for ever: a Stop would never come to it.
+        const double daS = vista.StrisciaDaS();
+        if (daS > 0 && (corsa.StopRichiesto || (o.pazienzaS > 0 && daS > o.pazienzaS)))
             stato.AbbandonaComandi = true;
     };
     Banco banco{.scrivania = scrivania,

@@ -1,0 +1,48 @@
+#include "console/CambioUnita.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "data/Panels.h"
+#include "graph/Scala.h"
+
+namespace orvane {
+namespace {
+
+constexpr long kRefMax = 300;
+
+/// Where the top of the grid stands above the base unit with a reference of 0, dB.
+double CimaSenzaRiferimento(int unitId) {
+    int cima = 0;
+    int fondo = 0;
+    ImpostaLimitiScala(ImpostaUnita(unitId), cima, fondo);
+    return cima / 100.0 - static_cast<double>(ImpostaUnita(unitId));
+}
+
+} // namespace
+
+bool ControlladBpTFC(Scrivania& s, int unitId) {
+    const auto& voce = TabellaUnitaGrafico()[static_cast<size_t>(unitId)];
+    const auto& accesi = s.setup.FactorOn;
+    if (!voce.chiedeFattore ||
+        std::any_of(accesi.begin(), accesi.end(), [](int16_t f) { return f == 1; }))
+        return true;
+    s.ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
+                                "\rShould have an active Conversion Factor",
+                       .icona = Icona::Esclamazione});
+    return false;
+}
+
+bool CambiaUnita(Scrivania& s, int unitId) {
+    if (unitId < 0 || unitId >= static_cast<int>(TabellaUnitaGrafico().size()))
+        return false;
+    if (!ControlladBpTFC(s, unitId))
+        return false;
+    const double spostamento = CimaSenzaRiferimento(s.setup.UnitId) - CimaSenzaRiferimento(unitId);
+    const auto riferimento = std::lround(s.setup.RefLevel + spostamento);
+    s.setup.RefLevel = static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
+    s.setup.UnitId = static_cast<int16_t>(unitId);
+    return SalvaPanelEAM(s, kPannelloEAM);
+}
+
+} // namespace orvane

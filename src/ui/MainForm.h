@@ -1,0 +1,126 @@
+// `MainForm`: the main window. It shows what the procedures say, writes the user's edits into the
+// records, and calls the procedures; it decides nothing.
+#pragma once
+
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+
+#include "console/Archivio.h"
+#include "console/Console.h"
+#include "ui/ColonnaComuni.h"
+#include "ui/GridScanTab.h"
+#include "ui/MainPict.h"
+#include "ui/Moduli.h"
+#include "ui/PaginaRicevitore.h"
+#include "ui/PannelloArchivio.h"
+#include "ui/PannelloSweep.h"
+#include "ui/RigaStato.h"
+#include "ui/Striscia.h"
+
+namespace orvane {
+
+class MainForm : public QMainWindow, public VistaConsole, public VistaCorsa, public VistaErrore {
+    Q_OBJECT
+public:
+    MainForm(Scrivania& scrivania, ScanRecord& scan);
+
+    /// To be called once, before anything is shown.
+    void Collega(Console& console, CatalogoPorte& catalogo);
+    /// Shows the loaded records.
+    void Carica();
+    /// What was repaired at the start, told once the window stands.
+    void MostraAvvisi(const std::vector<std::string>& avvisi);
+
+    // VistaConsole
+    void MostraTitolo(const std::string& titolo) override;
+    void MostraScheda(Modalita modalita) override;
+    void DisabilitaMenu() override;
+    void EntraArchivio() override;
+    void EntraSweep() override;
+    void EntraModoVivo(Modalita modalita) override;
+    void PulisciQuadro() override;
+    void ChiudiFinestreAusiliarie() override;
+    void AbilitaTimerTask() override;
+    void TerminaProcesso() override;
+    void MostraStato(const std::string& testo) override;
+
+    // VistaCorsa
+    void MostraFase(FaseCorsa fase) override;
+    void IniziaTraccia(const ScanTable& tabella, const std::string& misura) override;
+    void AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
+                       std::span<const SampleRecord> passi) override;
+    void MostraFreqLivello(double freqMhz, int16_t livelloCent) override;
+    void MostraAvanzamento(const Avanzamento& avanzamento) override;
+    void MostraBatteria(const std::string& livello) override;
+    void AggiornaGriglia() override;
+    void EvidenziaCella(int riga, ColonnaScan colonna, bool errata) override;
+    void MostraModello() override;
+
+    // VistaErrore
+    void MostraStriscia(const std::string& testo) override;
+    void NascondiStriscia() override;
+    void ColoraStriscia(bool scambiata) override;
+    void AbilitaSSTabMode() override;
+
+Q_SIGNALS:
+    /// The process is to end; comes from the main loop, outside the handler that asked for it.
+    void Terminata();
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    void CreaFinestra();
+    QWidget* CreaBarraModi();
+    QWidget* CreaCentro();
+    QWidget* CreaPiedeArchivio();
+    void CreaScorciatoie();
+    void CollegaPannelli();
+    void MostraPannelli(bool archivio, bool sweep, bool vivo);
+    void ClickScheda(int scheda);
+    void Esegui();
+    void MostraEsito(EsitoCorsa esito);
+    void ApriMisuraScelta(const QString& nome);
+    void DisegnaMisura(int detector);
+    void AggiornaEtichette();
+    void MostraAsseTabella();
+    void CambiaSegno(int16_t SetupRecord::*segno, bool si);
+    void ApriFrmRemoteLink();
+    void MostraGuida();
+    QString DescrizioneLink() const;
+    QString Unita() const;
+
+    Scrivania& scrivania_;
+    ScanRecord& scan_;
+    Console* console_ = nullptr;
+    CatalogoPorte* catalogo_ = nullptr;
+
+    QTabBar* schede_ = nullptr;
+    Etichetta* chipModello_ = nullptr;
+    Etichetta* chipLink_ = nullptr;
+    Etichetta* chipBatteria_ = nullptr;
+    PannelloArchivio* archivio_ = nullptr;
+    QStackedWidget* pagine_ = nullptr; ///< the picture with its foot, or the receiver
+    MainPict* quadro_ = nullptr;
+    Striscia* striscia_ = nullptr;
+    QStackedWidget* piede_ = nullptr; ///< the panel of the mode
+    PannelloSweep* sweep_ = nullptr;
+    QWidget* piedeArchivio_ = nullptr;
+    QLabel* titoloMisura_ = nullptr;
+    GridScanTab* righeMisura_ = nullptr;
+    PaginaRicevitore* ricevitore_ = nullptr;
+    ColonnaComuni* comuni_ = nullptr;
+    RigaStato* stato_ = nullptr;
+    QTimer timerTask_;
+    QTimer attesa_; ///< gathers quick moves through the archive list
+
+    MisuraAperta misura_;
+    ScanTable righeAperte_{}; ///< lines of the open measure, as the foot of the archive shows them
+    double stopRigaMhz_ = 0;  ///< where the last line drawn has ended
+    std::string batteria_;
+    std::string nomeCorsa_; ///< the measure that the picture of the Sweep tab belongs to
+};
+
+} // namespace orvane

@@ -1,0 +1,143 @@
+// What a run and the protocol say to the main window.
+#include <QMenuBar>
+
+#include "graph/Scala.h"
+#include "ui/MainForm.h"
+#include "ui/Testi.h"
+
+namespace orvane {
+namespace {
+
+/// How a run ended, for the status line.
+struct ParoleEsito {
+    EsitoCorsa esito;
+    const char* testo;
+};
+constexpr ParoleEsito kEsiti[] = {
+    {EsitoCorsa::Compiuta, "Done"},
+    {EsitoCorsa::Rifiutata, "Not started"},
+    {EsitoCorsa::Fermata, "Stopped: the measure holds what was swept"},
+    {EsitoCorsa::Abbandonata, "Aborted"},
+    {EsitoCorsa::GuastoLink, "Receiver or link failed"},
+    {EsitoCorsa::GuastoFile, "File could not be written"},
+};
+
+} // namespace
+
+void MainForm::Esegui() {
+    if (console_->corsa.stato.SweepInCorso) {
+        ClickExecuteSweep(console_->corsa, {});
+        return;
+    }
+    stato_->MostraMessaggio(tr("Checking"));
+    MostraEsito(ClickExecuteSweep(console_->corsa, sweep_->Misura()));
+}
+
+void MainForm::MostraEsito(EsitoCorsa esito) {
+    const StatoCorsa& s = console_->corsa.stato;
+    QString testo = tr(kEsiti[static_cast<size_t>(esito)].testo);
+    if (esito == EsitoCorsa::Compiuta)
+        testo += QStringLiteral(": ") + Q(s.misura);
+    else if (esito != EsitoCorsa::Fermata && !s.motivo.empty())
+        testo += QStringLiteral(": ") + Q(s.motivo);
+    stato_->MostraMessaggio(testo);
+    sweep_->AggiornaGriglia();
+    archivio_->ElencaArchivio();
+    AggiornaEtichette();
+}
+
+void MainForm::MostraFase(FaseCorsa fase) {
+    const bool ferma = fase == FaseCorsa::Ferma;
+    sweep_->MostraFase(fase);
+    comuni_->Abilita(ferma);
+    schede_->setEnabled(ferma);
+    if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
+        voce->setEnabled(ferma);
+    if (fase == FaseCorsa::Arresto)
+        stato_->MostraMessaggio(tr("Stopping"));
+    AggiornaEtichette();
+}
+
+void MainForm::IniziaTraccia(const ScanTable& tabella, const std::string& misura) {
+    double start = 0;
+    double stop = 0;
+    CampoDellaTabella(tabella, start, stop);
+    quadro_->ImpostaInvito({});
+    quadro_->IniziaTraccia(start, stop);
+    nomeCorsa_ = misura;
+    stopRigaMhz_ = 0;
+    sweep_->ImpostaMisura(misura);
+    stato_->MostraMessaggio(tr("Sweeping %1").arg(Q(misura)));
+}
+
+void MainForm::AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
+                             std::span<const SampleRecord> passi) {
+    // A line that begins elsewhere than where the last one ended does not continue it.
+    if (freqMhz < stopRigaMhz_ || freqMhz - stopRigaMhz_ > 2 * passoMhz)
+        quadro_->InterrompiTraccia();
+    for (size_t i = 0; i < passi.size(); ++i)
+        quadro_->Aggiungi(freqMhz + static_cast<double>(i) * passoMhz, passi[i]);
+    stopRigaMhz_ = freqMhz + static_cast<double>(passi.size() - 1) * passoMhz;
+    stopRigaMhz_ = std::min(stopRigaMhz_, riga.Stop);
+}
+
+void MainForm::MostraFreqLivello(double freqMhz, int16_t livelloCent) {
+    const double livello =
+        livelloCent / 100.0 + static_cast<double>(ImpostaUnita(scrivania_.setup.UnitId));
+    stato_->MostraFreqLivello(freqMhz, livello, Unita());
+}
+
+void MainForm::MostraAvanzamento(const Avanzamento& avanzamento) {
+    stato_->MostraAvanzamento(avanzamento);
+}
+
+void MainForm::MostraBatteria(const std::string& livello) {
+    batteria_ = livello;
+    AggiornaEtichette();
+}
+
+void MainForm::AggiornaGriglia() {
+    sweep_->AggiornaGriglia();
+}
+
+void MainForm::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {
+    sweep_->EvidenziaCella(riga, colonna, errata);
+}
+
+void MainForm::MostraModello() {
+    AggiornaEtichette();
+}
+
+/// The axis of the table that is being edited; a trace stays as long as it fits the axis.
+void MainForm::MostraAsseTabella() {
+    if (console_->corsa.stato.SweepInCorso)
+        return;
+    double start = 0;
+    double stop = 0;
+    CampoDellaTabella(scan_.Righe, start, stop);
+    const DepositoTracce& mostrato = quadro_->Deposito();
+    if (StessaFrequenza(start, mostrato.Start()) && StessaFrequenza(stop, mostrato.Stop()))
+        return;
+    quadro_->IniziaTraccia(start, stop);
+    quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));
+}
+
+void MainForm::MostraStriscia(const std::string& testo) {
+    setEnabled(true);
+    striscia_->Mostra(Q(testo));
+    stato_->CancellaBarre();
+}
+
+void MainForm::NascondiStriscia() {
+    striscia_->Nascondi();
+}
+
+void MainForm::ColoraStriscia(bool scambiata) {
+    striscia_->Colora(scambiata);
+}
+
+void MainForm::AbilitaSSTabMode() {
+    schede_->setEnabled(true);
+}
+
+} // namespace orvane

@@ -1,0 +1,223 @@
+#include "ui/MainPict.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "base/Numeri.h"
+#include "platform/qt/SuperficieQt.h"
+#include "ui/Tema.h"
+#include "ui/Testi.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kRidisegnoMs = 40;
+/// The axis of a picture that has nothing to show.
+constexpr double kStartVuoto = 0.15;
+constexpr double kStopVuoto = 30;
+
+int32_t Colore(const QColor& c) {
+    return Rgb(c.red(), c.green(), c.blue());
+}
+QColor Colore(int32_t c) {
+    return {c & 0xFF, c >> 8 & 0xFF, c >> 16 & 0xFF};
+}
+
+struct RigaLettura {
+    QString testo;
+    QColor colore;
+};
+
+} // namespace
+
+MainPict::MainPict(const EnvRecord& env, const SetupRecord& setup, QWidget* padre)
+    : QWidget(padre), env_(env), setup_(setup) {
+    setObjectName(QStringLiteral("MainPict"));
+    setAccessibleName(tr("Picture of the traces"));
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    mostrati_.fill(true);
+    ridisegno_.setSingleShot(true);
+    ridisegno_.setInterval(kRidisegnoMs);
+    connect(&ridisegno_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    deposito_.Inizia(kStartVuoto, kStopVuoto);
+}
+
+void MainPict::IniziaTraccia(double startMhz, double stopMhz) {
+    const bool vuota = !(startMhz > 0 && stopMhz > startMhz);
+    deposito_.Inizia(vuota ? kStartVuoto : startMhz, vuota ? kStopVuoto : stopMhz);
+    DrawGrid();
+}
+
+void MainPict::Aggiungi(double freqMhz, const SampleRecord& campione) {
+    deposito_.Aggiungi(freqMhz, campione);
+    if (!ridisegno_.isActive())
+        ridisegno_.start();
+}
+
+void MainPict::MostraDetector(const std::array<bool, kNumDetector>& quali) {
+    mostrati_ = quali;
+    update();
+}
+
+void MainPict::DrawGrid() {
+    sfondoValido_ = false;
+    update();
+}
+
+void MainPict::ImpostaInvito(const QString& testo) {
+    invito_ = testo;
+    update();
+}
+
+double MainPict::LivelloA(double y) const {
+    const double parte = (y * Rapporto() - griglia_.alto) / std::max(1.0, griglia_.altezza);
+    return (scala_.alto - parte * (scala_.alto - scala_.basso)) / 100;
+}
+
+TintaGrafico MainPict::TinteGrafico() const {
+    const QFontMetricsF metrica(font());
+    return {.sfondo = Colore(Tinta(palette(), Ruolo::Grafico)),
+            .scritte = Colore(Tinta(palette(), Ruolo::Tenue)),
+            .PrintColors = false,
+            .altezzaTesto = metrica.height() * 0.72 * Rapporto()};
+}
+
+void MainPict::PreparaScala() {
+    const QSizeF misura = QSizeF(size()) * Rapporto();
+    const QSize punti(std::max(1, qRound(misura.width())), std::max(1, qRound(misura.height())));
+    if (sfondo_.size() != punti)
+        sfondo_ = QPixmap(punti);
+    sfondo_.setDevicePixelRatio(1);
+    QPainter p(&sfondo_);
+    p.setFont(font());
+    SuperficieQt superficie(p, punti.width(), punti.height());
+    griglia_ = DisponiGriglia(superficie, TinteGrafico());
+    scala_ =
+        SetScaleGraph(setup_, deposito_.Start(), deposito_.Stop(), true, griglia_.larghezza, 0);
+    deposito_.ImpostaLarghezza(std::max(1, static_cast<int>(griglia_.larghezza)));
+}
+
+void MainPict::DisegnaSfondo() {
+    PreparaScala();
+    sfondo_.fill(Tinta(palette(), Ruolo::Finestra));
+    QPainter p(&sfondo_);
+    p.setFont(font());
+    p.fillRect(QRectF(griglia_.sinistra, griglia_.alto, griglia_.larghezza, griglia_.altezza),
+               Tinta(palette(), Ruolo::Grafico));
+    SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
+    const TintaGrafico tinte = TinteGrafico();
+    Grid(superficie, scala_, griglia_, env_, tinte);
+    const int unita = std::clamp<int>(setup_.UnitId, 0, 7);
+    GridLabel(superficie, scala_, griglia_, tinte, TabellaUnitaGrafico()[size_t(unita)].testo);
+    sfondoValido_ = true;
+}
+
+void MainPict::DisegnaTracce(QPainter& p) {
+    SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
+    const double spessore = std::max(1.0, std::round(1.2 * Rapporto()));
+    // Peak lies highest: it is drawn first, so that it hides none of the others.
+    for (size_t d = 0; d < kNumDetector; ++d) {
+        const auto detector = static_cast<DetectorKind>(d);
+        if (const ColonneTraccia* traccia = deposito_.Traccia(detector); traccia && mostrati_[d])
+            DisegnaTraccia(superficie, scala_, griglia_, *traccia,
+                           {.colore = ColoreTraccia(env_, detector), .larghezza = spessore});
+    }
+}
+
+void MainPict::DisegnaLettura(QPainter& p) {
+    if (puntataX_ < 0 || deposito_.Vuoto())
+        return;
+    const double mhz = XToFreq(scala_, puntataX_);
+    std::vector<RigaLettura> righe = {{TestoFrequenza(mhz), Tinta(palette(), Ruolo::Testo)}};
+    for (size_t d = 0; d < kNumDetector; ++d) {
+        const auto livello = deposito_.Livello(static_cast<DetectorKind>(d), mhz);
+        if (!livello || !mostrati_[d])
+            continue;
+        const double valore = *livello / 100.0 + scala_.UnitOffset;
+        righe.push_back({QStringLiteral("%1   %2").arg(QLatin1String(kNomiDetector[d]),
+                                                       Q(TestoFisso(valore, 2))),
+                         Colore(ColoreTraccia(env_, static_cast<DetectorKind>(d)))});
+    }
+    const QFontMetricsF metrica(font());
+    const double passo = std::ceil(metrica.height() * 1.25);
+    double largo = 0;
+    for (const auto& riga : righe)
+        largo = std::max(largo, metrica.horizontalAdvance(riga.testo));
+    const double r = Rapporto();
+    const double x = (griglia_.sinistra + puntataX_) / r;
+    const QRectF griglia(griglia_.sinistra / r, griglia_.alto / r, griglia_.larghezza / r,
+                         griglia_.altezza / r);
+    p.setPen(QPen(Tinta(palette(), Ruolo::Tenue), 1, Qt::DashLine));
+    p.drawLine(QPointF(x, griglia.top()), QPointF(x, griglia.bottom()));
+    const double alto = passo * double(righe.size()) + 12;
+    const bool aDestra = x < griglia.center().x();
+    const QRectF velo(aDestra ? griglia.right() - largo - 32 : griglia.left() + 10,
+                      griglia.top() + 10, largo + 22, alto);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(Tinta(palette(), Ruolo::BordoCampo), 1));
+    p.setBrush(Tinta(palette(), Ruolo::Velo));
+    p.drawRoundedRect(velo, 4, 4);
+    for (size_t i = 0; i < righe.size(); ++i) {
+        p.setPen(righe[i].colore);
+        p.drawText(QRectF(velo.x() + 11, velo.y() + 6 + passo * double(i), largo + 2, passo),
+                   Qt::AlignVCenter, righe[i].testo);
+    }
+}
+
+void MainPict::DisegnaInvito(QPainter& p) {
+    if (invito_.isEmpty() || !deposito_.Vuoto())
+        return;
+    p.setPen(Tinta(palette(), Ruolo::Tenue));
+    p.drawText(rect().adjusted(60, 0, -30, 0), Qt::AlignCenter | Qt::TextWordWrap, invito_);
+}
+
+void MainPict::paintEvent(QPaintEvent*) {
+    if (!sfondoValido_)
+        DisegnaSfondo();
+    QPainter p(this);
+    const double r = Rapporto();
+    p.save();
+    p.scale(1 / r, 1 / r);
+    p.drawPixmap(0, 0, sfondo_);
+    p.setFont(font());
+    DisegnaTracce(p);
+    p.restore();
+    DisegnaLettura(p);
+    DisegnaInvito(p);
+}
+
+void MainPict::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    sfondoValido_ = false;
+}
+
+void MainPict::changeEvent(QEvent* evento) {
+    if (evento->type() == QEvent::PaletteChange || evento->type() == QEvent::FontChange ||
+        evento->type() == QEvent::StyleChange)
+        DrawGrid();
+    QWidget::changeEvent(evento);
+}
+
+void MainPict::mouseMoveEvent(QMouseEvent* evento) {
+    const double x = evento->position().x() * Rapporto() - griglia_.sinistra;
+    if (x < 0 || x > griglia_.larghezza)
+        return leaveEvent(evento);
+    puntataX_ = x;
+    Q_EMIT Puntata(XToFreq(scala_, x), LivelloA(evento->position().y()));
+    if (!ridisegno_.isActive())
+        ridisegno_.start();
+}
+
+void MainPict::leaveEvent(QEvent*) {
+    puntataX_ = -1;
+    Q_EMIT PuntataPersa();
+    update();
+}
+
+} // namespace orvane

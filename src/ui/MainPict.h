@@ -1,0 +1,77 @@
+// `MainPict`: the picture of the console. A grid layer that is kept, traces over it, and a reading
+// under the pointer.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+#include "graph/Grafico.h"
+#include "graph/Scala.h"
+#include "records/EnvRecord.h"
+#include "records/SetupRecord.h"
+#include "ui/DepositoTracce.h"
+
+namespace orvane {
+
+class MainPict : public QWidget {
+    Q_OBJECT
+public:
+    MainPict(const EnvRecord& env, const SetupRecord& setup, QWidget* padre);
+
+    /// The axis spans these frequencies (MHz); what was drawn is gone. 0 and 0: an empty axis.
+    void IniziaTraccia(double startMhz, double stopMhz);
+    /// The next samples belong to another line or pass.
+    void InterrompiTraccia() { deposito_.Interrompi(); }
+    void Aggiungi(double freqMhz, const SampleRecord& campione);
+    /// Which detectors are drawn.
+    void MostraDetector(const std::array<bool, kNumDetector>& quali);
+    /// `DrawGrid`: after a change of unit, dynamics or reference.
+    void DrawGrid();
+    /// What stands in the middle while there is no trace.
+    void ImpostaInvito(const QString& testo);
+    const DepositoTracce& Deposito() const { return deposito_; }
+    /// Level of the axis at a height of the picture, dB in the display unit.
+    double LivelloA(double y) const;
+
+    QSize sizeHint() const override { return {900, 480}; }
+    QSize minimumSizeHint() const override { return {360, 180}; }
+
+Q_SIGNALS:
+    /// The pointer stands over this frequency (MHz) and level (dB, display unit).
+    void Puntata(double mhz, double livello);
+    void PuntataPersa();
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void leaveEvent(QEvent* evento) override;
+
+private:
+    TintaGrafico TinteGrafico() const;
+    void PreparaScala();
+    void DisegnaSfondo();
+    void DisegnaTracce(QPainter& p);
+    void DisegnaLettura(QPainter& p);
+    void DisegnaInvito(QPainter& p);
+    double Rapporto() const { return devicePixelRatioF(); }
+
+    const EnvRecord& env_;
+    const SetupRecord& setup_;
+    DepositoTracce deposito_;
+    std::array<bool, kNumDetector> mostrati_{};
+    ScalaGrafico scala_;
+    RiquadroGriglia griglia_; ///< in device pixels
+    QPixmap sfondo_;
+    bool sfondoValido_ = false;
+    QTimer ridisegno_; ///< gathers the repaints of a run
+    QString invito_;
+    double puntataX_ = -1; ///< device pixels from the left of the grid; -1 without a pointer
+};
+
+} // namespace orvane

@@ -1,0 +1,149 @@
+#include "ui/MenuConsole.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace orvane {
+namespace {
+
+constexpr auto kNessuna = AzioneMenu::Nessuna;
+constexpr auto kSegno = AzioneMenu::Segno;
+
+constexpr VoceMenu kSeparatore(const char* menu) {
+    return {menu, nullptr, nullptr, nullptr, kNessuna, nullptr, nullptr, false};
+}
+constexpr VoceMenu kDopo(const char* menu, const char* nome, const char* testo) {
+    return {menu, nullptr, nome, testo, kNessuna, nullptr, nullptr, true};
+}
+constexpr VoceMenu kMarca(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
+    return {"Options", nullptr, nome, testo, kSegno, segno, nullptr, false};
+}
+/// A mark whose effect belongs to what is not there yet.
+constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
+    return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
+}
+
+using S = SetupRecord;
+constexpr VoceMenu kMenu[] = {
+    kDopo("File", "MNUOpenPanel", "Open Panel…"),
+    kDopo("File", "MNUSavePanel", "Save Panel"),
+    kDopo("File", "MNUSaveAs", "Save Panel As…"),
+    kSeparatore("File"),
+    kDopo("File", "MNURetrieve", "Retrieve…"),
+    kSeparatore("File"),
+    kDopo("File", "MNUSaveImage", "Save Image…"),
+    kDopo("File", "MNUSsaveClipboard", "Copy Image to Clipboard"),
+    kSeparatore("File"),
+    {"File", nullptr, "CMBExit", "Exit", AzioneMenu::Esci, nullptr, "Ctrl+Q", false},
+    kDopo("Make", "MNUMakeLimits", "Limits…"),
+    kDopo("Make", "MNUMakeFactors", "Conversion Factors…"),
+    kDopo("Make", "MNUMakeTabFreq", "Frequency Table…"),
+    kDopo("Make", "MNUMakeTabSubRange", "Sub Range Table…"),
+    kDopo("Report", "mnuHeaderTitle", "Header Title…"),
+    kDopo("Report", "mnuTestComment", "Test Comment…"),
+    kSeparatore("Report"),
+    {"Report", "MNUReport", "MNUReportTXT", "Text…", kNessuna, nullptr, nullptr, true},
+    {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
+    {"Report", "MNUReport", "MNUReportRTF", "RTF…", kNessuna, nullptr, nullptr, true},
+    kDopo("Report", "MNUAutoSaveReport", "Auto Save Report"),
+    {"Tools", nullptr, "MNURemoteLink", "Remote Link…", AzioneMenu::RemoteLink, nullptr, "Ctrl+L",
+     false},
+    kSeparatore("Tools"),
+    kDopo("Tools", "MNUWaterfall", "Waterfall…"),
+    kDopo("Tools", "MNUCorrel", "Correlation…"),
+    kMarca("MNUOverwriteWarning", "Overwrite Warning", &S::OverwriteWarning),
+    kMarca("MNUorderForDate", "Order For Date", &S::OrderForDate),
+    kMarca("MNUCheckSweepArchiveSize", "Check Sweep Archive Size", &S::CheckSweepArchiveSize),
+    kSeparatore("Options"),
+    kMarcaSpenta("MNUSymbolOnPeaks", "Symbol On Peaks", &S::SymbolOnPeaks),
+    kMarcaSpenta("MNUGX2207FFTSwept", "GX2207 FFT Swept", &S::GX2207FFTSwept),
+    kMarcaSpenta("MNUZoomModeA", "Zoom Mode A", &S::ZoomModeA),
+    kMarcaSpenta("MNUZoomModeB", "Zoom Mode B", &S::ZoomModeB),
+    {"Help", nullptr, "MNUAbout", "About Orvane Console", AzioneMenu::Guida, nullptr, nullptr,
+     false},
+};
+
+constexpr const char* kNomiMenu[][2] = {
+    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReports"},
+    {"Tools", "MNUTools"}, {"Options", "MNUOptions"}, {"Help", "MNUHelp"},
+};
+constexpr const char* kTestoSotto = "Report";
+
+QMenu* TrovaSotto(QMenu& menu, const char* nome) {
+    if (auto* trovato = menu.findChild<QMenu*>(QLatin1String(nome), Qt::FindDirectChildrenOnly))
+        return trovato;
+    QMenu* sotto = menu.addMenu(QLatin1String(kTestoSotto));
+    sotto->setObjectName(QLatin1String(nome));
+    return sotto;
+}
+
+void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
+    switch (voce.azione) {
+    case AzioneMenu::Nessuna:
+        azione->setEnabled(false);
+        azione->setToolTip(QStringLiteral("Not part of this release"));
+        return;
+    case AzioneMenu::Segno:
+        QObject::connect(azione, &QAction::toggled,
+                         [f = azioni.segno, segno = voce.segno](bool si) { f(segno, si); });
+        return;
+    case AzioneMenu::RemoteLink:
+        QObject::connect(azione, &QAction::triggered, azioni.remoteLink);
+        return;
+    case AzioneMenu::Esci:
+        QObject::connect(azione, &QAction::triggered, azioni.esci);
+        return;
+    case AzioneMenu::Guida:
+        QObject::connect(azione, &QAction::triggered, azioni.guida);
+        return;
+    }
+}
+
+void AggiungiVoce(QMenu& menu, const VoceMenu& voce, const AzioniMenu& azioni) {
+    if (!voce.nome) {
+        menu.addSeparator();
+        return;
+    }
+    QMenu& dove = voce.sotto ? *TrovaSotto(menu, voce.sotto) : menu;
+    QAction* azione = dove.addAction(QString::fromUtf8(voce.testo));
+    azione->setObjectName(QLatin1String(voce.nome));
+    azione->setCheckable(voce.segno != nullptr);
+    if (voce.scorciatoia)
+        azione->setShortcut(QKeySequence(QLatin1String(voce.scorciatoia)));
+    Collega(azione, voce, azioni);
+}
+
+QAction* Azione(const QMenuBar& barra, const char* nome) {
+    return barra.findChild<QAction*>(QLatin1String(nome));
+}
+
+} // namespace
+
+void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni) {
+    for (const auto& [testo, nome] : kNomiMenu) {
+        QMenu* menu = barra.addMenu(QStringLiteral("&") + QLatin1String(testo));
+        menu->setObjectName(QLatin1String(nome));
+        menu->setToolTipsVisible(true);
+        for (const VoceMenu& voce : kMenu)
+            if (QLatin1String(voce.menu) == QLatin1String(testo))
+                AggiungiVoce(*menu, voce, azioni);
+    }
+}
+
+void AggiornaSegni(const QMenuBar& barra, const SetupRecord& setup) {
+    for (const VoceMenu& voce : kMenu) {
+        if (!voce.segno)
+            continue;
+        QAction* azione = Azione(barra, voce.nome);
+        const QSignalBlocker zitta(azione);
+        azione->setChecked(setup.*voce.segno != 0);
+    }
+}
+
+void DisabilitaVociModo(const QMenuBar& barra) {
+    for (const VoceMenu& voce : kMenu)
+        if (voce.delModo)
+            Azione(barra, voce.nome)->setEnabled(false);
+}
+
+} // namespace orvane

@@ -1,0 +1,39 @@
+// The menu bar of the main window, as a table.
+#pragma once
+
+#include <functional>
+
+#include <QMenuBar>
+
+#include "records/SetupRecord.h"
+
+namespace orvane {
+
+enum class AzioneMenu { Nessuna, Segno, RemoteLink, Esci, Guida };
+
+struct VoceMenu {
+    const char* menu;  ///< which menu it is in
+    const char* sotto; ///< and which menu of that one; null for none
+    const char* nome;  ///< object name; null for a separator
+    const char* testo;
+    AzioneMenu azione;           ///< `Nessuna`: present, and disabled
+    int16_t SetupRecord::*segno; ///< the flag that a check mark shows, -1 on
+    const char* scorciatoia;
+    bool delModo; ///< `DisabilitaMenu` switches it off
+};
+
+/// What the entries do.
+struct AzioniMenu {
+    std::function<void(int16_t SetupRecord::*, bool)> segno;
+    std::function<void()> remoteLink;
+    std::function<void()> esci;
+    std::function<void()> guida;
+};
+
+void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
+/// The check marks follow the record.
+void AggiornaSegni(const QMenuBar& barra, const SetupRecord& setup);
+/// Switches off what a mode must enable.
+void DisabilitaVociModo(const QMenuBar& barra);
+
+} // namespace orvane

@@ -1,0 +1,256 @@
+#include "ui/PannelloSweep.h"
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "base/Numeri.h"
+#include "base/Percorsi.h"
+#include "base/Testo.h"
+#include "data/Panels.h"
+#include "setup/ModificaTabella.h"
+#include "ui/Moduli.h"
+#include "ui/StileConsole.h"
+#include "ui/Testi.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kSenzaNome = "Untitled";
+
+/// What the buttons of a run show in each phase.
+struct AspettoFase {
+    FaseCorsa fase;
+    const char* esegui;
+    bool attivo;
+    const char* pausa; ///< null: hidden
+};
+constexpr AspettoFase kAspetti[] = {
+    {FaseCorsa::Ferma, "Execute", true, nullptr}, {FaseCorsa::Controlli, "Stop", true, nullptr},
+    {FaseCorsa::Attesa, "Stop", true, nullptr},   {FaseCorsa::Preparazione, "Stop", true, nullptr},
+    {FaseCorsa::Riga, "Stop", true, nullptr},     {FaseCorsa::Misura, "Stop", true, nullptr},
+    {FaseCorsa::Pausa, "Stop", true, "Resume"},   {FaseCorsa::Arresto, "Stop", false, nullptr},
+    {FaseCorsa::Guasto, "Stop", false, nullptr},
+};
+
+void Vesti(QPushButton* pulsante, const char* ruolo) {
+    pulsante->setProperty(kProprietaRuolo, QLatin1String(ruolo));
+    pulsante->update();
+}
+
+} // namespace
+
+PannelloSweep::PannelloSweep(Scrivania& scrivania, ScanRecord& scan, QWidget* padre)
+    : QWidget(padre), scrivania_(scrivania), scan_(scan) {
+    setObjectName(QStringLiteral("FRMSweep"));
+    auto* colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(0);
+    colonna->addWidget(CreaComandi());
+    colonna->addWidget(CreaFilo(this));
+    griglia_ = new GridScanTab(scan_.Righe, true, this);
+    griglia_->setObjectName(QStringLiteral("GridScanTab"));
+    colonna->addWidget(griglia_, 1);
+    CollegaComandi();
+    MostraFase(FaseCorsa::Ferma);
+}
+
+QWidget* PannelloSweep::CreaComandi() {
+    auto* barra = new QWidget(this);
+    auto* riga = new QHBoxLayout(barra);
+    riga->setContentsMargins(10, 8, 10, 8);
+    riga->setSpacing(8);
+    esegui_ = CreaPulsante(QStringLiteral("CMBExecuteSweep"), tr("Execute"),
+                           tr("Runs the scan table (F5)"), barra);
+    esegui_->setShortcut(QKeySequence(Qt::Key_F5));
+    esegui_->setMinimumWidth(esegui_->fontMetrics().horizontalAdvance(tr("Execute")) + 40);
+    pausa_ =
+        CreaPulsante(QStringLiteral("CMBPauseSweep"), tr("Pause"), tr("Holds the sweep"), barra);
+    tabelle_ = Nomina(new QComboBox(barra), QStringLiteral("CBXScanTab"), tr("Scan table"),
+                      tr("Choose a scan table; a new name and Enter keep a copy under it"));
+    tabelle_->setEditable(true);
+    tabelle_->setInsertPolicy(QComboBox::NoInsert);
+    tabelle_->setMinimumContentsLength(16);
+    nuova_ = CreaPulsante(QStringLiteral("CMBNewScanTab"), tr("New"),
+                          tr("Begins an empty scan table"), barra);
+    cancella_ = CreaPulsante(QStringLiteral("CMBDeleteScanTab"), tr("Delete"),
+                             tr("Deletes this scan table"), barra);
+    banda_ = CreaPulsante(QStringLiteral("CBXBanda"), tr("Add band"),
+                          tr("Appends the lines of a standard band"), barra);
+    CreaBande(banda_);
+    misura_ = Nomina(new QLineEdit(Q(kSenzaNome), barra), QStringLiteral("TBMisura"),
+                     tr("Measure name"), tr("Name under which the measure is stored"));
+    misura_->setMaxLength(60);
+    misura_->setMinimumWidth(misura_->fontMetrics().averageCharWidth() * 20);
+    riassunto_ = CreaDidascalia(QString(), barra);
+    riassunto_->setObjectName(QStringLiteral("LBRiassunto"));
+    riga->addWidget(esegui_);
+    riga->addWidget(pausa_);
+    riga->addSpacing(8);
+    riga->addWidget(CreaDidascalia(tr("Scan table"), barra));
+    for (QWidget* pezzo : {static_cast<QWidget*>(tabelle_), static_cast<QWidget*>(nuova_),
+                           static_cast<QWidget*>(cancella_), static_cast<QWidget*>(banda_)})
+        riga->addWidget(pezzo);
+    riga->addSpacing(8);
+    riga->addWidget(CreaDidascalia(tr("Measure"), barra));
+    riga->addWidget(misura_);
+    riga->addStretch(1);
+    riga->addWidget(riassunto_);
+    return barra;
+}
+
+void PannelloSweep::CreaBande(QPushButton* pulsante) {
+    auto* menu = new QMenu(pulsante);
+    for (const VoceBanda& banda : TabellaBande()) {
+        if (!banda.elencata)
+            continue;
+        if (banda.startMhz == 0) {
+            menu->addSeparator();
+            continue;
+        }
+        menu->addAction(Q(banda.nome), this, [this, &banda] {
+            if (!AggiungiBanda(scan_.Righe, banda, kAncillaryKind)) {
+                scrivania_.ambiente.Mostra(
+                    {.testo = "A scan table has ten lines at most", .icona = Icona::Esclamazione});
+                return;
+            }
+            SalvaTabella();
+        });
+    }
+    pulsante->setMenu(menu);
+}
+
+void PannelloSweep::CollegaComandi() {
+    connect(esegui_, &QPushButton::clicked, this, &PannelloSweep::Esegui);
+    connect(nuova_, &QPushButton::clicked, this, &PannelloSweep::NuovaTabella);
+    connect(cancella_, &QPushButton::clicked, this, &PannelloSweep::CancellaTabella);
+    connect(tabelle_, &QComboBox::textActivated, this, &PannelloSweep::ScegliTabella);
+    connect(tabelle_->lineEdit(), &QLineEdit::returnPressed, this,
+            [this] { ScegliTabella(tabelle_->currentText()); });
+    connect(&griglia_->Modello(), &ModelloScan::Modificata, this, &PannelloSweep::SalvaTabella);
+}
+
+void PannelloSweep::Carica() {
+    ElencaTabelle();
+    AggiornaGriglia();
+}
+
+void PannelloSweep::AggiornaGriglia() {
+    griglia_->Modello().Aggiorna();
+    ScriviRiassunto();
+}
+
+void PannelloSweep::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {
+    griglia_->Modello().EvidenziaErrore(riga, colonna, errata);
+}
+
+void PannelloSweep::MostraFase(FaseCorsa fase) {
+    const AspettoFase& aspetto = kAspetti[static_cast<size_t>(fase)];
+    const bool ferma = fase == FaseCorsa::Ferma;
+    esegui_->setText(QLatin1String(aspetto.esegui));
+    // A new caption drops the shortcut.
+    esegui_->setShortcut(QKeySequence(Qt::Key_F5));
+    esegui_->setEnabled(aspetto.attivo);
+    Vesti(esegui_, ferma ? "accento" : "stop");
+    pausa_->setVisible(aspetto.pausa != nullptr);
+    if (aspetto.pausa)
+        pausa_->setText(QLatin1String(aspetto.pausa));
+    for (QWidget* pezzo : {static_cast<QWidget*>(tabelle_), static_cast<QWidget*>(nuova_),
+                           static_cast<QWidget*>(cancella_), static_cast<QWidget*>(banda_),
+                           static_cast<QWidget*>(misura_)})
+        pezzo->setEnabled(ferma);
+    griglia_->Modello().ImpostaModificabile(ferma);
+}
+
+std::string PannelloSweep::Misura() const {
+    const std::string nome = Rifila(S(misura_->text()));
+    return nome.empty() ? std::string(kSenzaNome) : nome;
+}
+
+void PannelloSweep::ImpostaMisura(const std::string& nome) {
+    misura_->setText(Q(nome));
+}
+
+void PannelloSweep::SalvaTabella() {
+    SalvaPanelEST(scrivania_, scrivania_.env.ScanPanelPath, scan_);
+    AggiornaGriglia();
+    Q_EMIT TabellaCambiata();
+}
+
+void PannelloSweep::ElencaTabelle() {
+    tabelle_->clear();
+    for (const auto& file : scrivania_.albero.ElencaFile("Panels\\", "EST"))
+        tabelle_->addItem(Q(RimuoviEstensione(file)));
+    const QString corrente = Q(EstraiNomeFile(scrivania_.env.ScanPanelPath));
+    const int qui = tabelle_->findText(corrente, Qt::MatchFixedString);
+    tabelle_->setCurrentIndex(qui);
+    if (qui < 0)
+        tabelle_->setEditText(corrente);
+}
+
+/// A name that is there is loaded; a new one keeps what the grid holds.
+void PannelloSweep::ScegliTabella(const QString& testo) {
+    const std::string nome = ControllaNomeMisura(Rifila(S(testo)));
+    if (nome.empty())
+        return ElencaTabelle();
+    const std::string percorso = PercorsoPannello(nome, "EST");
+    if (UgualiSenzaMaiuscole(percorso, scrivania_.env.ScanPanelPath))
+        return ElencaTabelle();
+    ScanRecord scelta = scan_;
+    if (scrivania_.albero.Esiste(percorso))
+        CaricaPanelEST(scrivania_, percorso, scelta);
+    Imposta(scelta, nome);
+}
+
+void PannelloSweep::Imposta(const ScanRecord& scan, const std::string& nome) {
+    scan_ = scan;
+    scrivania_.env.ScanPanelPath = PercorsoPannello(nome, "EST");
+    SalvaPanelEPN(scrivania_, kPannelloEPN);
+    SalvaTabella();
+    ElencaTabelle();
+}
+
+void PannelloSweep::NuovaTabella() {
+    std::string nome;
+    for (int i = 1; nome.empty() || scrivania_.albero.Esiste(PercorsoPannello(nome, "EST")); ++i)
+        nome = "New table " + TestoIntero(i);
+    Imposta({}, nome);
+    tabelle_->lineEdit()->selectAll();
+    griglia_->setFocus();
+    griglia_->setCurrentIndex(griglia_->Modello().index(0, 1));
+}
+
+void PannelloSweep::CancellaTabella() {
+    const std::string nome = EstraiNomeFile(scrivania_.env.ScanPanelPath);
+    const Risposta risposta =
+        scrivania_.ambiente.Mostra({.testo = "Are you sure you want to delete " + nome + " ?",
+                                    .icona = Icona::Domanda,
+                                    .pulsanti = Pulsanti::SiNo});
+    if (risposta != Risposta::Si)
+        return;
+    scrivania_.albero.Cancella(scrivania_.env.ScanPanelPath);
+    const auto restano = scrivania_.albero.ElencaFile("Panels\\", "EST");
+    ScanRecord scelta;
+    const std::string altra =
+        restano.empty() ? std::string(kSenzaNome) : RimuoviEstensione(restano.front());
+    if (!restano.empty())
+        CaricaPanelEST(scrivania_, PercorsoPannello(altra, "EST"), scelta);
+    Imposta(scelta, altra);
+}
+
+void PannelloSweep::ScriviRiassunto() {
+    long long punti = 0;
+    for (const ScanLine& riga : scan_.Righe)
+        punti += riga.Start != 0 ? PassiDellaRiga(riga) : 0;
+    const size_t righe = RigheInUso(scan_.Righe);
+    if (righe == 0)
+        return riassunto_->setText(tr("Type a start and a stop frequency, or add a band"));
+    QString numero = QString::number(punti);
+    for (int posto = static_cast<int>(numero.size()) - 3; posto > 0; posto -= 3)
+        numero.insert(posto, QChar(0x202F));
+    riassunto_->setText(righe == 1 ? tr("%1 points").arg(numero)
+                                   : tr("%1 points in %2 lines").arg(numero).arg(righe));
+}
+
+} // namespace orvane

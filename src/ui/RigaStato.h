@@ -1,0 +1,33 @@
+// The status line: frequency and level at the left, the run's progress at the right.
+#pragma once
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QWidget>
+
+#include "sweep/Corsa.h"
+
+namespace orvane {
+
+class RigaStato : public QWidget {
+    Q_OBJECT
+public:
+    explicit RigaStato(QWidget* padre);
+
+    /// `LBFreqTrc`: MHz, and dB in the display unit.
+    void MostraFreqLivello(double mhz, double livello, const QString& unita);
+    void NascondiFreqLivello() { freq_->clear(); }
+    void MostraMessaggio(const QString& testo);
+    void MostraAvanzamento(const Avanzamento& avanzamento);
+    /// `CancellaBarMete`.
+    void CancellaBarre();
+
+private:
+    QLabel* freq_;
+    QLabel* messaggio_;
+    QLabel* passata_;
+    QProgressBar* barra_;
+    QLabel* tempo_;
+};
+
+} // namespace orvane

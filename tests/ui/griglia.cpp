@@ -1,0 +1,213 @@
+// The scan grid as a user edits it: keys, lists, detectors, bands, panels.
+#include <QCheckBox>
+#include <QMenu>
+
+#include "Banco.h"
+#include "setup/ModificaTabella.h"
+
+using namespace orvane;
+using namespace orvane::prova;
+
+class Griglia : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup() { banco_.reset(); }
+    void UnaRigaNuovaPrendeIPredefiniti();
+    void VirgolaEPunto();
+    void InvioVaAvanti();
+    void ElencoRbwCambiaIlPasso();
+    void DetectorAlmenoUno();
+    void QuartoDetectorRestaSolo();
+    void HoldTime_data();
+    void HoldTime();
+    void CancCancellaLaRiga();
+    void BandaComposta();
+    void TabellaPiena();
+    void PannelliSiScelgonoESiCancellano();
+    void CelleSegnate();
+
+private:
+    const ScanLine& Riga(int i) { return banco_->posto->scan.Righe[static_cast<size_t>(i)]; }
+    QModelIndex Cella(int riga, ColonnaScan colonna) {
+        return griglia_->model()->index(riga, static_cast<int>(colonna));
+    }
+    /// Opens a cell, types over it and presses Return.
+    void Scrivi(int riga, ColonnaScan colonna, const char* testo);
+    void ScegliElenco(int riga, ColonnaScan colonna, int voce);
+
+    std::unique_ptr<Banco> banco_;
+    QTableView* griglia_ = nullptr;
+};
+
+void Griglia::init() {
+    banco_ = std::make_unique<Banco>();
+    banco_->Scheda(Modalita::Sweep);
+    griglia_ = banco_->Trova<QTableView>("GridScanTab");
+    griglia_->setFocus();
+}
+
+void Griglia::Scrivi(int riga, ColonnaScan colonna, const char* testo) {
+    griglia_->setCurrentIndex(Cella(riga, colonna));
+    QTest::keyClick(griglia_, Qt::Key_Return);
+    auto* cella = griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella"));
+    QVERIFY(cella);
+    QTest::keyClicks(cella, QLatin1String(testo));
+    QTest::keyClick(cella, Qt::Key_Return);
+    QTRY_VERIFY(!griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella")));
+}
+
+void Griglia::ScegliElenco(int riga, ColonnaScan colonna, int voce) {
+    griglia_->setCurrentIndex(Cella(riga, colonna));
+    QTest::keyClick(griglia_, Qt::Key_Return);
+    auto* elenco = griglia_->findChild<QComboBox*>(QStringLiteral("CBXCella"));
+    QVERIFY(elenco);
+    elenco->setCurrentIndex(voce);
+    Q_EMIT elenco->activated(voce);
+    QTRY_VERIFY(!griglia_->findChild<QComboBox*>(QStringLiteral("CBXCella")));
+}
+
+void Griglia::UnaRigaNuovaPrendeIPredefiniti() {
+    QCOMPARE(griglia_->model()->rowCount(), 1);
+    Scrivi(0, ColonnaScan::Start, "0.15");
+    QCOMPARE(Cella(0, ColonnaScan::Detector).data().toString(), QString());
+    Scrivi(0, ColonnaScan::Stop, "30");
+    QCOMPARE(Cella(0, ColonnaScan::Detector).data().toString().trimmed(), QStringLiteral("P"));
+    QCOMPARE(Cella(0, ColonnaScan::Rbw).data().toString(), QStringLiteral("9 kHz"));
+    QCOMPARE(Cella(0, ColonnaScan::Step).data().toString(), QStringLiteral("AUTO"));
+    QCOMPARE(Riga(0).Step, 0.005);
+    QCOMPARE(griglia_->model()->rowCount(), 2);
+    // Saved at once, without a further step.
+    ScanRecord letto;
+    Scrivania& s = banco_->posto->scrivania;
+    QVERIFY(CaricaPanelEST(s, s.env.ScanPanelPath, letto));
+    QCOMPARE(letto.Righe[0].Stop, 30.0);
+}
+
+void Griglia::VirgolaEPunto() {
+    Scrivi(0, ColonnaScan::Start, "0,15");
+    QCOMPARE(Riga(0).Start, 0.15);
+}
+
+void Griglia::InvioVaAvanti() {
+    Scrivi(0, ColonnaScan::Start, "0.15");
+    QTRY_COMPARE(griglia_->currentIndex(), Cella(0, ColonnaScan::Stop));
+    QTest::keyClick(griglia_, Qt::Key_Left);
+    QTRY_COMPARE(griglia_->currentIndex(), Cella(0, ColonnaScan::Start));
+}
+
+void Griglia::ElencoRbwCambiaIlPasso() {
+    banco_->Banda("B");
+    ScegliElenco(0, ColonnaScan::Rbw, 8);
+    QCOMPARE(Riga(0).RbwId, int16_t{8});
+    QCOMPARE(Riga(0).Step, 0.0025);
+    ScegliElenco(0, ColonnaScan::MinAtt, 3);
+    QCOMPARE(Cella(0, ColonnaScan::MinAtt).data().toString(), QStringLiteral("30 dB"));
+}
+
+void Griglia::DetectorAlmenoUno() {
+    banco_->Banda("B");
+    griglia_->setCurrentIndex(Cella(0, ColonnaScan::Detector));
+    QTest::keyClick(griglia_, Qt::Key_Return);
+    auto* scelta = griglia_->findChild<QWidget*>(QStringLiteral("FRMDetector"));
+    QVERIFY(scelta && scelta->isVisible());
+    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->click();
+    QCOMPARE(LettereDetector(Riga(0)), std::string("PQ"));
+    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector0"))->click();
+    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->click();
+    QCOMPARE(LettereDetector(Riga(0)), std::string("Q"));
+    QVERIFY(scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->isChecked());
+    scelta->close();
+}
+
+void Griglia::QuartoDetectorRestaSolo() {
+    ScanLine riga;
+    for (const auto d : {DetectorKind::Peak, DetectorKind::QPeak, DetectorKind::Avg})
+        CambiaDetector(riga, d, true);
+    QCOMPARE(LettereDetector(riga), std::string("PQA"));
+    CambiaDetector(riga, DetectorKind::Rms, true);
+    QCOMPARE(LettereDetector(riga), std::string("R"));
+}
+
+void Griglia::HoldTime_data() {
+    QTest::addColumn<QString>("testo");
+    QTest::addColumn<double>("ms");
+    QTest::addColumn<QString>("mostrato");
+    QTest::newRow("plain") << "20" << 20.0 << "20";
+    QTest::newRow("comma") << "1,5" << 1.5 << "1.5";
+    QTest::newRow("sign") << "-5" << 5.0 << "5";
+    QTest::newRow("limit") << "40000" << 30000.0 << "30000";
+    QTest::newRow("zero") << "0" << 0.0 << "Lowest";
+    QTest::newRow("word") << "abc" << 0.0 << "Lowest";
+}
+
+void Griglia::HoldTime() {
+    QFETCH(QString, testo);
+    QFETCH(double, ms);
+    QFETCH(QString, mostrato);
+    banco_->Banda("B");
+    Scrivi(0, ColonnaScan::HoldTime, testo.toLatin1().constData());
+    QCOMPARE(static_cast<double>(Riga(0).HoldTime), ms);
+    QCOMPARE(Cella(0, ColonnaScan::HoldTime).data().toString(), mostrato);
+}
+
+void Griglia::CancCancellaLaRiga() {
+    banco_->Banda("A+B");
+    QCOMPARE(griglia_->model()->rowCount(), 3);
+    griglia_->setCurrentIndex(Cella(0, ColonnaScan::Start));
+    QTest::keyClick(griglia_, Qt::Key_Delete);
+    QCOMPARE(griglia_->model()->rowCount(), 2);
+    QCOMPARE(Riga(0).Start, 0.15);
+}
+
+void Griglia::BandaComposta() {
+    banco_->Banda("C+D+E");
+    QCOMPARE(RigheInUso(banco_->posto->scan.Righe), size_t{2});
+    QCOMPARE(Riga(0).Stop, 1000.0);
+    QCOMPARE(Riga(1).Start, 1000.0);
+    QCOMPARE(Riga(1).HoldTime, 0.0f);
+}
+
+void Griglia::TabellaPiena() {
+    for (int i = 0; i < 9; ++i)
+        banco_->Banda("B");
+    banco_->Banda("A+B");
+    QCOMPARE(RigheInUso(banco_->posto->scan.Righe), size_t{9});
+    QCOMPARE(banco_->riquadri.size(), 1);
+    banco_->Banda("B");
+    QCOMPARE(griglia_->model()->rowCount(), 10);
+}
+
+void Griglia::PannelliSiScelgonoESiCancellano() {
+    banco_->Banda("B");
+    auto* tabelle = banco_->Trova<QComboBox>("CBXScanTab");
+    QTest::mouseClick(banco_->Trova<QPushButton>("CMBNewScanTab"), Qt::LeftButton);
+    QCOMPARE(RigheInUso(banco_->posto->scan.Righe), size_t{0});
+    const QString nuova = tabelle->currentText();
+    tabelle->lineEdit()->setText(QStringLiteral("CISPR"));
+    QTest::keyClick(tabelle->lineEdit(), Qt::Key_Return);
+    QCOMPARE(tabelle->currentText(), QStringLiteral("CISPR"));
+    banco_->risposte = {QMessageBox::Yes};
+    QTest::mouseClick(banco_->Trova<QPushButton>("CMBDeleteScanTab"), Qt::LeftButton);
+    QCOMPARE(banco_->riquadri,
+             QStringList{QStringLiteral("Are you sure you want to delete CISPR ?")});
+    QCOMPARE(tabelle->findText(QStringLiteral("CISPR")), -1);
+    QVERIFY(tabelle->findText(nuova) >= 0);
+    const int prima = tabelle->findText(QStringLiteral("Untitled"));
+    QVERIFY(prima >= 0);
+    tabelle->setCurrentIndex(prima);
+    Q_EMIT tabelle->textActivated(QStringLiteral("Untitled"));
+    QCOMPARE(RigheInUso(banco_->posto->scan.Righe), size_t{1});
+}
+
+void Griglia::CelleSegnate() {
+    banco_->Banda("B");
+    banco_->Finestra().EvidenziaCella(0, ColonnaScan::Rbw, true);
+    QVERIFY(Cella(0, ColonnaScan::Rbw).data(Qt::UserRole).toBool());
+    QVERIFY(!Cella(0, ColonnaScan::Start).data(Qt::UserRole).toBool());
+    banco_->Finestra().EvidenziaCella(0, ColonnaScan::Rbw, false);
+    QVERIFY(!Cella(0, ColonnaScan::Rbw).data(Qt::UserRole).toBool());
+}
+
+QTEST_MAIN(Griglia)
+#include "griglia.moc"
