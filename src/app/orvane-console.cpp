@@ -1,4 +1,5 @@
 // The desktop console: options, records, link, main window.
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -77,14 +78,16 @@ int Rifiuta(const std::string& motivo) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication applicazione(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("orvane-console"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    const Opzioni opzioni = LeggiOpzioni({argv + 1, argv + argc});
+    const Opzioni opzioni = LeggiOpzioni({argv + std::min(argc, 1), argv + argc});
     if (opzioni.aiuto)
         return std::fputs(kUso, stdout), 0;
     if (!opzioni.errore.empty())
         return Rifiuta(opzioni.errore);
+    // Qt gets no options of ours: it would take --style for its own.
+    int soloNome = std::min(argc, 1);
+    QApplication applicazione(soloNome, argv);
+    QApplication::setApplicationName(QStringLiteral("orvane-console"));
+    QApplication::setQuitOnLastWindowClosed(false);
     ApplicaTema(applicazione, opzioni.stile);
 
     SorvegliaLink sorveglia;

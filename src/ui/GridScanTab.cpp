@@ -25,6 +25,7 @@ GridScanTab::GridScanTab(ScanTable& tabella, bool modificabile, QWidget* padre)
     setAccessibleName(tr("Scan table"));
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
+    viewport()->setBackgroundRole(QPalette::Window);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed);

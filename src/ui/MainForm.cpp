@@ -120,13 +120,13 @@ QWidget* MainForm::CreaCentro() {
     pila->addLayout(sopra, 0, 0);
     comuni_ = new ColonnaComuni(scrivania_, centro);
     const int m = fontMetrics().averageCharWidth();
-    archivio_->setMinimumWidth(30 * m);
-    comuni_->setMinimumWidth(36 * m);
+    archivio_->setMinimumWidth(28 * m);
+    comuni_->setMinimumWidth(33 * m);
     centro->addWidget(archivio_);
     centro->addWidget(mezzo);
     centro->addWidget(comuni_);
     centro->setStretchFactor(1, 1);
-    centro->setSizes({38 * m, 120 * m, 40 * m});
+    centro->setSizes({38 * m, 200 * m, 38 * m});
     return centro;
 }
 

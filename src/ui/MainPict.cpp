@@ -16,6 +16,7 @@ namespace orvane {
 namespace {
 
 constexpr int kRidisegnoMs = 40;
+constexpr double kOpacitaGriglia = 0.35;
 /// The axis of a picture that has nothing to show.
 constexpr double kStartVuoto = 0.15;
 constexpr double kStopVuoto = 30;
@@ -112,7 +113,11 @@ void MainPict::DisegnaSfondo() {
                Tinta(palette(), Ruolo::Grafico));
     SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
     const TintaGrafico tinte = TinteGrafico();
+    // The grid's colours come from the panel, for light and dark alike: thinned, so that the traces
+    // stand out on either ground.
+    p.setOpacity(kOpacitaGriglia);
     Grid(superficie, scala_, griglia_, env_, tinte);
+    p.setOpacity(1);
     const int unita = std::clamp<int>(setup_.UnitId, 0, 7);
     GridLabel(superficie, scala_, griglia_, tinte, TabellaUnitaGrafico()[size_t(unita)].testo);
     sfondoValido_ = true;

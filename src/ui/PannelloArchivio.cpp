@@ -106,7 +106,7 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     lista_->setFrameShape(QFrame::NoFrame);
     lista_->setItemDelegate(new DelegatoMisura(lista_));
     lista_->setMouseTracking(true);
-    lista_->viewport()->setAutoFillBackground(false);
+    lista_->viewport()->setBackgroundRole(QPalette::Window);
     lista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     vuota_ = CreaDidascalia(QString(), this);
     vuota_->setWordWrap(true);
@@ -125,6 +125,7 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     auto* piede = new QFormLayout;
     piede->setContentsMargins(10, 8, 10, 12);
     piede->setVerticalSpacing(8);
+    piede->setHorizontalSpacing(14);
     piede->addRow(CreaTitoletto(tr("Traces"), this));
     piede->addRow(tr("Detector"), detector_);
     piede->addRow(dettagli_);

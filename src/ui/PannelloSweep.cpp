@@ -71,7 +71,7 @@ QWidget* PannelloSweep::CreaComandi() {
                       tr("Choose a scan table; a new name and Enter keep a copy under it"));
     tabelle_->setEditable(true);
     tabelle_->setInsertPolicy(QComboBox::NoInsert);
-    tabelle_->setMinimumContentsLength(16);
+    tabelle_->setMinimumContentsLength(11);
     nuova_ = CreaPulsante(QStringLiteral("CMBNewScanTab"), tr("New"),
                           tr("Begins an empty scan table"), barra);
     cancella_ = CreaPulsante(QStringLiteral("CMBDeleteScanTab"), tr("Delete"),
@@ -82,9 +82,12 @@ QWidget* PannelloSweep::CreaComandi() {
     misura_ = Nomina(new QLineEdit(Q(kSenzaNome), barra), QStringLiteral("TBMisura"),
                      tr("Measure name"), tr("Name under which the measure is stored"));
     misura_->setMaxLength(60);
-    misura_->setMinimumWidth(misura_->fontMetrics().averageCharWidth() * 20);
+    misura_->setMaximumWidth(misura_->fontMetrics().averageCharWidth() * 30);
+    misura_->setMinimumWidth(misura_->fontMetrics().averageCharWidth() * 14);
     riassunto_ = CreaDidascalia(QString(), barra);
     riassunto_->setObjectName(QStringLiteral("LBRiassunto"));
+    riassunto_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    riassunto_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     riga->addWidget(esegui_);
     riga->addWidget(pausa_);
     riga->addSpacing(8);
@@ -94,9 +97,8 @@ QWidget* PannelloSweep::CreaComandi() {
         riga->addWidget(pezzo);
     riga->addSpacing(8);
     riga->addWidget(CreaDidascalia(tr("Measure"), barra));
-    riga->addWidget(misura_);
-    riga->addStretch(1);
-    riga->addWidget(riassunto_);
+    riga->addWidget(misura_, 1);
+    riga->addWidget(riassunto_, 3);
     return barra;
 }
 

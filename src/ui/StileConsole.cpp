@@ -11,6 +11,7 @@ namespace orvane {
 namespace {
 
 constexpr double kRaggio = 4;
+constexpr int kMargineCampo = 4;
 
 bool Acceso(const QStyleOption& o) {
     return o.state & QStyle::State_Enabled;
@@ -265,6 +266,15 @@ QRect StileConsole::subControlRect(ComplexControl controllo, const QStyleOptionC
     }
 }
 
+QRect StileConsole::subElementRect(SubElement elemento, const QStyleOption* o,
+                                   const QWidget* oggetto) const {
+    const QRect dove = QProxyStyle::subElementRect(elemento, o, oggetto);
+    const auto* cornice = qstyleoption_cast<const QStyleOptionFrame*>(o);
+    // Editors over a cell, and those inside a list, have no frame of their own.
+    const bool campo = elemento == SE_LineEditContents && cornice && cornice->lineWidth > 0;
+    return campo ? dove.adjusted(kMargineCampo, 0, -kMargineCampo, 0) : dove;
+}
+
 QSize StileConsole::sizeFromContents(ContentsType tipo, const QStyleOption* o, const QSize& misura,
                                      const QWidget* oggetto) const {
     QSize esito = QProxyStyle::sizeFromContents(tipo, o, misura, oggetto);
@@ -321,6 +331,7 @@ int StileConsole::styleHint(StyleHint indizio, const QStyleOption* o, const QWid
                             QStyleHintReturn* dati) const {
     switch (indizio) {
     case SH_ComboBox_Popup:
+    case SH_UnderlineShortcut:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
         return 0;

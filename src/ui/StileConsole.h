@@ -21,6 +21,8 @@ public:
                             QPainter* p, const QWidget* oggetto) const override;
     QRect subControlRect(ComplexControl controllo, const QStyleOptionComplex* opzione,
                          SubControl parte, const QWidget* oggetto) const override;
+    QRect subElementRect(SubElement elemento, const QStyleOption* opzione,
+                         const QWidget* oggetto) const override;
     QSize sizeFromContents(ContentsType tipo, const QStyleOption* opzione, const QSize& misura,
                            const QWidget* oggetto) const override;
     int pixelMetric(PixelMetric metrica, const QStyleOption* opzione,
