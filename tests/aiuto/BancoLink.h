@@ -1,4 +1,5 @@
-// The link on a bench: a scripted peer or a scripted USB driver, and a window that notes the banner.
+// The link on a bench: a scripted peer or a scripted USB driver, and a window that notes the
+// banner.
 #pragma once
 
 #include <fstream>

@@ -75,7 +75,7 @@ public:
     }
     StatoUsb Leggi(HandleUsb, std::span<uint8_t> dove, size_t& letti) override {
         letti = 0;
-        for (; letti < dove.size() && Pronti() > 0; ++letti) {
+        for (; statoLeggi == 0 && letti < dove.size() && Pronti() > 0; ++letti) {
             dove[letti] = static_cast<uint8_t>(arrivi_.front().testo.front());
             arrivi_.front().testo.erase(0, 1);
             if (arrivi_.front().testo.empty())
