@@ -78,6 +78,19 @@ class ProvaUso(ProvaStrada):
         self.assertEqual(esito.codice, 4)
         self.assertIn("there is no directory", esito.err)
 
+    def test_link_simulato(self):
+        """Words of the simulated receiver stand behind a model, or without one."""
+        casi = {
+            "sim": ("5520", "SIM0000001"), "sim:K6X": ("5520/K6X", "SIM0000001"),
+            "sim,seed=7": ("5520", "SIM0000007"), "sim:,seed=7": ("5520", "SIM0000007"),
+            "sim:5520+5570,fw=1.50,seed=3": ("5570", "SIM0000003"),
+        }  # fmt: skip
+        for link, (modello, seriale) in casi.items():
+            with self.subTest(link=link):
+                righe = self.Riesce("--link", link, "identify").out.splitlines()
+                self.assertEqual(righe[0], "model: " + modello)
+                self.assertEqual(righe[2], "serial: " + seriale)
+
     def test_undici_righe(self):
         self.Tabella("Ten", *["--band B"] * 10)
         esito = self.Orvane("scan", "add", "Ten", "--band", "B")
