@@ -1,13 +1,13 @@
 #include "data/Panels.h"
 
 #include "base/Testo.h"
+#include "data/Cartelle.h"
 #include "data/FileRecord.h"
 #include "records/ColoriGrafico.h"
 
 namespace orvane {
 namespace {
 
-constexpr std::string_view kCartellaPanels = "Panels";
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
 constexpr std::string_view kNessuno = "NONE";
 
@@ -33,11 +33,11 @@ void AvvisaRiparato(Scrivania& s, std::string_view percorso, bool cambiato) {
 } // namespace
 
 std::string PercorsoPannello(std::string_view nome, std::string_view estensione) {
-    return std::string(kCartellaPanels) + "\\" + std::string(nome) + "." + std::string(estensione);
+    return std::string(cartella::kPanels) + std::string(nome) + "." + std::string(estensione);
 }
 
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         ImpostaEnvDefault(s.env);
         return SalvaPanelEPN(s, percorso);
@@ -49,12 +49,12 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
 }
 
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, s.env);
 }
 
 bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         s.setup = SetupDefault();
         return SalvaPanelEAM(s, percorso);
@@ -68,12 +68,12 @@ bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
 bool SalvaPanelEAM(Scrivania& s, std::string_view percorso) {
     if (s.NoSaveSetup)
         return true;
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, s.setup);
 }
 
 bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         scan = {};
         return SalvaPanelEST(s, percorso, scan);
@@ -84,12 +84,12 @@ bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
 }
 
 bool SalvaPanelEST(Scrivania& s, std::string_view percorso, const ScanRecord& scan) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, scan);
 }
 
 bool CaricaPathPTH(Scrivania& s) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (s.albero.Esiste(kPannelloPTH))
         return LeggiFileRecord(s, kPannelloPTH, s.path);
     s.path = {};
@@ -97,7 +97,7 @@ bool CaricaPathPTH(Scrivania& s) {
 }
 
 bool SalvaPathPTH(Scrivania& s) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, kPannelloPTH, s.path);
 }
 
