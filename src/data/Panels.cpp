@@ -1,6 +1,9 @@
 #include "data/Panels.h"
 
+#include <vector>
+
 #include "base/Testo.h"
+#include "data/Avvisi.h"
 #include "data/Cartelle.h"
 #include "data/FileRecord.h"
 #include "records/ColoriGrafico.h"
@@ -28,6 +31,20 @@ void ApplicaManualOld(SetupRecord& setup) {
 void AvvisaRiparato(Scrivania& s, std::string_view percorso, bool cambiato) {
     if (cambiato)
         s.avvisi.push_back(std::string(percorso) + " held damaged values; they were repaired");
+}
+
+/// The current panel goes by `percorso`, on disk too.
+bool SegnaPannelloCorrente(Scrivania& s, const std::string& percorso) {
+    s.env.SetupPanelPath = percorso;
+    return SalvaPanelEPN(s, kPannelloEPN);
+}
+
+/// Without what tells of the grid or of the last run.
+std::vector<uint8_t> SoloTabella(ScanRecord scan) {
+    scan.GridRow = scan.GridCol = 0;
+    for (ScanLine& riga : scan.Righe)
+        riga.StepOriginal = 0;
+    return ScriviRecord(scan);
 }
 
 } // namespace
@@ -99,6 +116,24 @@ bool CaricaPathPTH(Scrivania& s) {
 bool SalvaPathPTH(Scrivania& s) {
     s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, kPannelloPTH, s.path);
+}
+
+bool CaricaPannelloCome(Scrivania& s, const std::string& percorso) {
+    if (s.NoSaveSetup || !CaricaPanelEAM(s, percorso))
+        return false;
+    if (!s.albero.Copia(percorso, kPannelloEAM))
+        return AvvisaScrittura(s, kPannelloEAM);
+    return SegnaPannelloCorrente(s, percorso);
+}
+
+bool SalvaPannelloCome(Scrivania& s, const std::string& percorso) {
+    if (s.NoSaveSetup || !SalvaPanelEAM(s, percorso) || !CaricaPanelEAM(s, percorso))
+        return false;
+    return SalvaPanelEAM(s, kPannelloEAM) && SegnaPannelloCorrente(s, percorso);
+}
+
+bool ConfrontaScanTab(const ScanRecord& a, const ScanRecord& b) {
+    return SoloTabella(a) == SoloTabella(b);
 }
 
 void ApplicaEnv(EnvRecord& env, bool caricato) {

@@ -100,7 +100,7 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole) {
     for (const std::string& testo : {nome, base})
         if (testo.empty() || ControllaNomeMisura(testo) != testo)
             return UsoErrato(banco, "trace", "\"" + testo + "\" is no valid name");
-    if (!banco.scrivania.albero.Esiste(PercorsoKSH(nome)))
+    if (!banco.scrivania.albero.Esiste(TrovaKSH(banco.scrivania.albero, nome)))
         return Guasto(banco, kGuastoFile, "there is no measure " + PercorsoKSH(nome));
     ScanRecord scan;
     SetupRecord setup;
