@@ -26,15 +26,18 @@ struct RigaLetta {
     double step = 0;
     int16_t numero = 0;
     size_t quanti = 0;
-    size_t k = 0; ///< next sample
+    size_t k = 0;              ///< next sample
+    double prossimaMhz = kMai; ///< its frequency
 
-    double Frequenza() const {
+    void Vai(size_t passo) {
+        k = passo;
         if (k >= quanti)
-            return kMai;
-        return frequenze.empty() ? start + static_cast<double>(k) * step : frequenze[k];
+            prossimaMhz = kMai;
+        else
+            prossimaMhz = frequenze.empty() ? start + static_cast<double>(k) * step : frequenze[k];
     }
     CampioneTraccia Prendi() {
-        CampioneTraccia campione{.freqMhz = Frequenza(), .riga = numero};
+        CampioneTraccia campione{.freqMhz = prossimaMhz, .riga = numero};
         const uint8_t* da = campioni.data() + k * kByteCampione;
         for (int16_t& livello : campione.livello) {
             livello = static_cast<int16_t>(LeggiLittle<uint16_t>(da));
@@ -45,7 +48,7 @@ struct RigaLetta {
             campione.mast = static_cast<int16_t>(LeggiLittle<uint16_t>(dove));
             campione.table = static_cast<int16_t>(LeggiLittle<uint16_t>(dove + 2));
         }
-        ++k;
+        Vai(k + 1);
         return campione;
     }
 };
@@ -125,6 +128,7 @@ RigaLetta LeggiRiga(const AlberoDati& albero, const std::string& percorsoRS, con
     }
     if (riga.StepMode != 0)
         PrendiFrequenze(r, riga, opzioni);
+    r.Vai(0);
     return r;
 }
 
@@ -158,7 +162,7 @@ void Accoda(SweepTrace& traccia, RigaLetta& riga, double finoMhz, size_t detecto
             traccia.push_back(nuovo);
         else if (Vince(nuovo, traccia.back(), detector))
             traccia.back() = nuovo;
-    } while (riga.Frequenza() < finoMhz);
+    } while (riga.prossimaMhz < finoMhz);
 }
 
 /// All lines in the order of frequency, each sample looked at once: the line that is behind the
@@ -169,23 +173,27 @@ SweepTrace Fondi(std::vector<RigaLetta>& righe, size_t detector, bool fondi) {
         quanti += riga.quanti;
     SweepTrace traccia;
     traccia.reserve(quanti);
+    // Beside each other: where many lines meet, looking at them is the greater part of the work.
+    std::array<double, kMaxScanLine> teste{};
+    for (size_t i = 0; i < righe.size(); ++i)
+        teste[i] = righe[i].prossimaMhz;
     while (true) {
-        RigaLetta* prima = nullptr;
+        size_t prima = 0;
         double primaMhz = kMai;
         double secondaMhz = kMai;
-        for (RigaLetta& riga : righe) {
-            const double freq = riga.Frequenza();
-            if (freq < primaMhz) {
+        for (size_t i = 0; i < righe.size(); ++i) {
+            if (teste[i] < primaMhz) {
                 secondaMhz = primaMhz;
-                primaMhz = freq;
-                prima = &riga;
-            } else {
-                secondaMhz = std::min(secondaMhz, freq);
+                primaMhz = teste[i];
+                prima = i;
+            } else if (teste[i] < secondaMhz) {
+                secondaMhz = teste[i];
             }
         }
-        if (!prima)
+        if (primaMhz == kMai)
             return traccia;
-        Accoda(traccia, *prima, secondaMhz, detector, fondi);
+        Accoda(traccia, righe[prima], secondaMhz, detector, fondi);
+        teste[prima] = righe[prima].prossimaMhz;
     }
 }
 
