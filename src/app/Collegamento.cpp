@@ -44,7 +44,7 @@ std::string Collegamento::Applica(std::string_view link, Porta& porta) {
         return percorso->empty() ? "tty: wants a path, as in tty:/dev/ttyUSB0" : std::string();
     }
     if (link == "sim" || link.starts_with("sim:") || link.starts_with("sim,"))
-        return ApplicaSimulatore(link.substr(link == "sim" ? 3 : 4), porta);
+        return ApplicaSimulatore(link.substr(link.starts_with("sim:") ? 4 : 3), porta);
     return "unknown link \"" + std::string(link) + "\": sim, usb, com:N or tty:PATH";
 }
 

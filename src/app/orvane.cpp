@@ -105,14 +105,18 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
     VistaTerminale vista(ambiente, std::cerr, isatty(STDERR_FILENO) != 0, o.json);
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
+    bool interrotto = false;
     ambiente.alInterrompi = [&](int quante) {
+        interrotto = true;
         if (corsa.SweepInCorso && quante == 1)
             ChiediStop(corsa);
         else
             stato.AbbandonaComandi = true;
     };
     ambiente.alGiro = [&] {
-        if (o.pazienzaS > 0 && vista.StrisciaDaS() > o.pazienzaS)
+        // While the banner stands a command repeats itself for ever: a Stop would never come to it.
+        const double daS = vista.StrisciaDaS();
+        if (daS > 0 && (corsa.StopRichiesto || (o.pazienzaS > 0 && daS > o.pazienzaS)))
             stato.AbbandonaComandi = true;
     };
     Banco banco{.scrivania = scrivania,
@@ -121,6 +125,7 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
                 .vista = vista,
                 .catalogo = collegamento.Catalogo(),
                 .linkScelto = !o.link.empty(),
+                .interrotto = interrotto,
                 .dati = std::cout,
                 .messaggi = std::cerr,
                 .json = o.json};

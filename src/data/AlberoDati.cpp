@@ -71,7 +71,8 @@ bool HaEstensione(const std::string& nome, std::string_view estensione) {
 
 std::optional<std::vector<uint8_t>> LeggiTutto(std::FILE* file, size_t quanti) {
     std::vector<uint8_t> dati(quanti);
-    dati.resize(std::fread(dati.data(), 1, quanti, file));
+    if (quanti > 0)
+        dati.resize(std::fread(dati.data(), 1, quanti, file));
     if (std::ferror(file))
         return std::nullopt;
     return dati;

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <ctime>
 
+#include "data/ControllaRecord.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 
@@ -61,6 +62,7 @@ void LeggiHeader(const Scrivania& s, VoceArchivio& voce) {
     voce.leggibile = dati && LeggiRecord(*dati, header);
     if (!voce.leggibile)
         return;
+    ControllaScan(header.Scan);
     std::array<bool, kNumDetector> inUso{};
     for (const ScanLine& riga : header.Scan.Righe) {
         if (riga.Start == 0)

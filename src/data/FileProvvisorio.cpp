@@ -33,7 +33,8 @@ FileProvvisorio::~FileProvvisorio() {
 }
 
 bool FileProvvisorio::Scrivi(std::span<const uint8_t> dati) {
-    return file_ && std::fwrite(dati.data(), 1, dati.size(), file_.get()) == dati.size();
+    return file_ &&
+           (dati.empty() || std::fwrite(dati.data(), 1, dati.size(), file_.get()) == dati.size());
 }
 
 bool FileProvvisorio::Chiudi() {

@@ -83,8 +83,8 @@ bool ScrittoreTraccia::Apri(const Scrivania& s, std::string_view percorso) {
 }
 
 bool ScrittoreTraccia::Scrivi(std::span<const SampleRecord> passi) {
-    if (!file_)
-        return false;
+    if (!file_ || passi.empty())
+        return file_ != nullptr;
     byte_.resize(passi.size() * kByteCampione);
     uint8_t* dove = byte_.data();
     for (const SampleRecord& passo : passi)

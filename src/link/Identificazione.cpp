@@ -78,10 +78,6 @@ std::string TestoFirmware(std::string_view resto) {
     return RifilaControlli(pulito.substr(0, pulito.find_first_of("\r\n")));
 }
 
-bool HaGammeProprie(const ReceiverModel& m) {
-    return m.Is3360 || m.ModelloOEM != 0 || m.HaK3XK6X;
-}
-
 /// `#?BCD*` says whether an extension unit, or the high range, is in charge, and which.
 bool LeggiRispostaBCD(std::string_view risposta, ReceiverModel& m) {
     const std::string testo = Maiuscolo(risposta);
@@ -146,7 +142,7 @@ bool ChiediGamma(Ricevitore& r) {
 /// asked again only outside the live modes.
 bool LeggiGammaInUso(Ricevitore& r, Modalita modalita, int sorgente) {
     ReceiverModel& m = r.modello;
-    if (!HaGammeProprie(m))
+    if (!HaCondottoERadiato(m))
         return true;
     const bool viva = modalita == Modalita::Analyzer || modalita == Modalita::Manual;
     if (viva && (m.Is3360 || m.ModelloOEM != 0))

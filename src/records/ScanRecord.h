@@ -26,7 +26,7 @@ struct ScanLine {
     int16_t StepMode = 0; ///< 0 by `Step`, 1 from a frequency table
     int16_t AutoStep = 0; ///< 1: `Step` follows from the RBW
     double Step = 0;      ///< MHz
-    std::string FreqTable;
+    std::string FreqTable = {};
     int16_t MinAtt = 0; ///< index into 0, 10, 20, 30, 40, 50 dB
     float HoldTime = 0; ///< ms; 0 is the lowest
     float Margin = 0;   ///< dB, -19 to 19
@@ -35,15 +35,15 @@ struct ScanLine {
     std::array<int16_t, kNumDetector> Detector{}; ///< 1 for each in use, by `DetectorKind`
     std::array<int16_t, 101> LineReserved0{};
     int16_t LimitOn = 0;
-    std::string Limit;
+    std::string Limit = {};
     int16_t PromptOn = 0;
-    std::string Prompt;
+    std::string Prompt = {};
     int16_t RbwId = 0; ///< 0 to 15, never 4 or 11
     int16_t NumStepFT = 0;
     std::array<int16_t, 2> Antenna{}; ///< vertical, horizontal
     float HoldTimeSD = 0;             ///< ms
     int16_t LimitDSDOn = 0;
-    std::string LimitDSD;
+    std::string LimitDSD = {};
     double StepOriginal = 0; ///< MHz, of a run
     std::array<int16_t, 64> LineReserved1{};
     std::array<int32_t, 100> LineReserved2{};

@@ -1,3 +1,4 @@
+#include "data/Misure.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -41,7 +42,7 @@ const std::array<VoceRbw, kNumRbw>& TabellaRbw() {
 int16_t DetRBWDefault(double startMhz, double stopMhz) {
     const double mezzo = (startMhz + stopMhz) / 2;
     for (const SogliaRbw& soglia : kSoglie)
-        if (mezzo <= soglia.finoMhz)
+        if (mezzo <= soglia.finoMhz || StessaFrequenza(mezzo, soglia.finoMhz))
             return soglia.rbwId;
     return 0;
 }

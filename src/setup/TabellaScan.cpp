@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "data/Misure.h"
+
 namespace orvane {
 namespace {
 
@@ -65,8 +67,9 @@ bool ControllaScanFFT(const ScanLine& riga) {
     constexpr double kSpanFFT = 0.005;
     const bool soloPeak = Nessuno(std::span(riga.Detector).subspan(1));
     const bool lunga = riga.Smart == 0 && riga.HoldTime >= kHoldFFT;
+    const double span = riga.Stop - riga.Start;
     return (riga.Smart == 1 || soloPeak) && !lunga && riga.Stop <= kStopFFT &&
-           riga.Stop - riga.Start >= kSpanFFT;
+           (span >= kSpanFFT || StessaFrequenza(span, kSpanFFT));
 }
 
 void CompattaScanTable(ScanTable& tabella) {

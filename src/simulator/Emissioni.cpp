@@ -50,7 +50,8 @@ void AggiungiRete(uint64_t seme, Raccolta& raccolta) {
 
 /// Odd harmonics lead, all of them fall, and the board's resonance lifts those around 14 MHz.
 double LivelloArmonica(uint64_t seme, int n, double freqHz) {
-    return 73 - (n % 2 ? 0 : 5) - 17.5 * std::log10(n) + Gobba(freqHz, 14e6, 0.22, 10, 0) +
+    const double calo = freqHz > 18e6 ? 40 * std::log10(freqHz / 18e6) : 0;
+    return 73 - calo - (n % 2 ? 0 : 5) - 17.5 * std::log10(n) + Gobba(freqHz, 14e6, 0.22, 10, 0) +
            Sparsi(seme, kMazzoPettine, n, 2.2);
 }
 
@@ -143,18 +144,18 @@ double Sorte(uint64_t seme, uint64_t quale, uint64_t indice) {
 }
 
 double FondoRicevitore(double freqHz) {
-    const double rumoreUnoSuF = freqHz < 20e3 ? 8 * std::log10(20e3 / freqHz) : 0;
+    const double rumoreUnoSuF = freqHz < 150e3 ? 7 * std::log10(150e3 / freqHz) : 0;
     // From one range to the next the receiver gets quieter by what its usual filter gets wider.
-    const double sopra30 = std::clamp(std::log10(freqHz / 26e6) / 0.1, 0.0, 1.0);
+    const double sopra30 = std::clamp(std::log10(freqHz / 29e6) / 0.045, 0.0, 1.0);
     const double sopra1000 = std::clamp(std::log10(freqHz / 0.96e9) / 0.05, 0.0, 1.0);
     const double salita = freqHz > 30e6 ? 2.2 * std::log10(freqHz / 30e6) : 0;
-    return 7 + rumoreUnoSuF - 11 * sopra30 - 10 * sopra1000 + salita;
+    return 10 + rumoreUnoSuF - 11 * sopra30 - 10 * sopra1000 + salita;
 }
 
 double FondoApparato(double freqHz) {
     const double rete = 44 - 26 * std::log10(std::max(freqHz, 1e3) / 9e3);
-    const double gobba = Gobba(freqHz, 14.5e6, 0.2, 42, -12);
-    const double cavi = Gobba(freqHz, 65e6, 0.16, 26, -22);
+    const double gobba = Gobba(freqHz, 14.5e6, 0.29, 90, -60);
+    const double cavi = Gobba(freqHz, 65e6, 0.25, 64, -60);
     return std::max({rete, gobba, cavi});
 }
 

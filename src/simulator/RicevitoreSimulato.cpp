@@ -119,9 +119,11 @@ void RicevitoreSimulato::Interno::EseguiMale(const Capriccio& capriccio,
     switch (capriccio.tipo) {
     case Tipo::Rifiuto:
         return Invia(parti.nome + "=N/A\r\n", {}, adesso);
-    case Tipo::Errore:
+    case Tipo::Errore: {
+        const std::string risposta = RispostaErrore(parti, capriccio) + "\r\n";
         // A refused pause or resume is told in the midst of whatever runs.
-        return uscita.Interrompi(RispostaErrore(parti, capriccio) + "\r\n", adesso);
+        return EPausa(parti) ? uscita.Interrompi(risposta, adesso) : Invia(risposta, {}, adesso);
+    }
     case Tipo::Spazzatura:
         return Invia(Spazzatura(), {}, adesso);
     case Tipo::Testo:
@@ -252,6 +254,10 @@ void RicevitoreSimulato::Scorda() {
 
 const std::vector<std::string>& RicevitoreSimulato::Comandi() const {
     return io_->comandi;
+}
+
+void RicevitoreSimulato::DimenticaComandi() {
+    io_->comandi.clear();
 }
 
 std::string RicevitoreSimulato::Valore(std::string_view nome) const {

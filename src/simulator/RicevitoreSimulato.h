@@ -18,7 +18,7 @@ namespace orvane {
 /// Which receiver to be, and how to behave. See `LeggiOpzioniSimulatore` for the text form.
 struct OpzioniSimulatore {
     std::string modello = "5520"; ///< a name of `ModelliSimulati`
-    std::string firmware;         ///< "2.15"; empty for the model's usual one
+    std::string firmware = {};    ///< "2.15"; empty for the model's usual one
     uint32_t seme = 1;
     /// Bytes a second that leave the receiver; 0 as fast as the reader takes them.
     double byteAlSecondo = 0;
@@ -48,11 +48,11 @@ struct Capriccio {
         Scollegato
     };
     Tipo tipo = Tipo::Muto;
-    std::string comando;
+    std::string comando = {};
     int volte = -1;
     double secondi = 0;
     int numero = 0;
-    std::string testo;
+    std::string testo = {};
 };
 /// "mute:?IDN", "late:SRBW=0.5", "split:...", "refuse:...", "error:SSFD=5", "garbage:...",
 /// "text:?DET=...", "silent:1000", "unplug:1000"; an "xN" behind the kind ("mutex2:...") limits it
@@ -82,8 +82,9 @@ public:
     void Aggiungi(const Capriccio& capriccio);
     void Scorda(); ///< drops all misbehaviours
 
-    /// Every whole command that arrived, in order.
+    /// Every whole command that arrived, in order, since the last `DimenticaComandi`.
     const std::vector<std::string>& Comandi() const;
+    void DimenticaComandi();
     /// What a setter left behind, by the three letters of its name; empty if it never came.
     std::string Valore(std::string_view nome) const;
     /// A table that was uploaded and closed by "LIC", "CFE" or "LIE" under a slot (0: custom): its

@@ -34,6 +34,9 @@ constexpr double kBandePortata = 2.5;
 /// dB/100 that a filter loses at the edge of its bandwidth.
 constexpr float kTreDb = 301;
 
+constexpr size_t kNumClassi = std::size(kScartiDetector);
+constexpr float kNienteRighe = -1e9f;
+
 /// The widest line, so that a window of the sorted lines holds all that matter.
 constexpr double kMezzaLarghezzaMax = 2e6;
 constexpr double kMezzaLarghezzaPettine = 6.5e3;
@@ -81,14 +84,19 @@ Spettro::Spettro(const CondizioniSpettro& condizioni, double minHz, double maxHz
         altopiano.livelloRms += banda;
 }
 
+void Spettro::TrovaTratto(double hz) {
+    const size_t ultima = primaVoce_ + inviluppo_.size() - 2;
+    const size_t voce = std::clamp(VoceInviluppo(hz), primaVoce_, ultima);
+    const float* coppia = &inviluppo_[voce - primaVoce_];
+    tratto_ = {.daHz = FrequenzaVoce(voce), .aHz = FrequenzaVoce(voce + 1), .fondo = coppia[0]};
+    tratto_.pendenza = (coppia[1] - coppia[0]) / (tratto_.aHz - tratto_.daHz);
+}
+
 float Spettro::Fondo(double freqHz) {
     const double hz = std::max(freqHz, 1.0);
-    const size_t voce =
-        std::clamp(VoceInviluppo(hz), primaVoce_, primaVoce_ + inviluppo_.size() - 2);
-    const double da = FrequenzaVoce(voce);
-    const auto parte = static_cast<float>((hz - da) / (FrequenzaVoce(voce + 1) - da));
-    const float* coppia = &inviluppo_[voce - primaVoce_];
-    float fondo = coppia[0] + (coppia[1] - coppia[0]) * parte;
+    if (hz < tratto_.daHz || hz >= tratto_.aHz)
+        TrovaTratto(hz);
+    auto fondo = static_cast<float>(tratto_.fondo + (hz - tratto_.daHz) * tratto_.pendenza);
     for (size_t i = primoAltopiano_; i < altopiani_.size(); ++i) {
         const Altopiano& a = altopiani_[i];
         const double fuori = std::abs(hz - a.freqHz) - a.mezzaLarghezzaHz;
@@ -123,6 +131,27 @@ void Spettro::AvanzaFinestre(double freqHz) {
         ++primoAltopiano_;
 }
 
+/// The highest line of each class counts; what the detectors read less follows from the class.
+void Spettro::AggiungiRighe(double hz, std::span<const uint8_t> quali, float* livelli) const {
+    const double fine = hz + portata_;
+    if (primaRiga_ == righe_.size() || righe_[primaRiga_].freqHz > fine)
+        return;
+    float cime[kNumClassi];
+    std::fill(std::begin(cime), std::end(cime), kNienteRighe);
+    for (size_t r = primaRiga_; r < righe_.size() && righe_[r].freqHz <= fine; ++r) {
+        const RigaSpettro& riga = righe_[r];
+        const double fuori = std::abs(hz - riga.freqHz) - riga.mezzaLarghezzaHz;
+        if (fuori > margine_)
+            continue;
+        const auto x = static_cast<float>(std::max(fuori, 0.0) * inversoMezzaBanda_);
+        cime[riga.classe] = std::max(cime[riga.classe], riga.livello - kTreDb * x * x);
+    }
+    for (size_t classe = 0; classe < kNumClassi; ++classe)
+        if (cime[classe] > kNienteRighe)
+            for (size_t i = 0; i < quali.size(); ++i)
+                livelli[i] = std::max(livelli[i], cime[classe] - kScartiDetector[classe][quali[i]]);
+}
+
 void Spettro::Livelli(double freqHz, std::span<const uint8_t> quali, int16_t* dove) {
     const double hz = static_cast<double>(GrigliaMilliHz(freqHz)) / 1000;
     AvanzaFinestre(hz);
@@ -142,17 +171,7 @@ void Spettro::Livelli(double freqHz, std::span<const uint8_t> quali, int16_t* do
         const size_t d = quali[i];
         livelli[i] = fondo + kScartiRumore[d] + a[d] + (b[d] - a[d]) * parte;
     }
-    for (size_t r = primaRiga_; r < righe_.size() && righe_[r].freqHz <= hz + portata_; ++r) {
-        const RigaSpettro& riga = righe_[r];
-        const double fuori = std::abs(hz - riga.freqHz) - riga.mezzaLarghezzaHz;
-        if (fuori > margine_)
-            continue;
-        const auto x = static_cast<float>(std::max(fuori, 0.0) * inversoMezzaBanda_);
-        const float cima = riga.livello - kTreDb * x * x;
-        const float* scarti = kScartiDetector[riga.classe];
-        for (size_t i = 0; i < quali.size(); ++i)
-            livelli[i] = std::max(livelli[i], cima - scarti[quali[i]]);
-    }
+    AggiungiRighe(hz, quali, livelli);
     for (size_t i = 0; i < quali.size(); ++i)
         dove[i] = Arrotonda(livelli[i]);
 }

@@ -46,6 +46,8 @@ private:
     float Fondo(double freqHz);
     const RumoreCella& Cella(int64_t cella, RumoreCella& tenuta, int64_t& quale) const;
     void AvanzaFinestre(double freqHz);
+    void TrovaTratto(double hz);
+    void AggiungiRighe(double hz, std::span<const uint8_t> quali, float* livelli) const;
 
     double rbwHz_;
     uint64_t seme_;
@@ -58,6 +60,12 @@ private:
     std::vector<RigaSpettro> righe_;
     std::vector<Altopiano> altopiani_; ///< rising, with both their edges
 
+    /// The straight piece of the envelope that was read last.
+    struct Tratto {
+        double daHz = 0, aHz = 0;
+        double fondo = 0, pendenza = 0;
+    };
+    Tratto tratto_;
     double ultimaHz_ = -1;
     size_t primaRiga_ = 0;
     size_t primoAltopiano_ = 0;

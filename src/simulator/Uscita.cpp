@@ -84,15 +84,17 @@ void Uscita::Avanza(double adesso) {
         const double inizio = std::max(libera_, pezzo.quando);
         if (inizio > adesso)
             return;
-        const uint64_t posto =
-            pezzo.flusso ? kFinestraFlusso - (pezzo.usciti - pezzo.presi) : pezzo.limite;
         // The small addition keeps a byte that is due now from being late by a rounding error.
         const auto tempo =
             static_cast<uint64_t>(std::floor((adesso - inizio) * byteAlSecondo_ + 1e-6));
+        const uint64_t posto =
+            pezzo.flusso ? kFinestraFlusso - (pezzo.usciti - pezzo.presi) : pezzo.limite;
         const uint64_t n = std::min({pezzo.limite - pezzo.usciti, posto, tempo});
         pezzo.usciti += n;
+        libera_ = inizio + static_cast<double>(n) / byteAlSecondo_;
         // With its window full the receiver waits for the reader, and gains no time by it.
-        libera_ = n == posto ? adesso : inizio + static_cast<double>(n) / byteAlSecondo_;
+        if (n == posto && n < tempo && pezzo.usciti < pezzo.limite)
+            libera_ = adesso;
         if (pezzo.usciti < pezzo.limite)
             return;
     }

@@ -315,7 +315,7 @@ std::string Batteria(const MemoriaSimulata& memoria) {
     const BatteriaSimulata& b = memoria.batteria;
     if (!memoria.modello->conBatteria)
         return "";
-    const std::string volt = b.volt > 0 ? "," + TestoFisso(b.volt, 2) : "";
+    const std::string volt = b.volt > 0 ? std::string(",").append(TestoFisso(b.volt, 2)) : "";
     return b.livello + volt + (b.inCarica ? ";1" : ";0");
 }
 

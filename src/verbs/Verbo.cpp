@@ -48,4 +48,8 @@ EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche) {
     return esito;
 }
 
+EsitoVerbo EsitoDelLink(const Banco& banco) {
+    return banco.interrotto ? kFermato : kGuastoLink;
+}
+
 } // namespace orvane

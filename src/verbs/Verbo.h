@@ -33,6 +33,7 @@ struct Banco {
     VistaTerminale& vista;
     CatalogoPorte& catalogo;
     bool linkScelto = false; ///< --link was given: the panel does not decide
+    const bool& interrotto;  ///< the user has pressed Ctrl-C
     std::ostream& dati;      ///< standard output
     std::ostream& messaggi;  ///< standard error
     bool json = false;
@@ -51,6 +52,8 @@ const VoceVerbo* TrovaVerbo(std::string_view nome);
 /// Says what is wrong with the words, and how the verb is used.
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);
 EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche);
+/// Status of a link that was given up: by the user, or because it failed.
+EsitoVerbo EsitoDelLink(const Banco& banco);
 
 EsitoVerbo VerboIdentify(Banco& banco, Parole parole);
 EsitoVerbo VerboScan(Banco& banco, Parole parole);

@@ -1,3 +1,4 @@
+#include <cmath>
 #include <ostream>
 
 #include "base/Numeri.h"
@@ -63,7 +64,11 @@ void StampaTraccia(Banco& banco, const SweepTrace& traccia, DetectorKind detecto
             continue;
         const double dB = campione.livello[d] / 100.0;
         if (banco.json)
-            json.Lista().Numero(campione.freqMhz).Numero(dB).Numero(campione.riga + 1).Chiudi();
+            json.Lista()
+                .Numero(std::round(campione.freqMhz * 1e9) / 1e9)
+                .Numero(dB)
+                .Numero(campione.riga + 1)
+                .Chiudi();
         else
             testo += TestoFrequenza(campione.freqMhz) + "," + TestoFisso(dB, 2) + "," +
                      TestoIntero(campione.riga + 1) + "\n";

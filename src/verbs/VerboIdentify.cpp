@@ -80,7 +80,8 @@ EsitoVerbo VerboIdentify(Banco& banco, Parole parole) {
     Identifica(r);
     r.porta.ChiudiPorta();
     if (r.stato.AbbandonaComandi || r.modello.FwTesto == "---")
-        return Guasto(banco, kGuastoLink, "no receiver answered");
+        return Guasto(banco, EsitoDelLink(banco),
+                      banco.interrotto ? "stopped" : "no receiver answered");
     Stampa(banco, Descrivi(r));
     return kFatto;
 }

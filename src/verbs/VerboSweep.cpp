@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-EsitoVerbo DaCorsa(EsitoCorsa esito) {
+EsitoVerbo DaCorsa(const Banco& banco, EsitoCorsa esito) {
     switch (esito) {
     case EsitoCorsa::Compiuta:
         return kFatto;
@@ -26,14 +26,16 @@ EsitoVerbo DaCorsa(EsitoCorsa esito) {
     case EsitoCorsa::GuastoLink:
         break;
     }
-    return kGuastoLink;
+    return EsitoDelLink(banco);
 }
 
 /// Where the measure lies, as the host names it.
 void DiMisura(Banco& banco, const std::string& misura, EsitoVerbo esito) {
     const auto cartella = banco.scrivania.albero.Host(CartellaMisura(misura)).string();
     if (!banco.json) {
-        banco.dati << cartella << "\n";
+        // A run that ends before its first file has no folder to tell of.
+        if (banco.scrivania.albero.EsisteCartella(CartellaMisura(misura)))
+            banco.dati << cartella << "\n";
         return;
     }
     Json json;
@@ -65,7 +67,7 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     ControllaScan(scan);
     banco.scrivania.env.ScanPanelPath = percorso;
     Corsa corsa{banco.scrivania, banco.ricevitore, scan, banco.corsa, banco.vista};
-    const EsitoVerbo esito = DaCorsa(ClickExecuteSweep(corsa, misura));
+    const EsitoVerbo esito = DaCorsa(banco, ClickExecuteSweep(corsa, misura));
     banco.vista.FineRiga();
     if (!banco.corsa.misura.empty())
         DiMisura(banco, banco.corsa.misura, esito);

@@ -16,10 +16,10 @@ constexpr double kPeriodoRigheS = 2;
 std::string TestoAvanzamento(const Avanzamento& a, double freqMhz, int16_t livelloCent) {
     std::string testo = "line " + TestoIntero(a.riga + 1) + " of " + TestoIntero(a.numRighe) +
                         "  " + TestoIntero(a.passiRiga) + "/" + TestoIntero(a.totaleRiga) +
-                        " steps  " + TestoIntero(std::lround(std::floor(a.frazione * 100)), 3) +
+                        " steps  " + TestoIntero(std::lround(std::floor(a.frazione * 100))) +
                         " %  " + TestoTempo(a.trascorsiS) + " elapsed";
     testo += a.restanoS < 0 ? "  time left unknown" : "  " + TestoTempo(a.restanoS) + " left";
-    if (livelloCent > kNessunLivello)
+    if (livelloCent > kNessunLivello && a.frazione < 1)
         testo +=
             "  " + TestoFisso(freqMhz, 4) + " MHz " + TestoFisso(livelloCent / 100.0, 2) + " dBµV";
     return testo;

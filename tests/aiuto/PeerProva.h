@@ -33,6 +33,8 @@ public:
 
     /// Replies `testo` after `ritardoS`, each reply behind the one before.
     void Rispondi(const std::string& testo, double ritardoS = 0) {
+        if (testo.empty())
+            return;
         coda_.push_back({ambiente_.ora + ritardoS, testo});
         std::stable_sort(coda_.begin(), coda_.end(),
                          [](const Pezzo& a, const Pezzo& b) { return a.quando < b.quando; });

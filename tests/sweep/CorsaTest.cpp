@@ -74,7 +74,7 @@ TEST_F(CorsaTest, SpeaksToTheReceiverInTheFixedOrder) {
     EXPECT_EQ(banco.simulato.Comandi(), attesi);
 }
 
-TEST_F(CorsaTest, StopKeepsWhatHasArrivedAndTellsTheReceiver) {
+TEST(CorsaFermata, KeepsWhatHasArrivedAndTellsTheReceiver) {
     BancoSimulato banco({.byteAlSecondo = kByteAlSecondoLinea});
     MettiBanda(banco.scan.Righe[0], "B", "P,Q");
     banco.vista.alPasso = [&] { ChiediStop(banco.statoCorsa); };

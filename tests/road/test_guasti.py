@@ -1,0 +1,324 @@
+"""What goes wrong in the field: a receiver that refuses, falls silent or goes away, the user who
+stops, disks and panels at fault. The program says so, ends as documented, and the files are whole."""
+
+import os
+import random
+import resource
+import signal
+import struct
+import time
+
+from comune import Corsa, Esegui, InParallelo, Passi, ProvaStrada, ScanLine, ScanRecord
+from peer import Flusso, Peer
+
+BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+PAROLE_SFD = {
+    "1": "set start or stop freq.", "2": "set step freq.", "3": "set detector",
+    "4": "set Hold Time", "5": "set RBW", "6": "set MinAtt", "7": "set Preamp.",
+    "8": "set Presel.",
+}  # fmt: skip
+
+
+class ProvaGuasti(ProvaStrada):
+    def Sweep(self, dati=None, **opzioni):
+        return self.Orvane("sweep", "--scan", "T", "--name", "M", dati=dati, **opzioni)
+
+    def MisuraIntera(self, campioni, detector, dati=None, nome="M"):
+        """The header is whole, and the trace is a run of whole steps of what was sent."""
+        self.assertEqual(self.FileMisura(nome, "KSH", dati).stat().st_size, 17770)
+        rs = self.FileMisura(nome, "RS0", dati).read_bytes()
+        self.assertEqual(len(rs) % 12, 0)
+        self.assertEqual(rs, Passi(campioni, detector)[: len(rs)])
+        return len(rs) // 12
+
+    def test_rifiuti_dello_sweep(self):
+        def Corpo(codice):
+            dati = self.Sottocartella(codice)
+            self.Tabella("T", BREVE, dati=dati)
+            testo = f"SFD=ERR {codice}\r\n".encode()
+            with Peer(flussi=[Flusso(riscontro=testo)]) as peer:
+                esito = self.Sweep(dati, peer=peer)
+            self.assertEqual(esito.codice, 3, str(esito))
+            self.assertIn(f"Error {PAROLE_SFD[codice]}", esito.err)
+            self.assertEqual(self.MisuraIntera(b"", [0], dati), 0)
+
+        InParallelo(self, PAROLE_SFD, Corpo)
+
+    def test_silenzio_prima_dei_dati(self):
+        """In each phase: the words of what was asked, status 3, and next to no processor time."""
+        casi = {
+            "SCFA": "Disabling conv factor", "SDIS": "Dynamics - Ref Level",
+            "SPLM": "set Pulse Limiter", "STGF": "set Frequency Tracking", "?BAT": "Read battery",
+            "?UHT": "Read Hold Time",
+        }  # fmt: skip
+
+        def Corpo(comando):
+            dati = self.Sottocartella(comando)
+            self.Tabella("T", BREVE, dati=dati)
+            with Peer(regole={comando: None}) as peer:
+                esito = self.Sweep(dati, peer=peer, pazienza=0.5)
+            self.assertEqual(esito.codice, 3, str(esito))
+            self.assertIn(f"Error {casi[comando]}\n", esito.err)
+            self.assertGreaterEqual(len([c for c in peer.comandi if c[1:5] == comando]), 4)
+            self.assertLess(esito.processore, 0.1 * esito.secondi)
+            if comando == "?UHT":  # all data had come
+                self.assertEqual(self.MisuraIntera(peer.campioni[0], [0], dati), 101)
+
+        InParallelo(self, casi, Corpo)
+
+    def test_silenzio_nello_sweep(self):
+        """A receiver that stops in mid-word: what had come is stored, whole steps of it."""
+        casi = {
+            "no acknowledgement": (Flusso(riscontro=b""), 0),
+            "half an acknowledgement": (Flusso(riscontro=b"SFD=O"), 0),
+            "no sample": (Flusso(taglia=0), 0),
+            "in mid-sample": (Flusso(taglia=4 * 17 + 1), 17),
+            "in mid-step": (Flusso(taglia=4 * 40 + 2), 40),
+            "before the mark": (Flusso(taglia=4 * 101), 101),
+            "in the mark": (Flusso(riscontro=b"SFD=OK\r\n", passi=0, coda=b""), 0),
+        }
+        casi["in the mark"] = (Flusso(taglia=4 * 101, fine=False, coda=b""), 101)
+
+        def Corpo(nome):
+            flusso, passi = casi[nome]
+            dati = self.Sottocartella(nome.replace(" ", "-"))
+            self.Tabella("T", f"{BREVE} --detector P,Q", dati=dati)
+            with Peer(flussi=[flusso]) as peer:
+                esito = self.Sweep(dati, peer=peer)
+            self.assertEqual(esito.codice, 3, str(esito))
+            self.assertIn("[box] 5520 Time out -> OK\n", esito.err)
+            self.assertEqual(self.MisuraIntera(peer.campioni[0], [0, 1], dati), passi)
+            self.assertLess(esito.processore, 0.1 * esito.secondi)
+
+        InParallelo(self, casi, Corpo)
+
+    def test_linea_chiusa(self):
+        """The adapter is pulled in mid-sweep: told at once, without the whole time-out."""
+        self.Tabella("T", BREVE)
+        with Peer(flussi=[Flusso(chiudi=2 * 60 + 1, pezzi=16, pausa=0.01)]) as peer:
+            esito = self.Sweep(peer=peer)
+        self.assertEqual(esito.codice, 3, str(esito))
+        self.assertIn("5520 Time out", esito.err)
+        self.assertLessEqual(self.MisuraIntera(peer.campioni[0], [0]), 60)
+        self.assertLess(esito.processore, 1)
+
+    def test_linea_occupata(self):
+        """A second console on the same line is told so, and disturbs nothing."""
+        self.Tabella("T", BREVE)
+        with Peer(flussi=[Flusso(pausa=0.02, pezzi=4)]) as peer:
+            prima = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.assertTrue(peer.Aspetta(lambda: peer.campioni))
+            seconda = self.Orvane("identify", peer=peer)
+            self.assertEqual(seconda.codice, 3, str(seconda))
+            self.assertEqual(prima.Attendi().codice, 0)
+        self.assertEqual(self.MisuraIntera(peer.campioni[0], [0]), 101)
+
+    def test_dati_senza_fine(self):
+        """More steps than the line has: all are kept, and the run ends with the mark."""
+        self.Tabella("T", BREVE)
+        with Peer(flussi=[Flusso(passi=500)]) as peer:
+            esito = self.Sweep(peer=peer)
+        self.assertEqual(esito.codice, 0, str(esito))
+        self.assertEqual(self.MisuraIntera(peer.campioni[0], [0]), 500)
+
+    def test_riga_di_fumo(self):
+        """Garbage in place of the acknowledgement ends in the time-out, not in a trace."""
+        self.Tabella("T", BREVE)
+        fumo = random.Random(5).randbytes(3000).replace(b"\r\n", b"")
+        with Peer(regole={"SSFD": fumo}) as peer:
+            esito = self.Sweep(peer=peer)
+        self.assertEqual(esito.codice, 3, str(esito))
+        self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 0)
+
+
+class ProvaFermata(ProvaStrada):
+    def Fermata(self, segnale):
+        self.Tabella("T", "--band B --detector P,Q")
+        with Peer(flussi=[Flusso(tieni=True, pezzi=101, pausa=0.01)]) as peer:
+            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 4000))
+            corsa.Segnala(segnale)
+            esito = corsa.Attendi(20)
+        rs = self.FileMisura("M", "RS0").read_bytes()
+        self.assertEqual(len(rs) % 12, 0)
+        self.assertGreater(len(rs) // 12, 500)
+        self.assertEqual(rs, Passi(peer.campioni[0], [0, 1])[: len(rs)])
+        self.assertEqual(self.FileMisura("M", "KSH").stat().st_size, 17770)
+        return esito, peer
+
+    def test_ctrl_c(self):
+        """Stop: the receiver is told, the measure stands and can be shown."""
+        esito, peer = self.Fermata(signal.SIGINT)
+        self.assertEqual(esito.codice, 5, str(esito))
+        self.assertIn("stopped", esito.err)
+        self.assertEqual(esito.out, f"{self.dati}/Sweep/M\n")
+        dopo = peer.comandi[[c[:5] for c in peer.comandi].index("#SSFD") + 1 :]
+        self.assertEqual(dopo[0], "#ASBK*")
+        self.assertGreater(len(self.Riesce("trace", "M").out.splitlines()), 500)
+        self.assertIn("M\t", self.Riesce("archive").out)
+
+    def test_sigterm(self):
+        esito, peer = self.Fermata(signal.SIGTERM)
+        self.assertEqual(esito.codice, 5, str(esito))
+        self.assertIn("#ASBK*", peer.comandi[-3:])
+
+    def test_kill(self):
+        """Killed outright: what is on disk is whole steps, and the measure can be shown."""
+        esito, _ = self.Fermata(signal.SIGKILL)
+        self.assertEqual(esito.codice, -9)
+        self.assertGreater(len(self.Riesce("trace", "M").out.splitlines()), 500)
+
+    def test_fermata_mentre_tace(self):
+        """The receiver does not answer and the user wants out, twice: that ends it soon."""
+        self.Tabella("T", BREVE)
+        with Peer(regole={"SDIS": None}) as peer:
+            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.assertTrue(peer.Aspetta(lambda: any(c.startswith("#SDIS") for c in peer.comandi)))
+            corsa.Segnala()
+            time.sleep(0.2)
+            corsa.Segnala()
+            esito = corsa.Attendi(10)
+        self.assertEqual(esito.codice, 5, str(esito))
+        self.assertFalse((self.dati / "Sweep" / "M" / "M.RS0").exists())
+
+    def test_fermata_di_identify(self):
+        with Peer(muto=True) as peer:
+            corsa = self.Avvia("identify", peer=peer)
+            self.assertTrue(peer.Aspetta(lambda: peer.comandi))
+            corsa.Segnala()
+            esito = corsa.Attendi(10)
+        self.assertEqual(esito.codice, 5, str(esito))
+
+
+class ProvaDisco(ProvaStrada):
+    def test_radice_non_scrivibile(self):
+        """Where no directory can be made, the run ends with the words and status 4."""
+        self.Tabella("T", BREVE)
+        (self.dati / "Sweep").write_text("in the way")
+        with Peer() as peer:
+            esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer)
+        self.assertEqual(esito.codice, 4, str(esito))
+        self.assertRegex(esito.err, r"\[box\] Cannot open file .*\\Sweep\\M\\M\.KSH -> OK")
+        self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
+
+    def test_pannelli_non_scrivibili(self):
+        (self.dati / "Panels").write_text("in the way")
+        esito = self.Orvane("scan", "add", "T", "--band", "B")
+        self.assertEqual(esito.codice, 4, str(esito))
+        self.assertIn("Cannot open file", esito.err)
+
+    def test_disco_pieno(self):
+        """The disk fills up in mid-trace, in the middle of a step: whole steps stay, status 4."""
+        self.Tabella("T", "--band B")
+        limite = 30000  # room for the header and the panels, not for 5971 steps
+
+        def Avvia(peer):
+            vecchio = resource.getrlimit(resource.RLIMIT_FSIZE)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (limite, vecchio[1]))
+            try:
+                return Corsa(["--data", str(self.dati), "--link", "tty:" + peer.percorso, "sweep",
+                              "--scan", "T", "--name", "M"], senza_segnali=True)  # fmt: skip
+            finally:
+                resource.setrlimit(resource.RLIMIT_FSIZE, vecchio)
+
+        with Peer(flussi=[Flusso(pezzi=1001)]) as peer:
+            esito = Avvia(peer).Attendi(30)
+        self.assertEqual(esito.codice, 4, str(esito))
+        self.assertRegex(esito.err, r"\[box\] Cannot save file .*M\.RS0 -> OK")
+        rs = self.FileMisura("M", "RS0").read_bytes()
+        self.assertEqual(len(rs) % 12, 0)
+        self.assertEqual(rs, Passi(peer.campioni[0], [0])[: len(rs)])
+
+    def test_disco_pieno_per_le_uscite(self):
+        """Standard output that takes nothing is a failure of a file too."""
+        self.Tabella("T", BREVE)
+        with open("/dev/full", "w") as pieno:
+            corsa = Corsa(["--data", str(self.dati), "scan", "show", "T"], uscita=pieno)
+            self.assertEqual(corsa.Attendi().codice, 4)
+
+    def test_pannelli_rovinati(self):
+        """EPN and EAM of every wrong length, and of random bytes: no crash, and a run still runs."""
+        caso = random.Random(11)
+        lunghezze = [0, 1, 11, 12, 17, 233, 235, 1495, 2095, 2096, 2097, 5093, 5094, 5095, 20000]
+        casi = [(n, caso.randbytes(n)) for n in lunghezze]
+        casi += [(f"zeros {n}", bytes(n)) for n in (2096, 5094)]
+        casi += [(f"ones {n}", b"\xff" * n) for n in (2096, 5094)]
+        casi += [(f"seed {i}", caso.randbytes(5094)) for i in range(6)]
+
+        def Corpo(voce):
+            nome, byte = voce
+            dati = self.Sottocartella(f"{nome}".replace(" ", "-"))
+            self.Tabella("T", BREVE, dati=dati)
+            for file in ("Untitled.EPN", "Untitled.EAM", "Untitled.PTH"):
+                (dati / "Panels" / file).write_bytes(byte)
+            with Peer() as peer:
+                esito = self.Orvane("identify", peer=peer, dati=dati)
+                self.assertEqual(esito.codice, 0, str(esito))
+                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            self.assertEqual(esito.codice, 0, str(esito))
+            rs = self.FileMisura("M", "RS0", dati).read_bytes()
+            self.assertEqual(rs, Passi(peer.campioni[0], [0]))
+            if len(byte) < 2096:
+                self.assertRegex(esito.err, r"\[box\] Failed loading.*Untitled\.EPN -> OK")
+            if len(byte) < 5094:
+                self.assertRegex(esito.err, r"\[box\] Failed loading.*Untitled\.EAM -> OK")
+            # Without a link of its own choice the program asks what is left of the panel.
+            self.assertIn(self.Orvane("identify", dati=dati, pazienza=0.1).codice, (0, 3))
+
+        InParallelo(self, casi, Corpo)
+
+    def test_tabelle_rovinate(self):
+        """A scan table torn at any length, or of random bytes, is refused or repaired, never worse."""
+        caso = random.Random(13)
+        buona = ScanRecord(ScanLine(0.15, 1.15, 0.01, 2, AutoStep=0))
+        casi = [(n, buona[:n]) for n in (0, 1, 5, 1199, 1200, 12675)]
+        casi += [(f"seed {i}", caso.randbytes(12676)) for i in range(8)]
+        for nome, campo in {"nan": float("nan"), "inf": float("inf"), "big": 1e300}.items():
+            rotta = bytearray(buona)
+            struct.pack_into("<d", rotta, 12, campo)
+            struct.pack_into("<d", rotta, 24, 5e-324)
+            casi.append((nome, bytes(rotta)))
+
+        def Corpo(voce):
+            nome, byte = voce
+            dati = self.Sottocartella(f"{nome}".replace(" ", "-"))
+            (dati / "Panels").mkdir()
+            (dati / "Panels" / "T.EST").write_bytes(byte)
+            mostra = self.Orvane("scan", "show", "T", dati=dati)
+            self.assertEqual(mostra.codice, 4 if len(byte) < 12676 else 0, str(mostra))
+            with Peer(flussi=[Flusso(passi=5)]) as peer:
+                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati,
+                                    pazienza=0.5)  # fmt: skip
+            self.assertIn(esito.codice, (4,) if len(byte) < 12676 else (0, 1), str(esito))
+
+        InParallelo(self, casi, Corpo)
+
+    def test_misure_rovinate(self):
+        """Headers and traces torn anywhere: the archive lists them, the trace says what is wrong."""
+        self.Tabella("T", BREVE)
+        with Peer() as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        ksh, rs = self.FileMisura("M", "KSH"), self.FileMisura("M", "RS0")
+        header, traccia = ksh.read_bytes(), rs.read_bytes()
+        for n in (0, 1, 1200, 12676, 17769):
+            with self.subTest(lunghezza=n):
+                ksh.write_bytes(header[:n])
+                esito = self.Orvane("trace", "M")
+                self.assertEqual(esito.codice, 4, str(esito))
+                self.assertRegex(esito.err, r"Failed loading.*M\.KSH")
+                self.assertIn("header damaged", self.Riesce("archive").out)
+        ksh.write_bytes(header)
+        for n in (0, 11, 12, 25, len(traccia) - 1):
+            with self.subTest(traccia=n):
+                rs.write_bytes(traccia[:n])
+                righe = self.Riesce("trace", "M").out.splitlines()
+                self.assertEqual(len(righe) - 1, n // 12)
+                self.assertIn(f"\t{n // 12} steps", self.Riesce("archive").out)
+        rs.unlink()
+        self.assertEqual(self.Riesce("trace", "M").out, "frequency_mhz,level_db,line\n")
+        ksh.write_bytes(random.Random(1).randbytes(17770))
+        self.assertIn(self.Orvane("trace", "M").codice, (0, 2, 4))
+
+
+if __name__ == "__main__":
+    Esegui()

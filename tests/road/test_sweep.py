@@ -1,0 +1,366 @@
+"""The first sweep as a user runs it: what the receiver is told, in order, and what lies on disk
+afterwards, byte by byte."""
+
+import random
+import re
+import struct
+
+from comune import (Campo, Esegui, InParallelo, NESSUN_LIVELLO, Passi, ProvaStrada, ScanLine,
+                    ScanRecord, Testo)  # fmt: skip
+from peer import Decodifica, Flusso, Livello, LivelloPlausibile, Peer
+
+IDENTIFICA = ["#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*"]
+GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
+PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
+BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+
+
+def Linea(comando):
+    return ["#?BAT*", comando, "#?UHT*"]
+
+
+def SetupRecord(seme):
+    """An EAM file: valid values in the named fields, anything at all in the others."""
+    caso = random.Random(seme)
+    byte = bytearray(caso.randbytes(5094))
+    Campo(byte, 0, "ddhf2f4h", 0.15, 30, 1, 2.5, 1, -2, 1, 0, 1, 0)
+    Campo(byte, 642, "dfhhhhhhh", 10.7, 3, 5, 7, 9, 11, 13, 1, 17)
+    Campo(byte, 866, "f", 41.5)
+    Testo(byte, 1270, 20, "9 kHz CISPR")
+    Campo(byte, 1290, "5h4h10h", 6, 1, 10, 0, 0, 1, 0, 1, 0, 1, *[0] * 9)
+    for i in range(10):
+        Testo(byte, 1328 + 60 * i, 60, ("Limit %d" % i) if i < 3 else "NONE")
+    Campo(byte, 2534, "3h", 1, 2, 90)
+    Campo(byte, 2542, "d", -10.5)
+    Campo(byte, 2552, "dh", 12.5, 1)
+    for i in range(7):
+        Testo(byte, 2562 + 60 * i, 60, "NONE")
+    Campo(byte, 2982, "7hhh", *[0] * 7, 0, 1)
+    Campo(byte, 3610, "hhhhhhhh", -1, -1, 0, 1, 0, -1, 0, 0)  # menu marks among them
+    Testo(byte, 3664, 60, "Biconical")
+    Campo(byte, 3822, "f", 2.0)
+    byte[4924:] = bytes(170)
+    return byte
+
+
+def ConRicevitore(setup, versione, fw="2.20 12/03/18", seriale="KR-0042", modello="5520"):
+    """The same record as a run leaves it: who measured, and with what."""
+    byte = bytearray(setup)
+    Testo(byte, 4226, 30, versione)
+    Testo(byte, 4256, 30, fw)
+    Testo(byte, 4286, 10, seriale[:10])
+    Testo(byte, 4296, 10, seriale[10:])
+    Testo(byte, 4308, 12, modello)
+    return byte
+
+
+class ProvaSweep(ProvaStrada):
+    def Versione(self):
+        return re.search(r"Rel\. (\d+\.\d+\.\d\d .*)", self.Riesce("--help").out).group(1)
+
+    def test_prima_misura(self):
+        """From the empty directory to the trace: commands in order, header and trace by their bytes."""
+        self.Riesce("scan", "add", "Band B", "--band", "B", "--detector", "P,Q")
+        with Peer() as peer:
+            esito = self.Riesce("sweep", "--scan", "Band B", "--name", "First", peer=peer)
+        comando = "#SSFD 150000;30000000;5000;PQ;1.9;6;10;OFF;ON;0*"
+        self.assertEqual(peer.comandi, IDENTIFICA + PRIMA + GENERATORE + Linea(comando))
+        self.assertEqual(peer.estranei, b"")
+        self.assertEqual(esito.out, f"{self.dati}/Sweep/First\n")
+        self.assertIn("measure First\n", esito.err)
+        rs = self.FileMisura("First", "RS0").read_bytes()
+        self.assertEqual(len(rs), 5971 * 12)
+        self.assertEqual(rs, Passi(peer.campioni[0], [0, 1]))
+        ksh = self.FileMisura("First", "KSH").read_bytes()
+        self.assertEqual(len(ksh), 17770)
+        riga = ScanLine(0.15, 30, 0.005, 2, (0, 1), HoldTime=1.9, StepOriginal=0.005)
+        self.assertEqual(ksh[:12676], ScanRecord(riga))
+        # The header's second half is the running panel.
+        self.assertEqual(ksh[12676:], (self.dati / "Panels" / "Untitled.EAM").read_bytes())
+        self.assertEqual(sorted(p.name for p in (self.dati / "Sweep").iterdir()), ["First"])
+        nomi = sorted(p.name for p in (self.dati / "Sweep" / "First").iterdir())
+        self.assertEqual(nomi, ["Factors", "First.KSH", "First.RS0", "Limits", "Sub_Measure"])
+
+    def test_header_byte_per_byte(self):
+        """Panels written by another hand: every byte of them is in the header, named or not."""
+        caso = random.Random(7)
+        righe = []
+        for start, stop, rbw in ((0.15, 0.65, 2), (0.5, 1.0, 2)):
+            riga = bytearray(ScanLine(start, stop, 0.01, rbw, (0, 3), AutoStep=0, HoldTime=20,
+                                      MinAtt=3, PreAmp=1, PreSel=0, HoldTimeSD=62))  # fmt: skip
+            riga[124:326] = caso.randbytes(202)
+            riga[672:1200] = caso.randbytes(528)
+            Testo(riga, 390, 200, "Switch cables \u00b5")
+            righe.append(riga)
+        est = bytearray(ScanRecord(*righe))
+        est[12070:] = caso.randbytes(12676 - 12070)
+        Campo(est, 12000, "hi", 2, 6)
+        Testo(est, 12006, 60, "Comment")
+        setup = SetupRecord(7)
+        pannelli = self.Sottocartella("Panels")
+        (pannelli / "Two.EST").write_bytes(est)
+        (pannelli / "Untitled.EAM").write_bytes(setup)
+        with Peer("5570", regole={"?S/N": "S/N=0123456789AB", "?UHT": "UHT=25"}) as peer:
+            # Lines in the receiver's own range, and the unit in charge: only the switch lets it go.
+            self.Riesce("/NOCONTFREQ", "sweep", "--scan", "Two", "--name", "Two", peer=peer,
+                        risposta="yes")  # fmt: skip
+        for riga in range(2):
+            # The hold time that the receiver used, and the step as the table had it.
+            Campo(est, 1200 * riga + 94, "f", 25)
+            Campo(est, 1200 * riga + 664, "d", 0.01)
+        atteso = est + ConRicevitore(setup, self.Versione(), seriale="0123456789", modello="5570")
+        ksh = self.FileMisura("Two", "KSH").read_bytes()
+        diversi = [i for i, (a, b) in enumerate(zip(ksh, atteso)) if a != b]
+        self.assertEqual((len(ksh), diversi), (17770, []))
+        # The reference follows the wide range and its preamplifier; generator values are the panel's.
+        self.assertIn("#SDIS120;125*", peer.comandi)
+        for comando in ("#STGL-10.5*", "#STGTON*", "#STGF12500e3*"):
+            self.assertIn(comando, peer.comandi)
+        comandi = [c for c in peer.comandi if c.startswith("#SSFD")]
+        self.assertEqual(comandi, ["#SSFD 150000;650000;10000;PA;20;12;30;ON;OFF;0*",
+                                   "#SSFD 500000;1000000;10000;PA;20;12;30;ON;OFF;0*"])  # fmt: skip
+
+    def test_detector(self):
+        """Each set has its own width on the wire; the others hold the mark of no value."""
+        insiemi = {"P": [0], "q": [1], "P,R": [0, 2], "C,A,P": [0, 3, 5], "P,Q,R,A,N,C": range(6)}
+
+        def Corpo(insieme):
+            dati = self.Sottocartella(insieme)
+            self.Tabella("T", f"{BREVE} --detector {insieme}", dati=dati)
+            with Peer() as peer:
+                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            lettere = "".join("PQRANC"[d] for d in insiemi[insieme])
+            self.assertIn(f";{lettere};", peer.comandi[-2])
+            rs = self.FileMisura("M", "RS0", dati).read_bytes()
+            self.assertEqual(rs, Passi(peer.campioni[0], insiemi[insieme]))
+            atteso = [Decodifica(Livello(7, d)) if d in insiemi[insieme] else NESSUN_LIVELLO
+                      for d in range(6)]  # fmt: skip
+            self.assertEqual(list(struct.unpack_from("<6h", rs, 12 * 7)), atteso)
+
+        InParallelo(self, insiemi, Corpo)
+
+    def test_livelli_negativi(self):
+        """The odd decode: 0xFFFF is 0, 0x8000 is -32767, each at its place."""
+        scelti = [0, 1, 0x7FFF, 0x8000, 0x8001, 0xFFFE, 0xFFFF, 0x1234]
+        attesi = [0, 1, 32767, -32767, -32766, -1, 0, 0x1234]
+        self.Tabella("T", BREVE)
+        with Peer(flussi=[Flusso(livello=lambda k, d: scelti[k % 8])]) as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        rs = self.FileMisura("M", "RS0").read_bytes()
+        letti = [struct.unpack_from("<6h", rs, 12 * k)[0] for k in range(8)]
+        self.assertEqual(letti, attesi)
+
+    def test_comandi(self):
+        """The sweep command's fields from the options of the line."""
+        casi = {
+            "--band A": "9000;150000;50;P;0;7;10;OFF;ON;0",
+            "--band C": "30000000;300000000;100000;P;0.2;10;10;OFF;ON;0",
+            "--band 30Hz_to_1kHz": "30;1000;2.5;P;323;24;10;OFF;ON;0",
+            "--band 1kHz_to_10kHz": "1000;10000;25;P;29;23;10;OFF;ON;0",
+            "--band B --min-att 0 --preamp on --presel off --hold 1000":
+                "150000;30000000;5000;P;1000;6;0;ON;OFF;0",
+            "--start 0,15 --stop 29.9 --rbw 10kHz --hold 0.5":
+                "150000;29900000;2500;P;0.5;4;10;OFF;ON;0",
+            "--start 0.1503 --stop 0.3 --step 0.0003": "150300;300000;300;P;0;6;10;OFF;ON;0",
+        }  # fmt: skip
+
+        def Corpo(opzioni):
+            dati = self.Sottocartella("d%d" % list(casi).index(opzioni))
+            self.Tabella("T", opzioni, dati=dati)
+            modello = "5540" if "band C" in opzioni else "5520"
+            with Peer(modello, flussi=[Flusso(passi=20)]) as peer:
+                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            self.assertIn(f"#SSFD {casi[opzioni]}*", peer.comandi)
+
+        InParallelo(self, casi, Corpo)
+
+    def test_modelli(self):
+        """Without battery or generator their commands stay away; two inputs are switched per line."""
+        casi = {
+            "5520F": ("B", [], ["#SSTP*", "#?CO6*"], "6"),
+            "3360/01": ("B", [], ["#SSTP*", "#S3PRC*"], "6"),
+            "K3X low": ("C", GENERATORE, ["#?BAT*", "#SSTP*", "#S3PRR*"], "10"),
+            "5590": ("22", GENERATORE, ["#?BAT*"], "9"),
+            "GX2207F": ("B", [], ["#?BAT*"], "6"),
+        }
+
+        def Corpo(modello):
+            banda, generatore, prima, filtro = casi[modello]
+            dati = self.Sottocartella(modello.replace("/", "-"))
+            opzioni = "--start 7000 --stop 18000" if banda == "22" else "--band " + banda
+            self.Tabella("T", opzioni, dati=dati)
+            con_header = modello in ("5520F", "GX2207F")
+            flusso = Flusso(passi=50, intestazione=5000.0 if con_header else None)
+            with Peer(modello, flussi=[flusso]) as peer:
+                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            da = peer.comandi.index("#SCFA -1*")
+            # What the 3360 family lacks never reaches the line.
+            tronco = PRIMA if modello != "3360/01" else PRIMA[:1]
+            quanti = len(tronco) + len(generatore) + len(prima)
+            comandi = peer.comandi[da : da + quanti + 1]
+            self.assertEqual([c.split("S80;")[0] for c in comandi[:quanti]],
+                             [c.split("S80;")[0] for c in tronco + generatore + prima])  # fmt: skip
+            campi = comandi[quanti].split(";")
+            self.assertTrue(comandi[quanti].startswith("#SSFD "), comandi)
+            self.assertEqual(campi[5], filtro)
+            self.assertEqual(campi[8], "OFF" if modello == "5590" else "ON")
+            self.assertEqual(self.FileMisura("M", "RS0", dati).stat().st_size, 50 * 12)
+
+        InParallelo(self, casi, Corpo)
+
+    def test_due_linee(self):
+        """Two overlapping lines: a command and a file each; the trace takes the higher level."""
+        self.Tabella("T", f"{BREVE} --detector P,A", "--start 0.65 --stop 1.65 --step 0.01")
+        with Peer(flussi=[Flusso(LivelloPlausibile), Flusso(lambda k, d: 4000 + 30 * k)]) as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        inizio = peer.comandi.index("#?BAT*")
+        attesi = Linea("#SSFD 150000;1150000;10000;PA;0;6;10;OFF;ON;0*")
+        attesi += Linea("#SSFD 650000;1650000;10000;P;0;6;10;OFF;ON;0*")
+        self.assertEqual(peer.comandi[inizio:], attesi)
+        self.assertEqual(self.FileMisura("M", "RS0").read_bytes(), Passi(peer.campioni[0], [0, 3]))
+        self.assertEqual(self.FileMisura("M", "RS1").read_bytes(), Passi(peer.campioni[1], [0]))
+        attesa = {}
+        for riga, start in ((1, 15), (2, 65)):
+            livello = LivelloPlausibile if riga == 1 else lambda k, d: 4000 + 30 * k
+            for k in range(101):
+                nuovo = (livello(k, 0) / 100, riga)
+                if start + k not in attesa or attesa[start + k][0] < nuovo[0]:
+                    attesa[start + k] = nuovo
+        righe = self.Riesce("trace", "M").out.splitlines()
+        self.assertEqual(righe[0], "frequency_mhz,level_db,line")
+        letta = {}
+        for riga in righe[1:]:
+            f, livello, linea = riga.split(",")
+            letta[round(float(f) * 100)] = (float(livello), int(linea))
+        self.assertEqual(letta, attesa)
+        self.assertEqual(len(righe) - 1, 151)
+        medie = self.Riesce("trace", "M", "--detector", "A").out.splitlines()[1:]
+        self.assertEqual([float(r.split(",")[1]) for r in medie],
+                         [LivelloPlausibile(k, 3) / 100 for k in range(101)])  # fmt: skip
+        self.assertEqual(self.Riesce("trace", "M", "--detector", "Q").out, righe[0] + "\n")
+        voce = self.Riesce("archive").out.rstrip("\n").split("\t")
+        self.assertRegex(voce[1], r"^\d\d/\d\d/20\d\d \d\d:\d\d:\d\d$")
+        self.assertEqual([voce[0], *voce[2:]], ["M", "2 lines", "202 steps", "PA"])
+
+    def test_header_5520F(self):
+        """A fast model may step otherwise than it was told: the header of the measure says so."""
+        self.Tabella("T", BREVE)
+        with Peer("5520F", flussi=[Flusso(intestazione=12500.0, passi=81)]) as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        # Told to keep its step, since the line does not leave it to the receiver.
+        self.assertIn("#SSFDS 150000;1150000;10000;P;0;6;10;OFF;ON;0*", peer.comandi)
+        ksh = self.FileMisura("M", "KSH").read_bytes()
+        self.assertEqual(struct.unpack_from("<d", ksh, 24)[0], 0.0125)
+        self.assertEqual(struct.unpack_from("<d", ksh, 664)[0], 0.01)
+        self.assertEqual(self.FileMisura("M", "RS0").read_bytes(), Passi(peer.campioni[0], [0]))
+        trovate = [float(r.split(",")[0]) for r in self.Riesce("trace", "M").out.splitlines()[1:]]
+        self.assertAlmostEqual(trovate[1] - trovate[0], 0.0125, 9)
+        self.assertAlmostEqual(trovate[-1], 1.15, 9)
+        # The scan table keeps what the user wrote.
+        est = (self.dati / "Panels" / "T.EST").read_bytes()
+        self.assertEqual(struct.unpack_from("<d", est, 24)[0], 0.01)
+
+    def test_flussi_spezzati(self):
+        """However the stream is torn, the file holds the same."""
+        flussi = {
+            "mark torn after each byte": Flusso(tagli_fine=(1, 2, 3, 4, 5, 6)),
+            "mark torn in two": Flusso(tagli_fine=(4,)),
+            "odd blocks": Flusso(pezzi=7, pausa=0.001),
+            "every byte by itself": Flusso(),
+            "late bytes behind the mark": Flusso(coda=b"\x12\x34\x56\x78" * 3),
+            "letters of the mark among the samples":
+                Flusso(livello=lambda k, d: (0x4653, 0x5F44, 0x4E45, 0x4644)[k % 4]),
+            "a reply of before in front": Flusso(riscontro=b"UHT=5\r\nSFD=OK\r\n"),
+            "a part-step before the mark": Flusso(taglia=101 * 4 + 3, passi=102, fine=True),
+        }  # fmt: skip
+
+        def Corpo(nome):
+            dati = self.Sottocartella(nome.replace(" ", "-"))
+            self.Tabella("T", f"{BREVE} --detector P,Q", dati=dati)
+            with Peer(flussi=[flussi[nome]], spezza=nome == "every byte by itself") as peer:
+                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            rs = self.FileMisura("M", "RS0", dati).read_bytes()
+            self.assertEqual(len(rs), 101 * 12)
+            self.assertEqual(rs, Passi(peer.campioni[0], [0, 1]))
+
+        InParallelo(self, flussi, Corpo)
+
+    def test_tutto_a_pezzi(self):
+        """Every reply of the run comes byte by byte."""
+        self.Tabella("T", "--start 0.15 --stop 0.25 --step 0.01")
+        with Peer(spezza=True) as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        self.assertEqual(self.FileMisura("M", "RS0").read_bytes(), Passi(peer.campioni[0], [0]))
+
+    def test_nomi_occupati(self):
+        """A name that is taken, in whatever case: No refuses and keeps, Yes takes the next free one."""
+        self.Tabella("T", BREVE)
+        with Peer(flussi=[Flusso(), Flusso(LivelloPlausibile)]) as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "TEST", peer=peer)
+            prima = self.FileMisura("TEST", "RS0").read_bytes()
+            for risposta in (None, "no"):
+                esito = self.Orvane("sweep", "--scan", "T", "--name", "test", peer=peer, risposta=risposta)
+                self.assertEqual(esito.codice, 1, str(esito))
+                self.assertIn("[box] Sweep test already exists. Rename in test_000? -> No\n", esito.err)
+                self.assertIn("[box] Replace it? -> No\n", esito.err)
+                self.assertEqual(esito.out, "")
+            esito = self.Riesce("sweep", "--scan", "T", "--name", "test", peer=peer, risposta="yes")
+            self.assertEqual(esito.out, f"{self.dati}/Sweep/test_000\n")
+            esito = self.Riesce("sweep", "--scan", "T", "--name", "TEST", peer=peer, risposta="yes")
+            self.assertEqual(esito.out, f"{self.dati}/Sweep/TEST_001\n")
+        self.assertEqual(self.FileMisura("TEST", "RS0").read_bytes(), prima)
+        self.assertEqual(len(peer.campioni), 3)  # the refused runs asked for no sweep
+        nomi = [r.split("\t")[0] for r in self.Riesce("archive").out.splitlines()]
+        self.assertEqual(nomi, ["TEST", "test_000", "TEST_001"])
+
+    def test_sovrascrive(self):
+        """With the warning off the old traces give way, all of them."""
+        self.Tabella("T", BREVE, BREVE)
+        setup = SetupRecord(3)
+        Campo(setup, 3610, "h", 0)
+        (self.dati / "Panels" / "Untitled.EAM").write_bytes(setup)
+        with Peer() as peer:
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.assertTrue(self.FileMisura("M", "RS1").exists())
+            self.Riesce("scan", "clear", "T")
+            self.Tabella("T", BREVE)
+            esito = self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+        self.assertNotIn("[box]", esito.err)
+        self.assertFalse(self.FileMisura("M", "RS1").exists())
+
+    def test_rifiuti_dei_controlli(self):
+        """The checks before a run refuse with their words; no file of the measure is made."""
+        casi = {
+            "--start 40 --stop 50": ("5520", "Start/Stop Frequency Error"),
+            "--start 0.15 --stop 1 --step 0.6": ("5520", "Too big step"),
+            "--start 0.15 --stop 1 --step 0.00005": ("5520", "Too small step"),
+            "--start 0.15 --stop 0.15005 --step 0.001": ("5520", "Too small Span"),
+            "--band B --detector N": ("5520", "Rms-Avg Detector not available"),
+        }
+
+        def Corpo(opzioni):
+            modello, parole = casi[opzioni]
+            dati = self.Sottocartella("c%d" % list(casi).index(opzioni))
+            self.Tabella("T", opzioni, dati=dati)
+            with Peer(modello, regole={"?CRA": "CRA=N/A"}) as peer:
+                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+            self.assertEqual(esito.codice, 1, str(esito))
+            self.assertIn(parole, esito.err)
+            self.assertIn("line 1: ", esito.err)
+            self.assertEqual(esito.out, "")
+            self.assertFalse((dati / "Sweep" / "M").exists())
+            self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
+
+        InParallelo(self, casi, Corpo)
+
+    def test_tabella_vuota(self):
+        self.Riesce("scan", "clear", "Empty")
+        with Peer() as peer:
+            esito = self.Orvane("sweep", "--scan", "Empty", peer=peer)
+        self.assertEqual(esito.codice, 1, str(esito))
+        self.assertIn("no line in use", esito.err)
+        self.assertFalse((self.dati / "Sweep").exists())
+
+
+if __name__ == "__main__":
+    Esegui()

@@ -1,0 +1,120 @@
+"""Wrong use of the command line: status, words, and nothing written."""
+
+from comune import Esegui, ProvaStrada
+
+# words of the command line: status, what standard error must say
+CASI = [
+    ([], 2, "wants a verb"),
+    (["dance"], 2, 'unknown verb "dance"'),
+    (["--frobnicate", "x", "identify"], 2, "unknown option --frobnicate"),
+    (["--answer", "maybe", "archive"], 2, "--answer wants yes or no"),
+    (["--patience", "long", "archive"], 2, "--patience wants seconds"),
+    (["--data"], 2, "--data wants a value"),
+    (["--link", "smoke", "identify"], 2, 'unknown link "smoke"'),
+    (["--link", "com:0", "identify"], 2, "com: wants a port number"),
+    (["--link", "com:x", "identify"], 2, "com: wants a port number"),
+    (["--link", "tty:", "identify"], 2, "tty: wants a path"),
+    (["--link", "sim:toaster", "identify"], 2, "toaster"),
+    (["identify", "now"], 2, "takes no further words"),
+    (["archive", "all"], 2, "takes no further words"),
+    (["ports", "all"], 2, "takes no further words"),
+    (["scan"], 2, "list, show, add or clear?"),
+    (["scan", "paint", "X"], 2, "list, show, add or clear?"),
+    (["scan", "show"], 2, "wants the name of a scan table"),
+    (["scan", "show", "Missing"], 4, "there is no scan table Panels\\Missing.EST"),
+    (["scan", "add", "X"], 2, "wants --band, or --start below --stop"),
+    (["scan", "add", "X", "--band", "Z"], 2, 'unknown band "Z"'),
+    (["scan", "add", "X", "--band"], 2, "--band wants a value"),
+    (["scan", "add", "X", "--start", "2", "--stop", "1"], 2, "--start below --stop"),
+    (["scan", "add", "X", "--start", "abc", "--stop", "1"], 2, "--start wants a number"),
+    (["scan", "add", "X", "--start", "nan", "--stop", "1"], 2, "--start"),
+    (["scan", "add", "X", "--start", "0.15", "--stop", "inf"], 2, "--stop"),
+    (["scan", "add", "X", "--band", "B", "--rbw", "7 kHz"], 2, "unknown filter"),
+    (["scan", "add", "X", "--band", "B", "--rbw", "----------------"], 2, "unknown filter"),
+    (["scan", "add", "X", "--band", "B", "--detector", "P,Z"], 2, "unknown detector"),
+    (["scan", "add", "X", "--band", "B", "--detector", ""], 2, "unknown detector"),
+    (["scan", "add", "X", "--band", "B", "--min-att", "15"], 2, "--min-att wants"),
+    (["scan", "add", "X", "--band", "B", "--step", "0"], 2, "--step"),
+    (["scan", "add", "X", "--band", "B", "--step", "-1"], 2, "--step"),
+    (["scan", "add", "X", "--band", "B", "--preamp", "maybe"], 2, "--preamp wants on or off"),
+    (["scan", "add", "X", "--band", "B", "--colour", "red"], 2, "unknown option --colour"),
+    (["scan", "add", "a/b", "--band", "B"], 2, "is no name for a scan table"),
+    (["scan", "add", "../up", "--band", "B"], 2, "is no name for a scan table"),
+    (["scan", "add", "", "--band", "B"], 2, "is no name for a scan table"),
+    (["sweep"], 2, "wants --scan NAME"),
+    (["sweep", "--scan", "Missing"], 4, "there is no scan table"),
+    (["sweep", "--scan", "../X"], 2, "is no valid name"),
+    (["sweep", "--scan", "X", "--name", "a/b"], 2, "is no valid name"),
+    (["sweep", "--scan", "X", "--name", "../../tmp"], 2, "is no valid name"),
+    (["sweep", "--scan", "X", "--name", "a.b"], 2, "is no valid name"),
+    (["sweep", "--scan", "X", "--name", ""], 2, "is no valid name"),
+    (["trace"], 2, "wants one MEASURE"),
+    (["trace", "Missing"], 4, "there is no measure Sweep\\Missing\\Missing.KSH"),
+    (["trace", "a/b"], 2, "is no valid name"),
+    (["trace", "X", "--sub", "../X"], 2, "is no valid name"),
+    (["trace", "X", "--detector"], 2, "--detector wants a value"),
+]
+
+
+class ProvaUso(ProvaStrada):
+    def test_uso_errato(self):
+        for parole, codice, dice in CASI:
+            with self.subTest(parole=parole):
+                esito = self.Orvane(*parole)
+                self.assertEqual(esito.codice, codice, str(esito))
+                self.assertIn(dice, esito.err)
+                self.assertEqual(esito.out, "")
+        # Not one of them has left anything behind.
+        self.assertEqual(list(self.dati.iterdir()), [])
+
+    def test_aiuto(self):
+        for parola in ("--help", "-h"):
+            esito = self.Riesce(parola)
+            for verbo in ("identify", "ports", "scan", "sweep", "archive", "trace"):
+                self.assertIn(f"\n  {verbo} ", esito.out)
+
+    def test_radice_assente(self):
+        esito = self.Orvane("archive", dati=self.dati / "none")
+        self.assertEqual(esito.codice, 4)
+        self.assertIn("there is no directory", esito.err)
+
+    def test_link_simulato(self):
+        """Words of the simulated receiver stand behind a model, or without one."""
+        casi = {
+            "sim": ("5520", "SIM0000001"), "sim:K6X": ("5520/K6X", "SIM0000001"),
+            "sim,seed=7": ("5520", "SIM0000007"), "sim:,seed=7": ("5520", "SIM0000007"),
+            "sim:5520+5570,fw=1.50,seed=3": ("5570", "SIM0000003"),
+        }  # fmt: skip
+        for link, (modello, seriale) in casi.items():
+            with self.subTest(link=link):
+                righe = self.Riesce("--link", link, "identify").out.splitlines()
+                self.assertEqual(righe[0], "model: " + modello)
+                self.assertEqual(righe[2], "serial: " + seriale)
+
+    def test_undici_righe(self):
+        self.Tabella("Ten", *["--band B"] * 10)
+        esito = self.Orvane("scan", "add", "Ten", "--band", "B")
+        self.assertEqual(esito.codice, 2)
+        self.assertIn("a scan table holds ten lines at most", esito.err)
+        self.assertEqual(len(self.Riesce("scan", "show", "Ten").out.splitlines()), 10)
+
+    def test_tabelle(self):
+        """A composite band brings its rows, a table is listed, cleared and found in any case."""
+        self.Tabella("Cond", "--band a+b --detector q,p")
+        righe = self.Riesce("scan", "show", "cond").out.splitlines()
+        self.assertEqual([r.split("\t")[1:3] for r in righe], [["0.009", "0.15"], ["0.15", "30"]])
+        self.assertTrue(all("P Q" in r for r in righe), righe)
+        self.assertEqual(self.Riesce("scan", "list").out, "Cond\n")
+        self.assertEqual((self.dati / "Panels" / "Cond.EST").stat().st_size, 12676)
+        self.Riesce("scan", "clear", "Cond")
+        self.assertEqual(self.Riesce("scan", "show", "Cond").out, "")
+
+    def test_interruttori_sono_passati_oltre(self):
+        """Switches may stand anywhere among the words."""
+        self.Tabella("T", "--band B")
+        for parole in (["/LOGCOMANDI", "scan", "list"], ["scan", "/TIMELOG", "list", "/INFOMOD"]):
+            self.assertEqual(self.Riesce(*parole).out, "T\n")
+
+
+if __name__ == "__main__":
+    Esegui()
