@@ -371,8 +371,9 @@ void Svolgimento::VisualizzaBatteria() {
 bool Svolgimento::ControllaInterruzioni() {
     Fase(FaseCorsa::Arresto);
     FermaRicevitore();
-    return r_.stato.AbbandonaComandi ? Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up")
-                                     : Fallisci(EsitoCorsa::Fermata, "stopped");
+    return r_.stato.AbbandonaComandi
+               ? Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up")
+               : Fallisci(EsitoCorsa::Fermata, "stopped");
 }
 
 void Svolgimento::FermaRicevitore() {
