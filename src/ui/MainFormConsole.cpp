@@ -36,6 +36,11 @@ void MainForm::MostraTitolo(const std::string& titolo) {
 void MainForm::MostraScheda(Modalita modalita) {
     const QSignalBlocker zitte(schede_);
     schede_->setCurrentIndex(static_cast<int>(modalita));
+    if (console_->stato.modalita == modalita && console_->ricevitore.porta.Aperta())
+        return;
+    AggiornaEtichette();
+    if (modalita != Modalita::SweepsArchive && modalita != Modalita::Sweep)
+        stato_->MostraMessaggio(tr("Looking for the receiver: %1").arg(DescrizioneLink()));
 }
 
 void MainForm::DisabilitaMenu() {
