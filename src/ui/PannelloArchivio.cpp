@@ -219,7 +219,7 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
         righe << tr("%1 to %2 MHz")
                      .arg(Q(TestoDaNumero(misura.startMhz)), Q(TestoDaNumero(misura.stopMhz)));
     if (!setup.ModelText.empty())
-        righe << tr("Receiver %1  FW %2").arg(Q(setup.ModelText), Q(setup.FwRelease));
+        righe << tr("Receiver %1  FW %2").arg(Q(setup.ModelText), TestoFirmware(setup.FwRelease));
     if (!setup.SerialA.empty())
         righe << tr("S/N %1").arg(Q(setup.SerialA + setup.SerialB));
     dettagli_->setText(righe.join(QLatin1Char('\n')));
