@@ -83,6 +83,8 @@ private:
     Ricevitore& r_;
     Scrivania& s_;
     std::string misura_;
+    /// The table as the checks left it, and then as the receiver really ran it: the header's.
+    ScanRecord scan_;
     EsitoCorsa esito_ = EsitoCorsa::Compiuta;
     std::optional<Progresso> progresso_;
     std::optional<LettoreFlusso> lettore_;
@@ -117,6 +119,7 @@ bool Svolgimento::Controlli() {
                  .motivo = {}};
     const bool bene = ControlliSweep(volo);
     misura_ = volo.misura;
+    scan_ = c_.scan;
     if (bene && !Interrotta())
         return true;
     if (r_.stato.AbbandonaComandi)
@@ -138,12 +141,12 @@ bool Svolgimento::PreparaMisura() {
         return ControllaInterruzioni();
     CompilaIntestazione();
     PreparaCartellaMisura(s_, misura_);
-    CopiaFileLimSweep(s_, misura_, c_.scan.Righe);
+    CopiaFileLimSweep(s_, misura_, scan_.Righe);
     CopiaFileFacSweep(s_, misura_);
-    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup))
+    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup))
         return Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
-    progresso_.emplace(r_.ambiente, c_.scan.Righe);
-    c_.vista.IniziaTraccia(c_.scan.Righe, misura_);
+    progresso_.emplace(r_.ambiente, scan_.Righe);
+    c_.vista.IniziaTraccia(scan_.Righe, misura_);
     return true;
 }
 
@@ -184,7 +187,7 @@ void Svolgimento::CompilaIntestazione() {
 }
 
 bool Svolgimento::PercorriRighe() {
-    const size_t righe = RigheInUso(c_.scan.Righe);
+    const size_t righe = RigheInUso(scan_.Righe);
     for (size_t i = 0; i < righe; ++i) {
         if (!EseguiRiga(i))
             return false;
@@ -194,7 +197,7 @@ bool Svolgimento::PercorriRighe() {
 
 bool Svolgimento::EseguiRiga(size_t indice) {
     Fase(FaseCorsa::Riga);
-    ScanLine& riga = c_.scan.Righe[indice];
+    ScanLine& riga = scan_.Righe[indice];
     progresso_->IniziaRiga(static_cast<int>(indice));
     passoMhz_ = riga.Step;
     passiRiga_ = 0;
@@ -382,7 +385,7 @@ void Svolgimento::FermaRicevitore() {
 }
 
 bool Svolgimento::RiscriviHeader() {
-    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup))
+    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup))
         return Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
     c_.vista.MostraAvanzamento(progresso_->Adesso());
     SalvaPanelEAM(s_, kPannelloEAM);
@@ -394,7 +397,7 @@ void Svolgimento::Fallimento() {
     if (linkVivo_ && !r_.stato.AbbandonaComandi)
         VisualizzaBatteria();
     if (!c_.stato.misura.empty() && s_.albero.EsisteCartella(CartellaMisura(misura_)))
-        SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup);
+        SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup);
     traccia_.Chiudi();
 }
 
@@ -416,13 +419,10 @@ EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura) {
     }
     Svolgimento svolgimento(corsa, misura);
     if (svolgimento.Controlli()) {
-        // The table as the checks left it comes back, whatever the run writes into its header.
-        const ScanTable tabella = corsa.scan.Righe;
         const bool bene = svolgimento.PreparaMisura() && svolgimento.PercorriRighe() &&
                           svolgimento.RiscriviHeader();
         if (!bene)
             svolgimento.Fallimento();
-        corsa.scan.Righe = tabella;
     }
     svolgimento.RipristinaCondizioniExitSweep();
     return svolgimento.Esito();
