@@ -164,5 +164,9 @@ int main(int argc, char** argv) {
         std::cerr << "orvane: there is no directory " << o.dati.string() << "\n";
         return kGuastoFile;
     }
+    if (std::filesystem::directory_iterator(o.dati, errore); errore) {
+        std::cerr << "orvane: cannot read the directory " << o.dati.string() << "\n";
+        return kGuastoFile;
+    }
     return Esegui(o, *verbo, Unisci(parole, " "));
 }
