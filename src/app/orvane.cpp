@@ -108,6 +108,7 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
         return kUsoErrato;
     }
     VistaTerminale vista(ambiente, std::cerr, isatty(STDERR_FILENO) != 0, o.json);
+    ambiente.primaDelRiquadro = [&vista] { vista.FineRiga(); };
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
     bool interrotto = false;

@@ -273,11 +273,11 @@ bool Svolgimento::RiceviPassata(ScanLine& riga) {
     Scadenza termine(r_.ambiente, TempoMassimo(riga));
     Scadenza intestazione(r_.ambiente, kIntestazioneS);
     while (true) {
-        const bool pronti = r_.porta.ByteInCoda() > 0;
+        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta();
         const double attesa = AttendeIntestazione()
                                   ? std::min(termine.Rimane(), intestazione.Rimane())
                                   : termine.Rimane();
-        r_.ambiente.ElaboraEventi(pronti ? 0 : attesa, Veglia::EventiELink);
+        r_.ambiente.ElaboraEventi(subito ? 0 : attesa, Veglia::EventiELink);
         if (Interrotta())
             return ControllaInterruzioni();
         const size_t letti = r_.porta.LeggiInAccumulo(kBloccoLettura);

@@ -222,6 +222,12 @@ TEST_F(CorsaTest, EndsAsToldWhenTheReceiverMisbehaves) {
     }
 }
 
+TEST_F(CorsaTest, ALineThatIsGoneIsToldAtOnce) {
+    Capriccia({.tipo = Capriccio::Tipo::Scollegato, .numero = 102});
+    EXPECT_EQ(Esegui(), EsitoCorsa::GuastoLink);
+    EXPECT_LT(banco.ambiente.ora, 1003); // and not when the time for a reply has passed
+}
+
 TEST_F(CorsaTest, TheAbortEndsARunThatWaitsForASetter) {
     Capriccia({.tipo = Capriccio::Tipo::Rifiuto, .comando = "SDIS"});
     banco.ambiente.Fra(30, [this] { banco.stato.AbbandonaComandi = true; });
