@@ -29,12 +29,14 @@ struct Cercatore {
         }
         qui += byte;
     }
-    void I16(const int16_t& x) { Visto(&x, 2); }
-    void I32(const int32_t& x) { Visto(&x, 4); }
-    void F32(const float& x) { Visto(&x, 4); }
-    void F64(const double& x) { Visto(&x, 8); }
-    void Testo(const std::string& x, size_t n) { Visto(&x, n); }
-    template <size_t N> void Riserva(const std::array<uint8_t, N>& x) { Visto(&x, N); }
+    void I16(const int16_t& x, std::string_view) { Visto(&x, 2); }
+    void I32(const int32_t& x, std::string_view) { Visto(&x, 4); }
+    void F32(const float& x, std::string_view) { Visto(&x, 4); }
+    void F64(const double& x, std::string_view) { Visto(&x, 8); }
+    void Testo(const std::string& x, size_t n, std::string_view) { Visto(&x, n); }
+    template <size_t N> void Riserva(const std::array<uint8_t, N>& x, std::string_view = {}) {
+        Visto(&x, N);
+    }
 };
 
 struct Campo {
