@@ -120,7 +120,7 @@ bool Svolgimento::Controlli() {
     if (bene && !Interrotta())
         return true;
     if (r_.stato.AbbandonaComandi)
-        return Fallisci(EsitoCorsa::Abbandonata, "abandoned");
+        return Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up");
     if (c_.stato.StopRichiesto)
         return Fallisci(EsitoCorsa::Fermata, "stopped");
     if (!r_.porta.Aperta())
@@ -371,7 +371,7 @@ void Svolgimento::VisualizzaBatteria() {
 bool Svolgimento::ControllaInterruzioni() {
     Fase(FaseCorsa::Arresto);
     FermaRicevitore();
-    return r_.stato.AbbandonaComandi ? Fallisci(EsitoCorsa::Abbandonata, "abandoned")
+    return r_.stato.AbbandonaComandi ? Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up")
                                      : Fallisci(EsitoCorsa::Fermata, "stopped");
 }
 

@@ -81,7 +81,9 @@ void GridScanTab::Avanza() {
         const QModelIndex cella = modello_->index(riga, colonna);
         if (!cella.isValid())
             return;
-        if (cella.flags() & Qt::ItemIsEditable)
+        const bool detector = static_cast<ColonnaScan>(colonna) == ColonnaScan::Detector &&
+                              RigaCompleta(modello_->Riga(riga));
+        if (detector || cella.flags() & Qt::ItemIsEditable)
             return setCurrentIndex(cella);
     }
 }

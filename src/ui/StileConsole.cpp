@@ -162,6 +162,12 @@ void StileConsole::drawPrimitive(PrimitiveElement elemento, const QStyleOption* 
             if (cornice->lineWidth > 0)
                 return Campo(*p, *o);
         return;
+    case PE_FrameMenu:
+    case PE_Frame:
+        p->setPen(Tinta(o->palette, Ruolo::BordoCampo));
+        p->setBrush(Qt::NoBrush);
+        p->drawRect(o->rect.adjusted(0, 0, -1, -1));
+        return;
     case PE_FrameLineEdit:
     case PE_FrameFocusRect:
     case PE_FrameStatusBarItem:
@@ -292,6 +298,11 @@ QSize StileConsole::sizeFromContents(ContentsType tipo, const QStyleOption* o, c
         return {misura.width() + 12, riga + 14};
     case CT_MenuBarItem:
         return {misura.width() + 14, riga + 9};
+    case CT_ItemViewItem:
+        // Only the lists that drop down: grids and lists of measures set their own rows.
+        if (oggetto && oggetto->inherits("QComboBoxListView"))
+            esito.setHeight(qMax(esito.height(), riga + 8));
+        break;
     case CT_ProgressBar:
         esito.setHeight(10);
         break;
@@ -314,6 +325,8 @@ int StileConsole::pixelMetric(PixelMetric metrica, const QStyleOption* o,
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return 8;
+    case PM_HeaderMargin:
+        return 9;
     case PM_SplitterWidth:
         return 1;
     case PM_MenuBarPanelWidth:
