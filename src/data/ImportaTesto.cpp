@@ -117,10 +117,6 @@ std::optional<size_t> TrovaSepValueTabTXT(std::string_view riga) {
     return std::nullopt;
 }
 
-std::optional<double> NormalizzaNumero(std::string_view campo) {
-    return LeggiNumero(campo);
-}
-
 EsitoImporto ImportaTesto(ContenutoTabella& c, std::string_view testo) {
     EsitoImporto esito;
     size_t numero = 0;

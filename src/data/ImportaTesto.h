@@ -22,8 +22,6 @@ struct EsitoImporto {
 /// Place of the separator behind the first field: the first blank; without one the first tab, then
 /// ";", then ":". Empty where there is none.
 std::optional<size_t> TrovaSepValueTabTXT(std::string_view riga);
-/// The number in a field, comma or point.
-std::optional<double> NormalizzaNumero(std::string_view campo);
 
 /// Adds the points of a text file, a line each: frequency in MHz and level in the unit of the
 /// table; a frequency table may do without level, and one with positions has them behind it.

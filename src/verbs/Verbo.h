@@ -61,5 +61,8 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
+EsitoVerbo VerboLimit(Banco& banco, Parole parole);
+EsitoVerbo VerboFactor(Banco& banco, Parole parole);
+EsitoVerbo VerboTable(Banco& banco, Parole parole);
 
 } // namespace orvane
