@@ -21,7 +21,7 @@ struct Scrivania {
     std::string RigaSetup = {}; ///< last line of the setup file
     /// Panels whose damaged values were repaired while loading, a sentence each.
     std::vector<std::string> avvisi = {};
-    bool NoSaveSetup = false;   ///< a stored measure's set-up is being viewed
+    bool NoSaveSetup = false; ///< a stored measure's set-up is being viewed
 };
 
 } // namespace orvane

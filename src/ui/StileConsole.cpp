@@ -109,8 +109,7 @@ void Linguetta(QPainter& p, const QStyleOption& o) {
     const QRect r = o.rect.adjusted(1, 1, -1, -1);
     const bool scelta = o.state & QStyle::State_Selected;
     if (scelta)
-        Arrotondato(p, r, Tinta(o.palette, Acceso(o) ? Ruolo::Accento : Ruolo::BordoCampo),
-                    QColor(), 5);
+        Arrotondato(p, r, Tinta(o.palette, Ruolo::Accento), QColor(), 5);
     else if (o.state & QStyle::State_MouseOver && Acceso(o))
         Arrotondato(p, r, Tinta(o.palette, Ruolo::Sorvolo), QColor(), 5);
     if (Fuoco(o) && o.state & QStyle::State_KeyboardFocusChange)
@@ -119,7 +118,7 @@ void Linguetta(QPainter& p, const QStyleOption& o) {
 
 void TestoLinguetta(QPainter& p, const QStyleOptionTab& o) {
     const bool scelta = o.state & QStyle::State_Selected;
-    const Ruolo ruolo = !Acceso(o) ? Ruolo::Spento : scelta ? Ruolo::SuAccento : Ruolo::Tenue;
+    const Ruolo ruolo = scelta ? Ruolo::SuAccento : Acceso(o) ? Ruolo::Tenue : Ruolo::Spento;
     QFont carattere = p.font();
     carattere.setWeight(scelta ? QFont::DemiBold : QFont::Medium);
     p.save();

@@ -4,6 +4,9 @@
 #include <array>
 #include <ostream>
 
+#include "base/Percorsi.h"
+#include "base/Testo.h"
+
 namespace orvane {
 namespace {
 
@@ -47,6 +50,15 @@ const VoceVerbo* TrovaVerbo(std::string_view nome) {
     const auto voce = std::find_if(kVerbi.begin(), kVerbi.end(),
                                    [&](const VoceVerbo& v) { return v.nome == nome; });
     return voce == kVerbi.end() ? nullptr : &*voce;
+}
+
+std::optional<std::string> NomeAmmesso(std::string_view parola) {
+    const std::string nome = Rifila(parola);
+    const bool controlli =
+        std::any_of(nome.begin(), nome.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
+    if (nome.empty() || controlli || ControllaNomeMisura(nome) != nome)
+        return std::nullopt;
+    return nome;
 }
 
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche) {

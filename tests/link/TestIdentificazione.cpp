@@ -480,6 +480,14 @@ TEST(Identificazione, TheUserGivesUpAnywhere) {
     }
 }
 
+TEST(Identificazione, AnAbortInThePauseBeforeTheUnitSendsNothingMore) {
+    BancoAperto b;
+    Risponde(b, {{"#?IDN*", "IDN=5520-FW - 1.0 x"}, {"#?BCD*", "BCD=ON;5590"}});
+    b.ambiente.Fra(0.3, [&] { b.stato.AbbandonaComandi = true; });
+    EXPECT_FALSE(LeggiModello(b.r, kSweep, 1));
+    EXPECT_EQ(b.peer.scritti, Testi{"#?IDN*"});
+}
+
 TEST(CambioUnita, TheWordsOfThePrompt) {
     using enum UnitaRichiesta;
     EXPECT_EQ(TestoCambioUnita(Estesa6GHz, "5540"),

@@ -108,6 +108,17 @@ TEST(InviaImpostazione, AClosedPortRetriesAtAReceiversPace) {
     EXPECT_EQ(b.finestra.Quanti("mostra Error set BW IF"), 1u);
 }
 
+TEST(InviaImpostazione, ARefusalAtOnceDoesNotRace) {
+    BancoAperto b;
+    b.peer.alComando = [&](const std::string&) {
+        b.ambiente.ora += 1e-4;
+        b.peer.Rispondi("RBW=N/A\r\n");
+    };
+    b.ambiente.Fra(10, [&] { b.stato.AbbandonaComandi = true; });
+    InviaImpostazione(b.r, kFiltro, true);
+    EXPECT_LE(b.peer.scritti.size(), 110u);
+}
+
 TEST(InviaImpostazione, TheInputOfAnOemModelAnswersLate) {
     BancoAperto b;
     b.r.modello.ModelloOEM = 2;
@@ -151,9 +162,13 @@ TEST(Interroga, ARefusedAnswerOfTheConsoleItselfDoesNotRace) {
     BancoAperto b;
     b.r.modello.Is3360 = true;
     b.ambiente.Fra(10, [&] { b.stato.AbbandonaComandi = true; });
-    EXPECT_FALSE(
-        Interroga(b.r, "#?CKR*", "click", [](const std::string& s) { return s == "never"; }));
-    EXPECT_LT(b.ambiente.giri, 100u);
+    int letture = 0;
+    EXPECT_FALSE(Interroga(b.r, "#?CKR*", "click", [&](const std::string&) {
+        b.ambiente.ora += 1e-5; // a clock never stands still
+        ++letture;
+        return false;
+    }));
+    EXPECT_LE(letture, 110);
     EXPECT_EQ(b.peer.scritti, Testi{});
 }
 
