@@ -29,6 +29,20 @@ constexpr std::array kVerbi = {
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"
         "      KSH",
         VerboPanel},
+    VoceVerbo{"limit",
+              "list | show NAME | value NAME HZ ... | export NAME FILE | library\n"
+              "        | import NAME FILE [--unit U] [--title T] [--lin]\n"
+              "        | store NAME --slot N [--name TEXT]",
+              "limit tables; `value` in hundredths of a dB, `library` copies the starter limits",
+              VerboLimit},
+    VoceVerbo{
+        "factor",
+        "list | show NAME | value NAME HZ ... | export NAME FILE\n"
+        "        | import NAME FILE [--unit U] [--title T] | store NAME --slot N [--name TEXT]",
+        "factor tables", VerboFactor},
+    VoceVerbo{"table",
+              "list | show NAME | export NAME FILE | import NAME FILE [--unit U]   [--mast]",
+              "frequency tables, with --mast those with positions", VerboTable},
 };
 
 } // namespace

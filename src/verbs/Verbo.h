@@ -66,5 +66,8 @@ EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
+EsitoVerbo VerboLimit(Banco& banco, Parole parole);
+EsitoVerbo VerboFactor(Banco& banco, Parole parole);
+EsitoVerbo VerboTable(Banco& banco, Parole parole);
 
 } // namespace orvane
