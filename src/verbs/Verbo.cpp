@@ -40,9 +40,10 @@ constexpr std::array kVerbi = {
         "list | show NAME | value NAME HZ ... | export NAME FILE\n"
         "        | import NAME FILE [--unit U] [--title T] | store NAME --slot N [--name TEXT]",
         "factor tables", VerboFactor},
-    VoceVerbo{"table",
-              "list | show NAME | export NAME FILE | import NAME FILE [--unit U]   [--mast]",
-              "frequency tables, with --mast those with positions", VerboTable},
+    VoceVerbo{
+        "table",
+        "list | show NAME | export NAME FILE | import NAME FILE [--unit U]; all with [--mast]",
+        "frequency tables, with --mast those with positions", VerboTable},
 };
 
 } // namespace

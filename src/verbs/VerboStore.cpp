@@ -21,20 +21,27 @@ struct VistaMuta : VistaCaricamento {
     void NascondiAvanzamento() override {}
 };
 
+EsitoVerbo LinkAssente(Banco& banco, const char* altrimenti) {
+    const std::string& motivo = banco.ricevitore.porta.link.motivo;
+    return Guasto(banco, EsitoDelLink(banco),
+                  banco.interrotto ? "stopped"
+                  : motivo.empty() ? altrimenti
+                                   : motivo);
+}
+
 EsitoVerbo DaCaricamento(Banco& banco, EsitoCaricamento esito) {
     switch (esito) {
     case EsitoCaricamento::Memorizzato:
         return kFatto;
     case EsitoCaricamento::Rifiutato:
         return kRifiutato;
-    case EsitoCaricamento::Abbandonato:
-        return kFermato;
     case EsitoCaricamento::NonAperto:
-        return Guasto(banco, kGuastoLink, "the link cannot be opened");
+        return LinkAssente(banco, "the link cannot be opened");
+    case EsitoCaricamento::Abbandonato:
     case EsitoCaricamento::NonRisponde:
         break;
     }
-    return kGuastoLink;
+    return EsitoDelLink(banco);
 }
 
 /// Who the receiver is decides which commands it knows.
@@ -61,8 +68,7 @@ EsitoVerbo MemorizzaNelRicevitore(Banco& banco, TableKind kind, const std::strin
     Ricevitore& r = banco.ricevitore;
     AvviaInLettura(banco.scrivania, r.porta.link, banco.linkScelto);
     if (!Identifica(r))
-        return Guasto(banco, kGuastoLink,
-                      r.porta.link.motivo.empty() ? "no receiver answered" : r.porta.link.motivo);
+        return LinkAssente(banco, "no receiver answered");
     VistaMuta vista;
     LimFacRecord slot;
     const std::string nomeRicevitore = argomenti.Opzione("name").value_or(nome);

@@ -20,8 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
         IncollaColonne(c, testo, 0, ColonnaTabella::Frequenza);
     else
         ImportaTesto(c, testo);
-    if (c.righe.size() > CapienzaTabella(c.kind) ||
-        ControllaRigaCompFreqTab(c) != c.righe.size())
+    if (c.righe.size() > CapienzaTabella(c.kind) || ControllaRigaCompFreqTab(c) != c.righe.size())
         std::abort();
     // What is written as text is read back as it was, a title's line apart.
     ContenutoTabella ritorno{.kind = c.kind, .unitId = c.unitId};
