@@ -3,7 +3,6 @@
 
 #include "aiuto/BancoLink.h"
 #include "link/Comandi.h"
-#include "link/Interrogazioni.h"
 #include "link/Protocollo.h"
 
 namespace orvane {
@@ -17,28 +16,6 @@ void Scambia(BancoSeriale& b) {
     b.porta.ApriPorta(true);
     b.peer.RispondiDa({{"#SRBW3*", "RBW=OK\r\n"}});
     ImpostaBWIF(b.r, 3);
-}
-
-TEST(LogTraffico, EachSwitchHasItsFile) {
-    struct Caso {
-        const char* riga;
-        const char* comandi; ///< file with the command
-        const char* risposte;
-    };
-    for (const Caso& caso :
-         {Caso{"/LOGCOMANDI", "LOGCOMANDI.TXT", ""}, Caso{"/LOGRISPOSTE", "", "LOGRISP.TXT"},
-          Caso{"/LOGCOMRISP", "LOGCR.TXT", "LOGCR.TXT"},
-          Caso{"/LOGCOMRISP/LOGRISPOSTE", "LOGCR.TXT", "LOGRISP.TXT"},
-          Caso{"/LOGCOMANDI /LOGCOMRISP", "LOGCOMANDI.TXT", "LOGCR.TXT"},
-          Caso{"/logcomandi /LOGRISP", "", ""}}) {
-        BancoSeriale b(caso.riga);
-        Scambia(b);
-        for (const std::string file : {"LOGCOMANDI.TXT", "LOGRISP.TXT", "LOGCR.TXT"}) {
-            const std::string atteso = std::string(file == caso.comandi ? "#SRBW3*\r\n" : "") +
-                                       (file == caso.risposte ? "\t\tRBW=OK\r\n" : "");
-            EXPECT_EQ(b.File(file), atteso) << caso.riga << " " << file;
-        }
-    }
 }
 
 TEST(LogTraffico, TheFilesOfAnEarlierRunGoAtTheFirstWrite) {
@@ -86,19 +63,6 @@ TEST(LogTraffico, EachReplyOnceWithItsVerdict) {
     EXPECT_EQ(b.File("LOGRISP.TXT"), "\t\tRBW=ERR***\r\n\t\tRBW=***\r\n\t\t***\r\n\t\tRBW =OK\r\n");
 }
 
-TEST(LogTraffico, ARepeatedQueryLeavesEachTryInTheLog) {
-    BancoAperto b("/LOGCOMRISP");
-    int volte = 0;
-    b.peer.alComando = [&](const std::string&) {
-        b.peer.Rispondi(++volte == 6 ? "MAT=1;20\r\n" : "MAT=?\r\n");
-    };
-    EXPECT_EQ(LeggiAttenuatore(b.r), 20);
-    std::string atteso;
-    for (int i = 0; i < 5; ++i)
-        atteso += "#?MAT*\r\n\t\tMAT=?***\r\n";
-    EXPECT_EQ(b.File("LOGCR.TXT"), atteso + "#?MAT*\r\n\t\tMAT=1;20\r\n");
-}
-
 TEST(LogTraffico, AReplyThatNobodyJudgedStandsBeforeTheNextCommand) {
     BancoAperto b("/LOGCOMRISP");
     b.peer.RispondiDa({{"#?DET*", "DET=1;\r\n"}});
@@ -112,20 +76,6 @@ TEST(LogTraffico, TextGoesOutInTheCodePage) {
     BancoAperto b("/LOGCOMANDI");
     InviaGrezzo(b.r, "#SLIC 1,\u00B5V*");
     EXPECT_EQ(b.File("LOGCOMANDI.TXT"), "#SLIC 1,\xB5V*\r\n");
-}
-
-TEST(LogTraffico, SweepBytesAsTheyCame) {
-    BancoSeriale b("/LOGSWEEP");
-    const std::vector<uint8_t> blocco = {0, 13, 10, 255};
-    b.log.InizioSweep("#SSFD 1*");
-    b.log.BloccoSweep(blocco);
-    b.log.InizioSweep("#SSFD 2*");
-    EXPECT_EQ(b.File("LOGSWEEP.BIN"),
-              std::string("#SSFD 1*\r\n\r\n") + std::string("\0\r\n\xFF", 4) + "#SSFD 2*\r\n\r\n");
-    BancoSeriale senza("/LOGCOMRISP");
-    senza.log.InizioSweep("#SSFD 1*");
-    senza.log.BloccoSweep(blocco);
-    EXPECT_EQ(senza.File("LOGSWEEP.BIN"), "");
 }
 
 TEST(LogTraffico, ALogThatCannotBeWrittenDisturbsNothing) {

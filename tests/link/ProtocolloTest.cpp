@@ -20,13 +20,6 @@ std::string InTesto(const std::vector<uint8_t>& byte) {
     return {byte.begin(), byte.end()};
 }
 
-TEST(InviaComando, TheReplyKeepsItsCrButNotItsLf) {
-    BancoAperto b;
-    b.peer.RispondiDa({{"#?IDN*", "IDN=x\r\n"}});
-    EXPECT_EQ(Invia(b.r), "IDN=x\r");
-    EXPECT_FALSE(b.stato.inVolo);
-}
-
 TEST(InviaComando, AReplyWakesTheWait) {
     BancoAperto b;
     b.peer.alComando = [&](const std::string&) { b.peer.Rispondi("A\r\n", 0.123); };
@@ -97,14 +90,6 @@ TEST(InviaComando, ATransmitBacklogHasItsBoxAndTheCommandStillGoesOut) {
     EXPECT_EQ(b.ambiente.riquadri[0].icona, Icona::Esclamazione);
 }
 
-TEST(InviaComando, AClosedSerialPortIsAnErrorThatTakesItsTime) {
-    BancoSeriale b;
-    const double inizio = b.ambiente.ora;
-    EXPECT_EQ(Invia(b.r), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.7, 1e-9);
-    EXPECT_EQ(b.peer.scritti, Testi{});
-}
-
 TEST(InviaComando, BytesThatCannotBeReadDoNotSpin) {
     BancoUsb b;
     b.porta.ApriPorta(true);
@@ -112,15 +97,6 @@ TEST(InviaComando, BytesThatCannotBeReadDoNotSpin) {
     b.usb.statoLeggi = 1;
     EXPECT_EQ(Invia(b.r), "Error");
     EXPECT_LT(b.ambiente.giri, 500u);
-}
-
-TEST(InviaComando, EventsAreServedOnceAtLeast) {
-    BancoAperto b;
-    b.peer.RispondiDa({{"#?IDN*", "IDN=x\r\n"}});
-    bool servito = false;
-    b.ambiente.Fra(0, [&] { servito = true; });
-    Invia(b.r, "#?IDN*", false);
-    EXPECT_TRUE(servito);
 }
 
 TEST(GuardiaVolo, NothingGoesOutWhileACommandIsInFlight) {

@@ -85,14 +85,6 @@ TEST(InviaImpostazione, TheUserGivesUpWhileItRetries) {
     }
 }
 
-TEST(InviaImpostazione, AnAbortDuringThePauseSendsNothingMore) {
-    BancoAperto b;
-    b.r.modello.Is5520F = true;
-    b.ambiente.Fra(1.0, [&] { b.stato.AbbandonaComandi = true; });
-    InviaImpostazione(b.r, kFiltro, true);
-    EXPECT_EQ(b.peer.scritti.size(), 1u);
-}
-
 TEST(InviaImpostazione, BehindAnAbortACommandStillGoesOutOnce) {
     BancoAperto b;
     b.stato.AbbandonaComandi = true;
@@ -148,14 +140,6 @@ TEST(Interroga, AWrongReplyIsNoReply) {
     };
     EXPECT_EQ(LeggiUserPort(b.r), 12);
     EXPECT_EQ(b.finestra.fatti, Testi{});
-}
-
-TEST(Interroga, TheUserGivesUp) {
-    BancoAperto b;
-    b.ambiente.Fra(5, [&] { b.stato.AbbandonaComandi = true; });
-    EXPECT_EQ(LeggiUserPort(b.r), std::nullopt);
-    EXPECT_EQ(LeggiHoldTime(b.r), "");
-    EXPECT_EQ(b.stato.striscia, "");
 }
 
 TEST(Interroga, ARefusedAnswerOfTheConsoleItselfDoesNotRace) {

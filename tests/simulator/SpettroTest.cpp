@@ -98,10 +98,5 @@ TEST(Spettro, TheFloorFollowsFilterAttenuatorAndPreamplifier) {
     EXPECT_NEAR(fondo({.rbwHz = 1e6, .attDb = 10, .preAmp = true}), fondo(base) - 800, 40);
 }
 
-TEST(Spettro, AnUnknownDetectorHasNoLevel) {
-    EXPECT_EQ(LivelloSimulato(1, 6, {}), kNessunLivello);
-    EXPECT_EQ(LivelloSimulato(1, -1, {}), kNessunLivello);
-}
-
 } // namespace
 } // namespace orvane::prova

@@ -5,38 +5,35 @@ namespace orvane::prova {
 namespace {
 
 TEST(Vocabolario, EveryModelHasItsOwnIdentification) {
-    const struct {
+    struct Caso {
         const char* modello;
         const char* idn;
         const char* bcd;
-    } casi[] = {
-        {"5520", "IDN=5520-FW - 2.15 12/03/19", "BCD=OFF"},
-        {"5520f", "IDN=5520F-FW - 2.15 12/03/19", "BCD=OFF"},
-        {"VSD3", "IDN=VSD3 2.15 12/03/19", "BCD=OFF"},
-        {"t4470k", "IDN=T4470K 2.15 12/03/19", "BCD=OFF"},
-        {"K3X", "IDN=5520/K3X - 2.15 12/03/19", "BCD=OFF;K3X"},
-        {"K0X", "IDN=5520/K0X - 2.15 12/03/19", "BCD=OFF;K3X"},
-        {"K6X", "IDN=5520/K6X - 2.15 12/03/19", "BCD=OFF;K6X"},
-        {"60oem", "IDN=60 OEM - 2.15 12/03/19", "BCD=OFF;OEM"},
-        {"3360", "IDN=3360-FW - 2.15 12/03/19", "BCD=N/A"},
-        {"3360/00", "IDN=3360/00-FW - 2.15 12/03/19", "BCD=N/A"},
-        {"3360/01", "IDN=3360/01-FW - 2.15 12/03/19", "BCD=N/A"},
-        {"3360/02", "IDN=3360/02-FW - 2.15 12/03/19", "BCD=N/A"},
-        {"3360/03", "IDN=3360/03-FW - 2.15 12/03/19", "BCD=N/A"},
-        {"GX2207", "IDN=GX2207-FW - 2.15 12/03/19", "BCD=OFF"},
-        {"TB05", "IDN=TB05-FW - 2.15 12/03/19", "BCD=OFF"},
-        {"GX2207F", "IDN=GX2207F-FW - 2.15 12/03/19", "BCD=OFF"},
-        {"5520+5540", "IDN=5520-FW - 2.15 12/03/19", "BCD=ON;5540"},
-        {"5520+5570", "IDN=5520-FW - 2.15 12/03/19", "BCD=ON;5570"},
-        {"5520+5590", "IDN=5520-FW - 2.15 12/03/19", "BCD=ON;5590"},
-        {"5520+gx2207", "IDN=5520-FW - 2.15 12/03/19", "BCD=ON;GX2207"},
     };
+    const Caso casi[] = {{"5520", "5520-FW -", "OFF"},
+                         {"5520f", "5520F-FW -", "OFF"},
+                         {"VSD3", "VSD3", "OFF"},
+                         {"t4470k", "T4470K", "OFF"},
+                         {"K3X", "5520/K3X -", "OFF;K3X"},
+                         {"K0X", "5520/K0X -", "OFF;K3X"},
+                         {"K6X", "5520/K6X -", "OFF;K6X"},
+                         {"60oem", "60 OEM -", "OFF;OEM"},
+                         {"3360", "3360-FW -", "N/A"},
+                         {"3360/00", "3360/00-FW -", "N/A"},
+                         {"3360/01", "3360/01-FW -", "N/A"},
+                         {"3360/02", "3360/02-FW -", "N/A"},
+                         {"3360/03", "3360/03-FW -", "N/A"},
+                         {"GX2207", "GX2207-FW -", "OFF"},
+                         {"TB05", "TB05-FW -", "OFF"},
+                         {"GX2207F", "GX2207F-FW -", "OFF"},
+                         {"5520+5540", "5520-FW -", "ON;5540"},
+                         {"5520+5570", "5520-FW -", "ON;5570"},
+                         {"5520+5590", "5520-FW -", "ON;5590"},
+                         {"5520+gx2207", "5520-FW -", "ON;GX2207"}};
     EXPECT_EQ(std::size(casi), ModelliSimulati().size());
-    for (const auto& caso : casi) {
-        Banco banco(caso.modello);
-        EXPECT_EQ(banco.Chiedi("#?IDN*"), std::string(caso.idn) + "\r\n");
-        EXPECT_EQ(banco.Chiedi("#?BCD*"), std::string(caso.bcd) + "\r\n") << caso.modello;
-    }
+    for (const auto& [modello, idn, bcd] : casi)
+        EXPECT_EQ(Banco(modello).Chiedi("#?IDN*#?BCD*"),
+                  "IDN=" + std::string(idn) + " 2.15 12/03/19\r\nBCD=" + bcd + "\r\n");
 }
 
 TEST(Vocabolario, TheFirmwareIsWhatWasAskedFor) {
@@ -56,67 +53,38 @@ TEST(Vocabolario, TheFirmwareIsWhatWasAskedFor) {
     }
 }
 
-TEST(Vocabolario, EachSetterHasItsReply) {
-    const struct {
-        const char* comando;
-        const char* risposta;
-    } casi[] = {
-        {"#SRBW3*", "RBW=OK"},
-        {"#SRBW13*", "RBW=ERR"},
-        {"#SAPSON*", "APS=OK"},
-        {"#SMPSOFF*", "MPS=OK"},
-        {"#SAPSYES*", "APS=ERR"},
-        {"#SAPAON*", "APA=OK"},
-        {"#SMPAOFF*", "MPA=OK"},
-        {"#SPLMON*", "PLM =OK"},
-        {"#SAAT-1*", "AAT=OK"},
-        {"#SMAT20*", "MAT=OK"},
-        {"#SMAT-2*", "MAT=ERR"},
-        {"#STAT50*", "TAT=OK"},
-        {"#STAT51*", "TAT=ERR"},
-        {"#SDIS120;145*", "DIS=OK"},
-        {"#SDIS120;146*", "DIS=ERR"},
-        {"#SDIS140;100*", "DIS=ERR"},
-        {"#SDMV7*", "DMV=OK"},
-        {"#SDMDON*", "DMD=OK"},
-        {"#SDMDFM*", "DMD=OK"},
-        {"#SDMDSSB*", "DMD=ERR"},
-        {"#STGSON*", "TGS =OK"},
-        {"#STGTOFF*", "TGT =OK"},
-        {"#STGL-12.5*", "TGL=OK"},
-        {"#STGF10700e3*", "TGF=OK"},
-        {"#SAHT1.5*", "AHT=OK"},
-        {"#SMHT-1*", "MHT=ERR"},
-        {"#SADT5*", "ADT=OK"},
-        {"#SADT6*", "ADT=ERR"},
-        {"#SAFF150e3,30000e3*", "AFF=OK"},
-        {"#SAFF30000e3,150e3*", "AFF=ERR"},
-        {"#SAFF150e3*", "AFF=ERR"},
-        {"#SMAF10700e3*", "MAF=OK"},
-        {"#SUPP4*", "UPP=OK"},
-        {"#SLSN2*", "LSN=OK"},
-        {"#SCFA -1*", "CFA=OK"},
-        {"#SLIM-6*", "LIM=OK"},
-        {"#SLIC 3,A*", "SLIC =OK"},
-        {"#SCFE 3,A*", "CFE=OK"},
-        {"#SLIE A*", "LIE=OK"},
-        {"#SLIW0,150e3;66*", "LIW=OK"},
-        {"#SLDW0,150e3;66,56*", "LDW=OK"},
-        {"#SCFW0,150e3;1*", "CFW=OK"},
-        {"#SSFW 0,150000*", "SFW=OK"},
-        {"#SSTP*", "STP=OK"},
-        {"#ASBK*", "SBK=OK"},
-        {"#SXYZ1*", "XYZ=N/A"},
-        {"#?XYZ*", "XYZ=N/A"},
-        {"#S3PRC*", "3PR=N/A"},
-        {"#SCO6C*", "CO6=N/A"},
-        {"#SIHPON*", "IHP=N/A"},
-        {"#SOFF*", "OFF=N/A"},
-        {"#CHGS*", "CHGS=N/A"},
-    };
-    for (const auto& caso : casi)
-        EXPECT_EQ(Banco().Chiedi(caso.comando), std::string(caso.risposta) + "\r\n")
-            << caso.comando;
+TEST(Vocabolario, SettersTakeTheirValuesAndRefuseOthers) {
+    const std::pair<const char*, const char*> casi[] = {{"#SRBW13*", "RBW=ERR"},
+                                                        {"#SAPSYES*", "APS=ERR"},
+                                                        {"#SPLMON*", "PLM =OK"},
+                                                        {"#SAAT-1*", "AAT=OK"},
+                                                        {"#SMAT-2*", "MAT=ERR"},
+                                                        {"#STAT50*", "TAT=OK"},
+                                                        {"#STAT51*", "TAT=ERR"},
+                                                        {"#SDIS120;145*", "DIS=OK"},
+                                                        {"#SDIS120;146*", "DIS=ERR"},
+                                                        {"#SDIS140;100*", "DIS=ERR"},
+                                                        {"#SDMDFM*", "DMD=OK"},
+                                                        {"#SDMDSSB*", "DMD=ERR"},
+                                                        {"#STGSON*", "TGS =OK"},
+                                                        {"#STGL-12.5*", "TGL=OK"},
+                                                        {"#SMHT-1*", "MHT=ERR"},
+                                                        {"#SADT6*", "ADT=ERR"},
+                                                        {"#SAFF150e3,30000e3*", "AFF=OK"},
+                                                        {"#SAFF30000e3,150e3*", "AFF=ERR"},
+                                                        {"#SAFF150e3*", "AFF=ERR"},
+                                                        {"#SCFA -1*", "CFA=OK"},
+                                                        {"#SLIC 3,A*", "SLIC =OK"},
+                                                        {"#SCFW0,150e3;1*", "CFW=OK"},
+                                                        {"#SSFW 0,150000*", "SFW=OK"},
+                                                        {"#SXYZ1*", "XYZ=N/A"},
+                                                        {"#?XYZ*", "XYZ=N/A"},
+                                                        {"#S3PRC*", "3PR=N/A"},
+                                                        {"#SIHPON*", "IHP=N/A"},
+                                                        {"#SOFF*", "OFF=N/A"},
+                                                        {"#CHGS*", "CHGS=N/A"}};
+    for (const auto& [comando, risposta] : casi)
+        EXPECT_EQ(Banco().Chiedi(comando), std::string(risposta) + "\r\n") << comando;
 }
 
 TEST(Vocabolario, FrontEndCommandsBelongToTheFrontEnd) {
