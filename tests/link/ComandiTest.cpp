@@ -120,23 +120,7 @@ TEST(Comandi, TheInputOfAnOemModelIsSwitchedOnlyWhereItDiffers) {
     ImpostaRadiato(b.r);
     EXPECT_EQ(b.peer.scritti, Testi{"#?CO6*"});
     ImpostaCondotto(b.r);
-    EXPECT_EQ(b.peer.scritti, ((Testi{"#?CO6*", "#?CO6*", "#SCO6C*"})));
-}
-
-TEST(Comandi, RowsOfAnUploadAreSentWithoutADrain) {
-    for (const bool riga : {true, false}) {
-        BancoAperto b;
-        b.peer.Rispondi("LIW=OK LIE=OK\r\n");
-        b.ambiente.Fra(10, [&] { b.stato.AbbandonaComandi = true; });
-        if (riga)
-            ImpostaRigaLimite(b.r, "0,1e3;1");
-        else {
-            b.peer.RispondiDa({{"#SLIEx*", "LIE=OK\r\n"}});
-            ImpostaFineLimite(b.r, "x");
-        }
-        EXPECT_EQ(b.peer.scritti.size(), 1u);
-        EXPECT_EQ(b.porta.ByteInCoda(), 0u);
-    }
+    EXPECT_EQ(b.peer.scritti, (Testi{"#?CO6*", "#?CO6*", "#SCO6C*"}));
 }
 
 } // namespace

@@ -114,27 +114,21 @@ TEST(LeggiSerialNumber, TenCharactersAfterAWaitAndADrain) {
     BancoAperto b;
     b.peer.Rispondi("S/N=OLD\r\n", 0.05);
     b.peer.RispondiDa({{"#?S/N*", "S/N= 0123456789AB \r\n"}});
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(LeggiSerialNumber(b.r), "0123456789");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.1, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.1, 1e-9);
     EXPECT_EQ(b.r.modello.SerialNumber, "0123456789");
-}
-
-TEST(LeggiSerialNumber, WithoutItsPrefixItIsEmptyAtOnce) {
-    BancoAperto b;
-    b.r.modello.SerialNumber = "former";
     b.peer.RispondiDa({{"#?S/N*", "S/N N/A\r\n"}});
-    EXPECT_EQ(LeggiSerialNumber(b.r), "");
+    EXPECT_EQ(LeggiSerialNumber(b.r), "") << "without its prefix, at once";
     EXPECT_EQ(b.r.modello.SerialNumber, "");
-    EXPECT_EQ(b.peer.scritti.size(), 1u);
+    EXPECT_EQ(b.peer.scritti.size(), 2u);
 }
 
 TEST(LeggiBatteria, ModelsWithoutOneAreNotAsked) {
-    for (const auto& segna :
-         {+[](ReceiverModel& m) { m.Is3360 = true; }, +[](ReceiverModel& m) { m.Is60OEM = true; },
-          +[](ReceiverModel& m) { m.ModelloOEM = 1; }}) {
+    for (const ReceiverModel& modello :
+         {ReceiverModel{.ModelloOEM = 1}, ReceiverModel{.Is3360 = true},
+          ReceiverModel{.Is60OEM = true}}) {
         BancoAperto b;
-        segna(b.r.modello);
+        b.r.modello = modello;
         EXPECT_FALSE(LeggiBatteria(b.r));
         EXPECT_EQ(b.peer.scritti, Testi{});
     }

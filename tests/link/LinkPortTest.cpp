@@ -16,19 +16,6 @@ std::string Letto(Porta& porta, size_t n) {
     return {byte.begin(), byte.end()};
 }
 
-TEST(PortaCom, OpensTheDeviceOfItsNumber) {
-    BancoSeriale b;
-    EXPECT_FALSE(b.porta.Aperta());
-    EXPECT_TRUE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.Aperta());
-    EXPECT_TRUE(b.porta.Seriale());
-    EXPECT_EQ(b.peer.aperture, Testi{"/dev/seven"});
-    EXPECT_FALSE(b.porta.link.IsBluetooth);
-    EXPECT_EQ(b.porta.Descrizione(), " (COM7)");
-    EXPECT_TRUE(b.porta.ChiudiPorta());
-    EXPECT_FALSE(b.porta.Aperta());
-}
-
 TEST(PortaCom, AFailureSaysWhyWithoutABox) {
     struct Caso {
         EsitoApertura esito;
@@ -49,6 +36,7 @@ TEST(PortaCom, AFailureSaysWhyWithoutABox) {
         EXPECT_FALSE(b.porta.ScriviPorta("#?IDN*"));
         b.porta.ChiudiPorta();
         EXPECT_FALSE(b.porta.link.PortaNonDisponibile);
+        EXPECT_EQ(b.porta.Descrizione(), " (COM7)");
     }
     BancoSeriale b;
     b.porta.link.NumeroCom = 4;
@@ -155,26 +143,6 @@ TEST(PortaBluetooth, ADeviceThatCameBackIsFoundByALaterTry) {
     b.peer.guasto = true;
     b.porta.Arretrato();
     EXPECT_TRUE(b.porta.Aperta());
-}
-
-TEST(PortaFissa, BehavesLikeAPlainPortAndLooksAtNoSettings) {
-    BancoUsb b;
-    b.porta.fisso = LinkFisso{&b.peer, "/tmp/pty", "pty /tmp/pty"};
-    EXPECT_TRUE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.Seriale());
-    EXPECT_EQ(b.peer.aperture, Testi{"/tmp/pty"});
-    EXPECT_EQ(b.usb.chiamate, Testi{});
-    EXPECT_EQ(b.porta.Descrizione(), " (pty /tmp/pty)");
-    EXPECT_TRUE(b.porta.ScriviPorta("#?IDN*"));
-    EXPECT_EQ(b.peer.scritti, Testi{"#?IDN*"});
-    b.peer.guasto = true;
-    EXPECT_EQ(b.porta.ByteInCoda(), 0u);
-    EXPECT_FALSE(b.porta.Aperta());
-    b.peer.esitoApertura = EsitoApertura::Assente;
-    EXPECT_FALSE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.link.PortaNonDisponibile);
-    EXPECT_EQ(b.porta.link.motivo, "pty /tmp/pty not Available: no such device");
-    EXPECT_EQ(b.Riquadri(), Testi{});
 }
 
 TEST(Porta, ALinkChangedWhileOpenIsClosedFirst) {

@@ -18,18 +18,6 @@ void Scambia(BancoSeriale& b) {
     ImpostaBWIF(b.r, 3);
 }
 
-TEST(LogTraffico, TheFilesOfAnEarlierRunGoAtTheFirstWrite) {
-    BancoSeriale b("/LOGCOMRISP");
-    std::ofstream(b.cartella.Percorso() / "LOGCR.TXT") << "old";
-    std::ofstream(b.cartella.Percorso() / "LOGRISP.TXT") << "other";
-    b.porta.ApriPorta(true);
-    EXPECT_EQ(b.File("LOGCR.TXT"), "old");
-    Scambia(b);
-    Scambia(b);
-    EXPECT_EQ(b.File("LOGCR.TXT"), "#SRBW3*\r\n\t\tRBW=OK\r\n#SRBW3*\r\n\t\tRBW=OK\r\n");
-    EXPECT_EQ(b.File("LOGRISP.TXT"), "other");
-}
-
 TEST(LogTraffico, TimesSeparatorAndLabel) {
     BancoSeriale b("/LOGCOMRISP /TIMELOG");
     b.ambiente.calendario.secondiDelGiorno = 43200.126;
@@ -50,15 +38,7 @@ TEST(LogTraffico, TheSeparatorWaitsForALine) {
 
 TEST(LogTraffico, EachReplyOnceWithItsVerdict) {
     BancoAperto b("/LOGRISPOSTE");
-    int volte = 0;
-    b.peer.alComando = [&](const std::string&) {
-        if (++volte == 1)
-            b.peer.Rispondi("RBW=ERR\r\n");
-        else if (volte == 2)
-            b.peer.Rispondi("RBW=");
-        else if (volte == 4)
-            b.peer.Rispondi(" RBW\r=OK \r\n");
-    };
+    b.peer.RispondiInFila({"RBW=ERR\r\n", "RBW=", "", " RBW\r=OK \r\n"});
     ImpostaBWIF(b.r, 3);
     EXPECT_EQ(b.File("LOGRISP.TXT"), "\t\tRBW=ERR***\r\n\t\tRBW=***\r\n\t\t***\r\n\t\tRBW =OK\r\n");
 }

@@ -22,22 +22,13 @@ TEST(TabellaRbwTest, TheFilterThatGoesWithTheMiddleOfASpan) {
         EXPECT_EQ(DetRBWDefault(caso.start, caso.stop), caso.id) << caso.start << " " << caso.stop;
 }
 
-TEST(TabellaRbwTest, OnlyTheTwoSeparatorsHaveNoCode) {
-    for (int id = 0; id < kNumRbw; ++id) {
-        const VoceRbw& voce = TabellaRbw()[static_cast<size_t>(id)];
-        EXPECT_EQ(voce.Separatore(), id == 4 || id == 11) << id;
-        EXPECT_EQ(voce.passoAuto > 0, !voce.Separatore()) << id;
-    }
-    ScanLine riga{.Start = 30, .Stop = 1000};
-    EXPECT_EQ(DetStepAutoDaRBW(15, riga), 2.5e-06);
-    EXPECT_EQ(DetStepAutoDaRBW(16, riga), 0);
-    EXPECT_EQ(DetStepAutoDaRBW(-1, riga), 0);
-}
-
 TEST(ScanFFTTest, TheConditionsOneByOne) {
     const ScanLine buona{.Start = 0.009, .Stop = 0.15, .Detector = {1}};
     EXPECT_TRUE(ControllaScanFFT(buona));
     EXPECT_EQ(DetStepAutoDaRBW(3, buona), 0.00005);
+    EXPECT_EQ(DetStepAutoDaRBW(15, buona), 2.5e-06);
+    for (const int niente : {-1, 4, 11, 16})
+        EXPECT_EQ(DetStepAutoDaRBW(niente, buona), 0) << niente;
     struct {
         const char* perche;
         ScanLine riga;

@@ -81,14 +81,6 @@ TEST(Capricci, ARefusedPauseStandsBetweenTwoSteps) {
     }
 }
 
-TEST(Capricci, AnyOtherErrorWaitsForTheEndOfTheSweep) {
-    Banco banco;
-    banco.Guasta("error:SRBW");
-    banco.Manda(kSweep);
-    banco.Prendi(1001);
-    EXPECT_TRUE(banco.Chiedi("#SRBW3*").ends_with("SFD_ENDRBW=ERR\r\n"));
-}
-
 TEST(Capricci, ARefusedResumeLeavesTheSweepPaused) {
     Banco banco;
     banco.Guasta("errorx1:ASRE");
