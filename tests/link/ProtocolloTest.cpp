@@ -20,28 +20,19 @@ std::string InTesto(const std::vector<uint8_t>& byte) {
     return {byte.begin(), byte.end()};
 }
 
-TEST(InviaComando, TheReplyKeepsItsCrButNotItsLf) {
-    BancoAperto b;
-    b.peer.RispondiDa({{"#?IDN*", "IDN=x\r\n"}});
-    EXPECT_EQ(Invia(b.r), "IDN=x\r");
-    EXPECT_FALSE(b.stato.inVolo);
-}
-
 TEST(InviaComando, AReplyWakesTheWait) {
     BancoAperto b;
     b.peer.alComando = [&](const std::string&) { b.peer.Rispondi("A\r\n", 0.123); };
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(Invia(b.r), "A\r");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.123, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.123, 1e-9);
     EXPECT_LE(b.ambiente.giri, 3u);
 }
 
 TEST(InviaComando, ASilentReceiverCostsNothing) {
     BancoAperto b;
-    const double inizio = b.ambiente.ora;
     const size_t giri = b.ambiente.giri;
     EXPECT_EQ(Invia(b.r), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.7, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.7, 1e-9);
     EXPECT_LE(b.ambiente.giri - giri, 3u);
 }
 
@@ -57,9 +48,8 @@ TEST(InviaComando, PiecesAreJoinedAndDoNotMoveTheDeadline) {
         for (int i = 1; i < 10; ++i)
             b.peer.Rispondi("x", 0.1 * i);
     };
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(Invia(b.r), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.7, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.7, 1e-9);
 }
 
 TEST(InviaComando, ALateReplyGoesWithTheNextDrain) {
@@ -97,14 +87,6 @@ TEST(InviaComando, ATransmitBacklogHasItsBoxAndTheCommandStillGoesOut) {
     EXPECT_EQ(b.ambiente.riquadri[0].icona, Icona::Esclamazione);
 }
 
-TEST(InviaComando, AClosedSerialPortIsAnErrorThatTakesItsTime) {
-    BancoSeriale b;
-    const double inizio = b.ambiente.ora;
-    EXPECT_EQ(Invia(b.r), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.7, 1e-9);
-    EXPECT_EQ(b.peer.scritti, Testi{});
-}
-
 TEST(InviaComando, BytesThatCannotBeReadDoNotSpin) {
     BancoUsb b;
     b.porta.ApriPorta(true);
@@ -112,15 +94,6 @@ TEST(InviaComando, BytesThatCannotBeReadDoNotSpin) {
     b.usb.statoLeggi = 1;
     EXPECT_EQ(Invia(b.r), "Error");
     EXPECT_LT(b.ambiente.giri, 500u);
-}
-
-TEST(InviaComando, EventsAreServedOnceAtLeast) {
-    BancoAperto b;
-    b.peer.RispondiDa({{"#?IDN*", "IDN=x\r\n"}});
-    bool servito = false;
-    b.ambiente.Fra(0, [&] { servito = true; });
-    Invia(b.r, "#?IDN*", false);
-    EXPECT_TRUE(servito);
 }
 
 TEST(GuardiaVolo, NothingGoesOutWhileACommandIsInFlight) {
@@ -138,9 +111,8 @@ TEST(GuardiaVolo, NothingGoesOutWhileACommandIsInFlight) {
         ImpostaBWIF(b.r, 3);
         EXPECT_TRUE(b.stato.inVolo) << "the outer command is still out";
     });
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(Invia(b.r), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.7, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.7, 1e-9);
     EXPECT_EQ(b.peer.scritti, Testi{"#?IDN*"});
     ASSERT_EQ(b.ambiente.difetti.size(), 8u);
     EXPECT_EQ(b.ambiente.difetti[0], "command #?MIL* while #?IDN* is in flight");
@@ -190,9 +162,8 @@ TEST(InviaComandoLento, GivesUpAfterSilenceAndDrainsTheRest) {
         b.peer.Rispondi("CO6=OK", 4.5);
         b.peer.Rispondi("tail", 6);
     };
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(InviaComandoLento(b.r, "CO6", "#SCO6C*"), "");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 8, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 8, 1e-9);
     EXPECT_EQ(b.porta.ByteInCoda(), 0u);
 }
 
@@ -201,9 +172,8 @@ TEST(InviaComandoLento, AnEndlessStreamEndsWithTheAbort) {
     for (int i = 0; i < 1000; ++i)
         b.peer.Rispondi("stream", i);
     b.ambiente.Fra(20.5, [&] { b.stato.AbbandonaComandi = true; });
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(InviaComandoLento(b.r, "CO6", "#SCO6C*"), "");
-    EXPECT_LT(b.ambiente.ora - inizio, 22);
+    EXPECT_LT(b.Trascorsi(), 22);
 }
 
 TEST(LeggiBloccoFisso, AsManyBytesAsAskedFor) {
@@ -224,9 +194,8 @@ TEST(LeggiBloccoFisso, ShortOrSilentIsAnError) {
         b.peer.Rispondi("abc", 0.25);
         b.peer.Rispondi("late", 0.6);
     };
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(InTesto(LeggiBloccoFisso(b.r, 4, "#?FILE*")), "Error");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.55, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.55, 1e-9);
     b.porta.ChiudiPorta();
     EXPECT_EQ(InTesto(LeggiBloccoFisso(b.r, 4, "#?FILE*")), "Error");
 }
@@ -241,14 +210,9 @@ TEST(LeggiFinoASilenzio, GathersEverythingUntilTheReceiverFallsSilent) {
 
 TEST(InviaRigaCaricamento, ThreeShortTries) {
     BancoAperto b;
-    int volte = 0;
-    b.peer.alComando = [&](const std::string&) {
-        if (++volte == 3)
-            b.peer.Rispondi("LIW=OK\r\n");
-    };
-    const double inizio = b.ambiente.ora;
+    b.peer.RispondiInFila({"", "", "LIW=OK\r\n"});
     EXPECT_EQ(InviaRigaCaricamento(b.r, "#SLIW0,150e3;66*", "LIW"), "LIW=OK\r");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.6, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.6, 1e-9);
     EXPECT_EQ(b.peer.scritti.size(), 3u);
     b.peer.RispondiDa({{"#SLIW1*", "LIW=ERR\r\n"}});
     EXPECT_EQ(InviaRigaCaricamento(b.r, "#SLIW1*", "LIW"), "LIW=ERR\r");

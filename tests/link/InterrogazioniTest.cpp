@@ -1,7 +1,7 @@
 // Readings of replies, whole and damaged, and the queries that make them.
 #include <gtest/gtest.h>
 
-#include <set>
+#include <tuple>
 
 #include "aiuto/BancoLink.h"
 #include "link/Interrogazioni.h"
@@ -12,14 +12,13 @@ namespace {
 using namespace prova;
 
 TEST(LeggiRisposta, FilterInUse) {
-    const auto automatico = LeggiRispostaRBW("RBW=AUTO 10\r");
-    ASSERT_TRUE(automatico);
-    EXPECT_TRUE(automatico->automatico);
-    EXPECT_EQ(automatico->id, 10);
-    const auto manuale = LeggiRispostaRBW("RBW = MAN 3\r");
-    ASSERT_TRUE(manuale);
-    EXPECT_FALSE(manuale->automatico);
-    EXPECT_EQ(manuale->id, 3);
+    for (const auto& [risposta, automatico, id] :
+         {std::tuple{"RBW=AUTO 10\r", true, 10}, std::tuple{"RBW = MAN 3\r", false, 3}}) {
+        const auto filtro = LeggiRispostaRBW(risposta);
+        ASSERT_TRUE(filtro) << risposta;
+        EXPECT_EQ(filtro->automatico, automatico);
+        EXPECT_EQ(filtro->id, id);
+    }
     for (const char* rotta :
          {"", "RBW", "RBW=", "RBW=AUTO\r", "RBW=AUTO \r", "RBW=AUTO x\r", "RBW=3\r", "RBW=MAN 3x\r",
           "RBW=MAN 99999\r", "XBW=MAN 3\r", "RBW=AUTO10\r"})
@@ -57,23 +56,23 @@ TEST(LeggiRisposta, Battery) {
 }
 
 TEST(LeggiRisposta, ConductedOrRadiated) {
-    for (const char* condotta : {"CO6=CND\r", "3PR=CON\r", "3PR=CON;1,2\r"}) {
-        const auto gamma = LeggiRispostaGamma(condotta);
-        ASSERT_TRUE(gamma) << condotta;
-        EXPECT_FALSE(gamma->radiata);
+    struct Caso {
+        const char* risposta;
+        bool radiata;
+        std::optional<float> fMin = {}, fMax = {};
+    };
+    for (const Caso& caso :
+         {Caso{"CO6=CND\r", false}, Caso{"3PR=CON\r", false}, Caso{"3PR=CON;1,2\r", false},
+          Caso{"CO6=RAD\r", true}, Caso{"3PR=RAD;25.5, 6020,\r", true, 25.5f, 6020.f},
+          Caso{"CO6=RAD;-1,3000,\r", true, {}, 3000.f}}) {
+        const auto gamma = LeggiRispostaGamma(caso.risposta);
+        ASSERT_TRUE(gamma) << caso.risposta;
+        EXPECT_EQ(gamma->radiata, caso.radiata) << caso.risposta;
+        if (caso.radiata) {
+            EXPECT_EQ(gamma->fMinMhz, caso.fMin) << caso.risposta;
+            EXPECT_EQ(gamma->fMaxMhz, caso.fMax) << caso.risposta;
+        }
     }
-    const auto limiti = LeggiRispostaGamma("3PR=RAD;25.5, 6020,\r");
-    ASSERT_TRUE(limiti);
-    EXPECT_TRUE(limiti->radiata);
-    EXPECT_EQ(limiti->fMinMhz, 25.5f);
-    EXPECT_EQ(limiti->fMaxMhz, 6020.f);
-    const auto senza = LeggiRispostaGamma("CO6=RAD\r");
-    ASSERT_TRUE(senza);
-    EXPECT_FALSE(senza->fMinMhz || senza->fMaxMhz);
-    const auto meta = LeggiRispostaGamma("CO6=RAD;-1,3000,\r");
-    ASSERT_TRUE(meta);
-    EXPECT_FALSE(meta->fMinMhz);
-    EXPECT_EQ(meta->fMaxMhz, 3000.f);
     for (const char* rotta : {"", "3PR=OK\r", "3PR=RAD;\r", "3PR=RAD;25\r", "3PR=RAD;25,6020\r",
                               "3PR=RAD;x,6020,\r", "3PR=RAD;25,,\r"})
         EXPECT_FALSE(LeggiRispostaGamma(rotta)) << rotta;
@@ -111,44 +110,25 @@ TEST(Interrogazioni, EachQueryGoesOutAsItStands) {
                                      "#?MAT*", "#?BAT*", "#?3PR*"}));
 }
 
-TEST(Interrogazioni, TheTableHoldsEachQueryOnceWithItsWords) {
-    EXPECT_EQ(TabellaQuery().size(), 17u);
-    std::set<std::string_view> viste;
-    for (const VoceQuery& voce : TabellaQuery()) {
-        EXPECT_TRUE(viste.insert(voce.query).second) << voce.query;
-        EXPECT_TRUE(voce.query.starts_with("#?") && voce.query.ends_with("*")) << voce.query;
-    }
-    BancoAperto b;
-    b.ambiente.Fra(20, [&] { b.stato.AbbandonaComandi = true; });
-    EXPECT_EQ(LeggiFiltriMil(b.r), std::nullopt);
-    EXPECT_EQ(b.finestra.fatti.front(), "mostra Error Read Enabling Filtres MIL");
-}
-
 TEST(LeggiSerialNumber, TenCharactersAfterAWaitAndADrain) {
     BancoAperto b;
     b.peer.Rispondi("S/N=OLD\r\n", 0.05);
     b.peer.RispondiDa({{"#?S/N*", "S/N= 0123456789AB \r\n"}});
-    const double inizio = b.ambiente.ora;
     EXPECT_EQ(LeggiSerialNumber(b.r), "0123456789");
-    EXPECT_NEAR(b.ambiente.ora - inizio, 0.1, 1e-9);
+    EXPECT_NEAR(b.Trascorsi(), 0.1, 1e-9);
     EXPECT_EQ(b.r.modello.SerialNumber, "0123456789");
-}
-
-TEST(LeggiSerialNumber, WithoutItsPrefixItIsEmptyAtOnce) {
-    BancoAperto b;
-    b.r.modello.SerialNumber = "former";
     b.peer.RispondiDa({{"#?S/N*", "S/N N/A\r\n"}});
-    EXPECT_EQ(LeggiSerialNumber(b.r), "");
+    EXPECT_EQ(LeggiSerialNumber(b.r), "") << "without its prefix, at once";
     EXPECT_EQ(b.r.modello.SerialNumber, "");
-    EXPECT_EQ(b.peer.scritti.size(), 1u);
+    EXPECT_EQ(b.peer.scritti.size(), 2u);
 }
 
 TEST(LeggiBatteria, ModelsWithoutOneAreNotAsked) {
-    for (const auto& segna :
-         {+[](ReceiverModel& m) { m.Is3360 = true; }, +[](ReceiverModel& m) { m.Is60OEM = true; },
-          +[](ReceiverModel& m) { m.ModelloOEM = 1; }}) {
+    for (const ReceiverModel& modello :
+         {ReceiverModel{.ModelloOEM = 1}, ReceiverModel{.Is3360 = true},
+          ReceiverModel{.Is60OEM = true}}) {
         BancoAperto b;
-        segna(b.r.modello);
+        b.r.modello = modello;
         EXPECT_FALSE(LeggiBatteria(b.r));
         EXPECT_EQ(b.peer.scritti, Testi{});
     }

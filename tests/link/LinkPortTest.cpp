@@ -1,5 +1,8 @@
-// The six operations over the serial carriers: plain, Bluetooth, and a stream of one's own.
+// The six operations over the serial carriers, plain, Bluetooth and a stream of one's own; and the
+// buffer of a sweep, whose bytes keep their order.
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "aiuto/BancoLink.h"
 
@@ -11,19 +14,6 @@ using namespace prova;
 std::string Letto(Porta& porta, size_t n) {
     const auto byte = porta.LeggiPorta(n);
     return {byte.begin(), byte.end()};
-}
-
-TEST(PortaCom, OpensTheDeviceOfItsNumber) {
-    BancoSeriale b;
-    EXPECT_FALSE(b.porta.Aperta());
-    EXPECT_TRUE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.Aperta());
-    EXPECT_TRUE(b.porta.Seriale());
-    EXPECT_EQ(b.peer.aperture, Testi{"/dev/seven"});
-    EXPECT_FALSE(b.porta.link.IsBluetooth);
-    EXPECT_EQ(b.porta.Descrizione(), " (COM7)");
-    EXPECT_TRUE(b.porta.ChiudiPorta());
-    EXPECT_FALSE(b.porta.Aperta());
 }
 
 TEST(PortaCom, AFailureSaysWhyWithoutABox) {
@@ -46,15 +36,13 @@ TEST(PortaCom, AFailureSaysWhyWithoutABox) {
         EXPECT_FALSE(b.porta.ScriviPorta("#?IDN*"));
         b.porta.ChiudiPorta();
         EXPECT_FALSE(b.porta.link.PortaNonDisponibile);
+        EXPECT_EQ(b.porta.Descrizione(), " (COM7)");
     }
-}
-
-TEST(PortaCom, ANumberWithoutDeviceIsAbsent) {
     BancoSeriale b;
     b.porta.link.NumeroCom = 4;
     EXPECT_FALSE(b.porta.ApriPorta(true));
     EXPECT_EQ(b.porta.link.motivo, "COM Port COM4 not Available: no such device");
-    EXPECT_EQ(b.peer.aperture, Testi{});
+    EXPECT_EQ(b.peer.aperture, Testi{}) << "a number without a device";
 }
 
 TEST(PortaCom, TheSwitchForcesPlainPortsOnly) {
@@ -157,26 +145,6 @@ TEST(PortaBluetooth, ADeviceThatCameBackIsFoundByALaterTry) {
     EXPECT_TRUE(b.porta.Aperta());
 }
 
-TEST(PortaFissa, BehavesLikeAPlainPortAndLooksAtNoSettings) {
-    BancoUsb b;
-    b.porta.fisso = LinkFisso{&b.peer, "/tmp/pty", "pty /tmp/pty"};
-    EXPECT_TRUE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.Seriale());
-    EXPECT_EQ(b.peer.aperture, Testi{"/tmp/pty"});
-    EXPECT_EQ(b.usb.chiamate, Testi{});
-    EXPECT_EQ(b.porta.Descrizione(), " (pty /tmp/pty)");
-    EXPECT_TRUE(b.porta.ScriviPorta("#?IDN*"));
-    EXPECT_EQ(b.peer.scritti, Testi{"#?IDN*"});
-    b.peer.guasto = true;
-    EXPECT_EQ(b.porta.ByteInCoda(), 0u);
-    EXPECT_FALSE(b.porta.Aperta());
-    b.peer.esitoApertura = EsitoApertura::Assente;
-    EXPECT_FALSE(b.porta.ApriPorta(true));
-    EXPECT_TRUE(b.porta.link.PortaNonDisponibile);
-    EXPECT_EQ(b.porta.link.motivo, "pty /tmp/pty not Available: no such device");
-    EXPECT_EQ(b.Riquadri(), Testi{});
-}
-
 TEST(Porta, ALinkChangedWhileOpenIsClosedFirst) {
     BancoAperto b;
     b.porta.link.TipoLink = 1;
@@ -186,6 +154,39 @@ TEST(Porta, ALinkChangedWhileOpenIsClosedFirst) {
     EXPECT_TRUE(b.porta.ApriPorta(true));
     EXPECT_EQ(b.usb.Quante("chiudi"), 1u);
     EXPECT_TRUE(b.peer.Aperto());
+}
+
+void Riempi(Accumulo& a, size_t n, uint8_t& prossimo) {
+    for (uint8_t& byte : a.Spazio(n))
+        byte = prossimo++;
+    a.Aggiunti(n);
+}
+
+TEST(Accumulo, KeepsTheOrderHoweverItIsFilledAndUsed) {
+    Accumulo a;
+    uint8_t scritto = 0;
+    uint8_t letto = 0;
+    for (size_t giro = 0; giro < 2000; ++giro) {
+        Riempi(a, 1 + giro * 37 % 211, scritto);
+        const size_t uso = std::min(a.Quanti(), giro * 53 % 223);
+        for (const uint8_t byte : a.Dati().first(uso))
+            ASSERT_EQ(byte, letto++);
+        a.Consuma(uso);
+    }
+    EXPECT_EQ(static_cast<uint8_t>(letto + a.Quanti()), scritto);
+}
+
+TEST(Accumulo, AStreamThatIsUsedUpNeedsNoNewMemory) {
+    Accumulo a;
+    uint8_t scritto = 0;
+    Riempi(a, 65536, scritto);
+    const uint8_t* memoria = a.Dati().data();
+    for (int giro = 0; giro < 1000; ++giro) {
+        a.Consuma(a.Quanti() - 5);
+        Riempi(a, 60000, scritto);
+    }
+    EXPECT_EQ(a.Quanti(), 60005u);
+    EXPECT_EQ(a.Dati().data(), memoria);
 }
 
 } // namespace

@@ -26,20 +26,20 @@ TEST(PaginaCodici, TheCharactersThatThePageIsKnownBy) {
     EXPECT_EQ(DaAnsi("\x81"), "\u0081");
 }
 
-TEST(PaginaCodici, WhatIsOutsideThePageBecomesAQuestionMark) {
-    EXPECT_EQ(InAnsi("\u03A9 \u4E2D \U0001F600."), "? ? ?.");
-    EXPECT_EQ(InAnsi("\u0100"), "?");
-}
-
-TEST(PaginaCodici, SoDoesEachByteThatIsNoText) {
-    EXPECT_EQ(InAnsi("a\xFFz"), "a?z");
-    EXPECT_EQ(InAnsi("a\x80z"), "a?z");
-    EXPECT_EQ(InAnsi("a\xC2"), "a?");
-    EXPECT_EQ(InAnsi("\xE2\x82"), "??");
-    EXPECT_EQ(InAnsi("\xE2z\xAC"), "?z?");
-    EXPECT_EQ(InAnsi("\xC0\x80"), "??") << "a longer form of a smaller character";
-    EXPECT_EQ(InAnsi("\xE0\x82\xB5"), "???");
-    EXPECT_EQ(InAnsi("\xF8"), "?");
+TEST(PaginaCodici, WhatIsOutsideThePageOrNoTextBecomesAQuestionMark) {
+    const std::pair<const char*, const char*> casi[] = {
+        {"\u03A9 \u4E2D \U0001F600.", "? ? ?."},
+        {"\u0100", "?"},
+        {"a\xFFz", "a?z"},
+        {"a\x80z", "a?z"},
+        {"a\xC2", "a?"},
+        {"\xE2\x82", "??"},
+        {"\xE2z\xAC", "?z?"},
+        {"\xC0\x80", "??"}, // a longer form of a smaller character
+        {"\xE0\x82\xB5", "???"},
+        {"\xF8", "?"}};
+    for (const auto& [testo, ansi] : casi)
+        EXPECT_EQ(InAnsi(testo), ansi);
 }
 
 } // namespace

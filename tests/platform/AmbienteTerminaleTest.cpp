@@ -34,47 +34,35 @@ double QuotaDiAttesa(Ambiente& ambiente, double passoS) {
     return (TempoDiProcessore() - usato) / (ambiente.Adesso() - inizio);
 }
 
-struct CasoRiquadro {
-    const char* testo;
-    Pulsanti pulsanti;
-    std::optional<bool> risposta;
-    Risposta attesa;
-    const char* riga;
-};
-
-class RiquadroTerminale : public testing::TestWithParam<CasoRiquadro> {};
-
-TEST_P(RiquadroTerminale, IsALineWithItsAnswer) {
-    const CasoRiquadro& caso = GetParam();
-    SorvegliaLink sorveglia;
-    AmbienteTerminale ambiente(sorveglia, "", caso.risposta);
-    testing::internal::CaptureStderr();
-    const Risposta risposta = ambiente.Mostra({.testo = caso.testo, .pulsanti = caso.pulsanti});
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), caso.riga);
-    EXPECT_EQ(risposta, caso.attesa);
+TEST(AmbienteTerminale, ABoxIsALineWithItsAnswer) {
+    struct Caso {
+        const char* testo;
+        Pulsanti pulsanti;
+        std::optional<bool> risposta;
+        Risposta attesa;
+        const char* riga;
+    };
+    using enum Pulsanti;
+    const Caso casi[] = {
+        {"Over?", SiNo, {}, Risposta::No, "Over? -> No"},
+        {"Over?", SiNo, false, Risposta::No, "Over? -> No"},
+        {"Over?", SiNo, true, Risposta::Si, "Over? -> Yes"},
+        {"Go on", OkAnnulla, {}, Risposta::Annulla, "Go on -> Cancel"},
+        {"Go on", OkAnnulla, true, Risposta::Ok, "Go on -> OK"},
+        {"Again", RiprovaAnnulla, false, Risposta::Annulla, "Again -> Cancel"},
+        {"Again", RiprovaAnnulla, true, Risposta::Riprova, "Again -> Retry"},
+        {"Done", Ok, false, Risposta::Ok, "Done -> OK"},
+        {"No X\ron the bus.\r", Ok, {}, Risposta::Ok, "No X on the bus. -> OK"},
+        {"one\r\n\r\ntwo", Ok, {}, Risposta::Ok, "one two -> OK"},
+        {"dB\xC2\xB5V \x1B[2J\x7F.", Ok, {}, Risposta::Ok, "dB\xC2\xB5V  [2J . -> OK"}};
+    for (const Caso& caso : casi) {
+        SorvegliaLink sorveglia;
+        AmbienteTerminale ambiente(sorveglia, "", caso.risposta);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(ambiente.Mostra({.testo = caso.testo, .pulsanti = caso.pulsanti}), caso.attesa);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "[box] " + std::string(caso.riga) + "\n");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Tutti, RiquadroTerminale,
-    testing::Values(
-        CasoRiquadro{"Overwrite?", Pulsanti::SiNo, std::nullopt, Risposta::No,
-                     "[box] Overwrite? -> No\n"},
-        CasoRiquadro{"Overwrite?", Pulsanti::SiNo, false, Risposta::No, "[box] Overwrite? -> No\n"},
-        CasoRiquadro{"Overwrite?", Pulsanti::SiNo, true, Risposta::Si, "[box] Overwrite? -> Yes\n"},
-        CasoRiquadro{"Go on", Pulsanti::OkAnnulla, std::nullopt, Risposta::Annulla,
-                     "[box] Go on -> Cancel\n"},
-        CasoRiquadro{"Go on", Pulsanti::OkAnnulla, true, Risposta::Ok, "[box] Go on -> OK\n"},
-        CasoRiquadro{"Again", Pulsanti::RiprovaAnnulla, false, Risposta::Annulla,
-                     "[box] Again -> Cancel\n"},
-        CasoRiquadro{"Again", Pulsanti::RiprovaAnnulla, true, Risposta::Riprova,
-                     "[box] Again -> Retry\n"},
-        CasoRiquadro{"Done", Pulsanti::Ok, false, Risposta::Ok, "[box] Done -> OK\n"},
-        CasoRiquadro{"Cannot find X\ron the USB bus.\r", Pulsanti::Ok, std::nullopt, Risposta::Ok,
-                     "[box] Cannot find X on the USB bus. -> OK\n"},
-        CasoRiquadro{"one\r\n\r\ntwo", Pulsanti::Ok, std::nullopt, Risposta::Ok,
-                     "[box] one two -> OK\n"},
-        CasoRiquadro{"dB\xC2\xB5V \x1B[2J\x7F.", Pulsanti::Ok, std::nullopt, Risposta::Ok,
-                     "[box] dB\xC2\xB5V  [2J . -> OK\n"}));
 
 TEST(AmbienteTerminale, ReportsAFaultOfItsOwn) {
     SorvegliaLink sorveglia;
@@ -85,9 +73,7 @@ TEST(AmbienteTerminale, ReportsAFaultOfItsOwn) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "internal fault: a send inside a send\n");
 }
 
-TEST(AmbienteTerminale, ClockRunsForwardAndCalendarIsTheLocalOne) {
-    const double prima = OraMonotona();
-    EXPECT_GE(OraMonotona(), prima);
+TEST(AmbienteTerminale, TheCalendarIsTheLocalOne) {
     setenv("TZ", "XXX-5:45", 1); // no other zone of a test machine has this one
     tzset();
     const std::time_t adesso = std::time(nullptr);
@@ -100,8 +86,6 @@ TEST(AmbienteTerminale, ClockRunsForwardAndCalendarIsTheLocalOne) {
     campi.tm_mday = ora.giorno;
     const double lassu = static_cast<double>(timegm(&campi)) + ora.secondiDelGiorno;
     EXPECT_NEAR(lassu - 5.75 * 3600, static_cast<double>(adesso), 60);
-    EXPECT_GE(ora.secondiDelGiorno, 0);
-    EXPECT_LT(ora.secondiDelGiorno, 86400);
 }
 
 TEST(AmbienteTerminale, BytesOfTheLinkEndAWaitForThem) {
@@ -132,14 +116,9 @@ TEST(AmbienteTerminale, ASilentLineCostsNoProcessorTime) {
     EXPECT_LT(QuotaDiAttesa(ambiente, kALungo), 0.2);
     l.sorveglia.senzaAvviso = true;
     EXPECT_LT(QuotaDiAttesa(ambiente, kALungo), 0.2) << "a carrier that has to be looked at";
-}
-
-TEST(AmbienteTerminale, AVanishedDeviceCostsNoProcessorTime) {
-    Linea l;
-    ASSERT_EQ(l.Apri(), EsitoApertura::Aperto);
-    AmbienteTerminale ambiente(l.sorveglia, "", std::nullopt);
+    l.sorveglia.senzaAvviso = false;
     l.pseudo.Stacca();
-    EXPECT_LT(QuotaDiAttesa(ambiente, kALungo), 0.2);
+    EXPECT_LT(QuotaDiAttesa(ambiente, kALungo), 0.2) << "a device that vanished";
 }
 
 TEST(AmbienteTerminale, CtrlCEndsAWaitAndIsServedOnce) {

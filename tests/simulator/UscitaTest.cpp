@@ -64,13 +64,6 @@ TEST(Uscita, AnAbortDropsWhatIsUnderWay) {
     }
 }
 
-TEST(Uscita, ANewSweepReplacesTheOneThatRuns) {
-    Banco banco;
-    banco.Manda(kSweep);
-    banco.Prendi(500);
-    EXPECT_TRUE(banco.Chiedi(kSweep) == Banco().Chiedi(kSweep));
-}
-
 TEST(Uscita, AtFullSpeedASweepCountsAWindow) {
     Banco banco;
     banco.Manda("#SSFD 150000;30000000;10;PQ;1;6;10;OFF;OFF;0*");

@@ -4,7 +4,6 @@
 
 #include "aiuto/CartellaProva.h"
 #include "platform/PorteSistema.h"
-#include "platform/PseudoTerminale.h"
 
 namespace orvane {
 namespace {
@@ -139,16 +138,6 @@ TEST(PorteSistema, UsbDevicesAreNamedByTheirProduct) {
 
 TEST(PorteSistema, AMachineWithoutAnyOfItHasNoPorts) {
     EXPECT_TRUE(PorteSistema("/nowhere/Ports", "/nowhere/dev", "/nowhere/sys").Elenca().empty());
-}
-
-TEST(PorteSistema, ALinkToAPseudoTerminalNamesAPathThatOpensIt) {
-    Macchina m;
-    const PseudoTerminale pseudo;
-    m.Legame("COM5", pseudo.Percorso());
-    const auto porte = PorteSistema(m.ports, m.dev, m.sys).Elenca();
-    ASSERT_EQ(porte.size(), 1U);
-    EXPECT_EQ(porte[0].nome, "Serial Port (COM5)");
-    EXPECT_EQ(fs::canonical(porte[0].dispositivo), pseudo.Percorso());
 }
 
 } // namespace

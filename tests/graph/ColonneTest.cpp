@@ -1,6 +1,7 @@
 // Reduction to columns: what must survive it, and what breaks the line.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -23,14 +24,11 @@ ColonneTraccia DieciColonne() {
 
 TEST(Colonne, EstremiPrimoEUltimo) {
     ColonneTraccia traccia = DieciColonne();
-    for (const auto livello : {300, -100, 900, 200})
-        traccia.Aggiungi(12.4, static_cast<int16_t>(livello));
+    for (const int16_t livello : {300, -100, 900, 200})
+        traccia.Aggiungi(12.4, livello);
     const auto& c = traccia.Colonna(2);
-    EXPECT_FALSE(c.vuota);
-    EXPECT_EQ(c.primo, 300);
-    EXPECT_EQ(c.minimo, -100);
-    EXPECT_EQ(c.massimo, 900);
-    EXPECT_EQ(c.ultimo, 200);
+    EXPECT_EQ((std::array{c.primo, c.minimo, c.massimo, c.ultimo}),
+              (std::array<int16_t, 4>{300, -100, 900, 200}));
     EXPECT_EQ(Piene(traccia), 1);
     EXPECT_DOUBLE_EQ(traccia.Frequenza(2), 12.5);
     traccia.Azzera();

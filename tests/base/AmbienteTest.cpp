@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "aiuto/AmbienteProva.h"
-#include "base/Versione.h"
 
 namespace orvane {
 namespace {
@@ -22,14 +21,6 @@ TEST(Attendi, WaitsItsTimeAndServesEventsMeanwhile) {
     EXPECT_LE(ambiente.giri, 4u);
 }
 
-TEST(Attendi, NoTimeStillServesEvents) {
-    AmbienteProva ambiente;
-    bool servito = false;
-    ambiente.Fra(0, [&] { servito = true; });
-    Attendi(ambiente, 0);
-    EXPECT_TRUE(servito);
-}
-
 TEST(Scadenza, IsReachedAtItsMomentAndCanBeRenewed) {
     AmbienteProva ambiente;
     Scadenza fine(ambiente, 0.5);
@@ -42,10 +33,6 @@ TEST(Scadenza, IsReachedAtItsMomentAndCanBeRenewed) {
     EXPECT_EQ(fine.Rimane(), 0);
     fine.Rinnova(0.5);
     EXPECT_FALSE(fine.Passata());
-}
-
-TEST(Versione, HasTwoDigitsOfRevision) {
-    EXPECT_EQ(RelSoftware(), "Rel. 1.0.00 (January 2019)");
 }
 
 } // namespace
