@@ -21,6 +21,9 @@ endif()
 # The device manager looks into lib/udev below /usr and /usr/local alike, and not into lib64.
 install(FILES packaging/70-orvane-console.rules DESTINATION lib/udev/rules.d)
 
+# The starter limits, for those who copy them by hand; the program has them built in.
+install(DIRECTORY share/orvane DESTINATION ${CMAKE_INSTALL_DATADIR})
+
 set(ORVANE_DOCDIR ${CMAKE_INSTALL_DATADIR}/doc/orvane-console)
 install(DIRECTORY docs/ DESTINATION ${ORVANE_DOCDIR})
 if(EXISTS ${CMAKE_SOURCE_DIR}/README.md)

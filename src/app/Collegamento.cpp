@@ -1,5 +1,7 @@
 #include "app/Collegamento.h"
 
+#include <cmath>
+
 #include "base/Numeri.h"
 #include "base/Testo.h"
 
@@ -33,7 +35,7 @@ std::string Collegamento::Applica(std::string_view link, Porta& porta) {
     }
     if (const auto numero = Dopo(link, "com:")) {
         const auto com = LeggiNumero(*numero);
-        if (!com || *com < 1 || *com > 999)
+        if (!com || *com < 1 || *com > 999 || *com != std::trunc(*com))
             return "com: wants a port number, as in com:3";
         porta.link.TipoLink = 0;
         porta.link.NumeroCom = static_cast<int16_t>(*com);

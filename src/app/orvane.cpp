@@ -1,4 +1,5 @@
 // The command line program: makes every record once, wires it to the machine, and runs one verb.
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -8,6 +9,7 @@
 #include <unistd.h>
 
 #include "app/Collegamento.h"
+#include "base/Interruttori.h"
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "base/Versione.h"
@@ -65,8 +67,11 @@ bool PrendiOpzione(Opzioni& o, const std::string& nome, const std::string& valor
 }
 
 /// Switches such as "/LOGCOMANDI" are looked for in the whole text; as words they are passed over.
+/// Any other word with a slash may be a path.
 bool Interruttore(const std::string& parola) {
-    return (parola.starts_with('/') && parola == Maiuscolo(parola)) || parola.starts_with("COMM=");
+    return std::find(interruttore::kTutti.begin(), interruttore::kTutti.end(), parola) !=
+               interruttore::kTutti.end() ||
+           Maiuscolo(parola).starts_with("COMM=");
 }
 
 Opzioni LeggiRiga(const std::vector<std::string>& parole) {
@@ -104,6 +109,7 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
         return kUsoErrato;
     }
     VistaTerminale vista(ambiente, std::cerr, isatty(STDERR_FILENO) != 0, o.json);
+    ambiente.primaDelRiquadro = [&vista] { vista.FineRiga(); };
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
     bool interrotto = false;
@@ -158,6 +164,10 @@ int main(int argc, char** argv) {
     std::error_code errore;
     if (!std::filesystem::is_directory(o.dati, errore)) {
         std::cerr << "orvane: there is no directory " << o.dati.string() << "\n";
+        return kGuastoFile;
+    }
+    if (std::filesystem::directory_iterator(o.dati, errore); errore) {
+        std::cerr << "orvane: cannot read the directory " << o.dati.string() << "\n";
         return kGuastoFile;
     }
     return Esegui(o, *verbo, Unisci(parole, " "));

@@ -2,6 +2,7 @@
 // their order does not matter, and one written in lower case has no effect.
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace orvane {
@@ -25,6 +26,11 @@ inline constexpr std::string_view kInfoMod = "/INFOMOD";
 inline constexpr std::string_view kRsComp = "/RSCOMP";
 inline constexpr std::string_view kNoWheel = "NOWHEEL";
 inline constexpr std::string_view kNoMenuEvent = "NOMENUEVENT";
+/// All of them, for whoever has to tell a switch from a word.
+inline constexpr std::array kTutti = {
+    kLogComandi, kLogRisposte, kLogComRisp,     kTimeLog,      kLogSweep,         kNoCMilFrFast,
+    kNoContFreq, kSetFCSweep,  kSaveSetFCSweep, kVisTimeSweep, kPrintMarkerSweep, kNoRidimgRtf,
+    kInfoComUsb, kInfoSR,      kInfoMod,        kRsComp,       kNoWheel,          kNoMenuEvent};
 } // namespace interruttore
 
 inline bool Acceso(std::string_view rigaComando, std::string_view nome) {

@@ -63,8 +63,8 @@ void AbbandonaAvvio(Console& c) {
 
 /// Enters one mode; false when a live mode could not start.
 bool Entra(Console& c, Modalita modalita) {
-    AggiornaTitolo(c);
     c.stato.modalita = modalita;
+    AggiornaTitolo(c);
     c.vista.MostraScheda(modalita);
     if (Vivo(modalita)) {
         c.vista.ChiudiFinestreAusiliarie();

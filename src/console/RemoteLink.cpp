@@ -36,8 +36,8 @@ void OptLink(Scrivania& s, LinkPort& link, int16_t tipo) {
 }
 
 void ComboPortDevice(Scrivania& s, LinkPort& link, std::string_view nome) {
-    if (const auto numero = DeterminaNumComSel(nome))
-        Cambia(s, link, s.env.LinkKind, static_cast<int16_t>(*numero));
+    if (const int numero = DeterminaNumComSel(nome).value_or(0); numero >= 1)
+        Cambia(s, link, s.env.LinkKind, static_cast<int16_t>(numero));
 }
 
 void DefaultRemoteLink(Scrivania& s, LinkPort& link) {

@@ -116,9 +116,8 @@ void ControllaFlag(Correttore& c, SetupRecord& setup) {
         c.Flag(x, 1);
     for (int16_t& x : setup.FactorOn)
         c.Flag(x, 1);
-    for (int16_t* x :
-         {&setup.OverwriteWarning, &setup.OrderForDate, &setup.SymbolOnPeaks, &setup.GX2207FFTSwept,
-          &setup.CheckSweepArchiveSize, &setup.ZoomModeA, &setup.ZoomModeB})
+    // The other marks of the menu stand in ranges that are kept as they are: any value is a flag.
+    for (int16_t* x : {&setup.OverwriteWarning, &setup.ZoomModeA})
         c.Flag(*x, -1);
 }
 

@@ -9,21 +9,9 @@
 #include <vector>
 
 #include "records/SetupRecord.h"
+#include "records/Unita.h"
 
 namespace orvane {
-
-/// A display unit: level in the unit = level in dBuV + (parteA + parteB) / 10.
-struct VoceUnita {
-    std::string testo; ///< with the micro sign
-    int parteA = 0;    ///< tenths of a dB
-    int parteB = 0;
-    bool chiedeFattore = false; ///< a field unit: only with a conversion factor
-    float Offset() const { return static_cast<float>(parteA + parteB) / 10.0f; }
-};
-/// By `UnitId` 0 to 7.
-const std::array<VoceUnita, 8>& TabellaUnitaGrafico();
-/// `UnitOffset` in dB of a unit; an index outside the list counts as 1, dBuV.
-float ImpostaUnita(int unitId);
 
 /// Top and bottom of the vertical range that a unit allows, in hundredths of a dB. An offset that
 /// the table does not know leaves both as they were.

@@ -55,8 +55,6 @@ public:
     std::span<uint8_t> Spazio(size_t n);
     void Aggiunti(size_t n) { fine_ += n; }
     void Consuma(size_t n) { inizio_ += n; }
-    /// Drops everything behind the first `n` bytes.
-    void Tronca(size_t n) { fine_ = inizio_ + n; }
     void Azzera() { inizio_ = fine_ = 0; }
 
 private:

@@ -17,6 +17,8 @@ constexpr double kTempoCaricamento = 0.3;
 constexpr int kTentativiCaricamento = 3;
 constexpr double kPausaLetturaFallita = 0.01;
 constexpr size_t kMaxLettura = 65536;
+constexpr size_t kMaxRiga = 65536;       ///< no reply is that long
+constexpr size_t kMaxRisposte = 1 << 20; ///< nor all those of an upload
 constexpr std::string_view kFineRiga = "\r\n";
 
 using Byte = std::vector<uint8_t>;
@@ -88,6 +90,9 @@ std::string AttendiRiga(Ricevitore& r, double tempoMax) {
             Annota(r, riga);
             return riga;
         }
+        // Of what is no reply only a CR at the end may still matter.
+        if (ricevuto.size() > kMaxRiga)
+            ricevuto.erase(ricevuto.begin(), ricevuto.end() - 1);
         if (fine.Passata())
             break;
         r.ambiente.ElaboraEventi(fine.Rimane(), Veglia::EventiELink);
@@ -171,7 +176,7 @@ std::string LeggiFinoASilenzio(Ricevitore& r) {
         return {};
     const GuardiaVolo guardia(r.stato, "(reading)");
     Byte tutto;
-    RaccogliFinche(r, tutto, kSilenzioBlocco, [] { return false; });
+    RaccogliFinche(r, tutto, kSilenzioBlocco, [&] { return tutto.size() >= kMaxRisposte; });
     const std::string testo = InTesto(tutto);
     r.log.Risposta(r.stato, testo, false);
     return testo;

@@ -41,7 +41,7 @@ std::string InviaComandoLento(Ricevitore& r, std::string_view chiave, std::strin
 /// A query answered by a block of known length; the text "Error" as bytes when it stays short.
 std::vector<uint8_t> LeggiBloccoFisso(Ricevitore& r, size_t quanti, std::string_view comando);
 
-/// Gathers whatever the receiver answers until it has been silent for 0.3 s.
+/// Gathers whatever the receiver answers until it has been silent for 0.3 s, a megabyte at most.
 std::string LeggiFinoASilenzio(Ricevitore& r);
 
 /// One line of an upload: three tries of 0.3 s, until the reply holds `attesa` and "OK"; "Error" or

@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kTentativiMuti = 3;
 constexpr double kPausa5520F = 0.7;
+constexpr double kDurataMinima = 0.1; ///< of a failed try
 constexpr std::string_view kSenzaDescrizione = "---";
 
 std::string InviaPerImpostare(Ricevitore& r, const ReceiverCommand& comando, bool svuotaPrima) {
@@ -23,11 +24,12 @@ bool Accettata(const std::string& risposta, const ReceiverCommand& comando) {
            Contiene(risposta, comando.Risposta[0]);
 }
 
-/// A try that took no time, such as one answered by the console itself, must not let the retries
-/// race.
+/// A try that takes no time, one refused at once or answered by the console itself, must not let
+/// the retries race.
 void RallentaSeFermo(Ricevitore& r, double inizio) {
-    if (r.ambiente.Adesso() <= inizio)
-        Attendi(r.ambiente, kTempoRisposta);
+    const double resto = kDurataMinima - (r.ambiente.Adesso() - inizio);
+    if (resto > 0)
+        Attendi(r.ambiente, resto);
 }
 
 /// What a setter does between two silent tries.

@@ -139,6 +139,8 @@ Risposta AmbienteTerminale::Risolvi(Pulsanti pulsanti) {
 
 Risposta AmbienteTerminale::Mostra(const Riquadro& riquadro) {
     const Risposta risposta = Risolvi(riquadro.pulsanti);
+    if (primaDelRiquadro)
+        primaDelRiquadro();
     std::fprintf(stderr, "[box] %s -> %s\n", SuUnaRiga(riquadro.testo).c_str(),
                  NomeRisposta(risposta));
     return risposta;

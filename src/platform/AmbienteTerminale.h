@@ -36,6 +36,8 @@ public:
     /// Called from every turn of the pump, for what happens by the clock; at least every 50 ms
     /// while something waits. Not from a turn inside itself.
     std::function<void()> alGiro;
+    /// Called before a box is printed: ends a line that stands half written.
+    std::function<void()> primaDelRiquadro;
 
 private:
     void Dormi(double alPiuS, Veglia veglia) const;

@@ -19,8 +19,8 @@ struct EnvRecord {
     std::array<uint8_t, 54> Window2{};
     std::array<uint8_t, 168> LookValues{};
     int16_t AutoStart = 0;
-    int16_t LinkKind = 0; ///< 0 serial, 1 USB
-    int16_t LinkPort = 0; ///< COM number, 1 or more
+    int16_t LinkKind = 1; ///< 0 serial, 1 USB
+    int16_t LinkPort = 1; ///< COM number, 1 or more
     std::string ScanPanelPath;
     std::string SetupPanelPath;
     std::string SweepPath;

@@ -24,10 +24,7 @@ void Segna(PreVolo& p, size_t riga, ColonnaScan colonna) {
 bool RiordinaTabella(PreVolo& p) {
     CompattaScanTable(p.scan.Righe);
     p.vista.AggiornaGriglia();
-    if (RigheInUso(p.scan.Righe) > 0)
-        return true;
-    p.motivo = "the scan table has no line in use";
-    return false;
+    return RigheInUso(p.scan.Righe) > 0;
 }
 
 /// A span turned round, or one that the unit in charge does not reach. Models with both inputs are
@@ -113,13 +110,16 @@ bool RisolviNomeMisura(PreVolo& p) {
 }
 
 constexpr std::array kCatena = {
-    VoceControllo{"table tidy", RiordinaTabella},
-    VoceControllo{"ControllaFstartFstopScanTab", ControllaFstartFstopScanTab},
-    VoceControllo{"ControllaDetRMSAVGScanTab", ControllaDetRMSAVGScanTab},
-    VoceControllo{"step copy", CopiaPassi},
-    VoceControllo{"ControlloStepScanTab", ControlloStepScanTab},
-    VoceControllo{"ImpostaCFSweep", ImpostaCFSweep},
-    VoceControllo{"ControlNameMeasProfiloB", RisolviNomeMisura},
+    VoceControllo{"table tidy", RiordinaTabella, "the scan table has no line in use"},
+    VoceControllo{"ControllaFstartFstopScanTab", ControllaFstartFstopScanTab,
+                  "start or stop frequency of a line"},
+    VoceControllo{"ControllaDetRMSAVGScanTab", ControllaDetRMSAVGScanTab,
+                  "a detector that this receiver does not have"},
+    VoceControllo{"step copy", CopiaPassi, ""},
+    VoceControllo{"ControlloStepScanTab", ControlloStepScanTab, "the step of a line"},
+    VoceControllo{"ImpostaCFSweep", ImpostaCFSweep, "the conversion factors were not accepted"},
+    VoceControllo{"ControlNameMeasProfiloB", RisolviNomeMisura,
+                  "the measure exists and is not to be replaced"},
 };
 
 void CancellaSegni(PreVolo& p) {
@@ -171,8 +171,7 @@ bool ControlliSweep(PreVolo& p) {
         return false;
     for (const VoceControllo& controllo : kCatena) {
         if (!controllo.esegui(p)) {
-            if (p.motivo.empty())
-                p.motivo = "refused by " + std::string(controllo.nome);
+            p.motivo = "refused: " + std::string(controllo.motivo);
             return false;
         }
     }

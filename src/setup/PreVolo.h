@@ -36,6 +36,7 @@ struct PreVolo {
 struct VoceControllo {
     std::string_view nome;
     bool (*esegui)(PreVolo&);
+    std::string_view motivo; ///< what is said of a run that it stopped
 };
 /// The chain, in order.
 std::span<const VoceControllo> CatenaControlli();

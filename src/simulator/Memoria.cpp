@@ -2,6 +2,7 @@
 #include "simulator/Memoria.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/Numeri.h"
 
@@ -47,7 +48,8 @@ int AttenuatorePer(const MemoriaSimulata& memoria, std::string_view nome) {
 }
 
 std::string HoldEffettivo(double ms, double rbwHz) {
-    return TestoDaNumero(ms > 0 ? ms : std::max(0.1, 2000 / rbwHz));
+    const double minimo = std::ceil(2000 / rbwHz * 1000) / 1000;
+    return TestoDaNumero(ms > 0 ? ms : std::max(0.1, minimo));
 }
 
 } // namespace orvane

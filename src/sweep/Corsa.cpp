@@ -22,9 +22,12 @@ namespace {
 constexpr double kInizioConcessoS = 5.0;
 constexpr double kAttesaComandoS = 0.2;
 constexpr double kSilenzioFinaleS = 0.05;
+constexpr double kResiduoMassimoS = 5.0;
 constexpr double kIntestazioneS = 1.0;
 constexpr int kTentativiIntestazione = 3;
 constexpr double kPeriodoTestoS = 0.1;
+// Beyond twice its steps and this many more a stream is no sweep: it would fill the disk.
+constexpr long long kPassiDiTroppo = 1000;
 constexpr size_t kBloccoLettura = 256 * 1024;
 
 /// Where the radiated input begins on the models that have both, MHz.
@@ -60,13 +63,16 @@ private:
     void InviaImpostazioniCorsa();
     void CompilaIntestazione();
     bool EseguiRiga(size_t indice);
+    void PreparaIngresso(const ScanLine& riga);
     void SettaRadCondK3XSweep(const ScanLine& riga);
     bool AvviaPassata(const ScanLine& riga);
     bool RiceviPassata(ScanLine& riga);
     bool ControllaInterruzioni();
+    bool AttendeIntestazione() const;
     bool Attendi5520F(Scadenza& intestazione, const ScanLine& riga);
     bool LetturaFallita();
     bool Elabora(ScanLine& riga);
+    void FermaFlusso();
     void MostraDati(const ScanLine& riga, Passi passi);
     void ApplicaPassoAnnunciato(ScanLine& riga);
     bool SweepRifiutato();
@@ -83,6 +89,10 @@ private:
     Ricevitore& r_;
     Scrivania& s_;
     std::string misura_;
+    /// The table as the checks left it, and then as the receiver ran it: what the header tells. The
+    /// user's own stays as it is.
+    ScanRecord scan_;
+    bool preparata_ = false; ///< what an older measure of this name held is gone
     EsitoCorsa esito_ = EsitoCorsa::Compiuta;
     std::optional<Progresso> progresso_;
     std::optional<LettoreFlusso> lettore_;
@@ -117,10 +127,11 @@ bool Svolgimento::Controlli() {
                  .motivo = {}};
     const bool bene = ControlliSweep(volo);
     misura_ = volo.misura;
+    scan_ = c_.scan;
     if (bene && !Interrotta())
         return true;
     if (r_.stato.AbbandonaComandi)
-        return Fallisci(EsitoCorsa::Abbandonata, "abandoned");
+        return Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up");
     if (c_.stato.StopRichiesto)
         return Fallisci(EsitoCorsa::Fermata, "stopped");
     if (!r_.porta.Aperta())
@@ -138,12 +149,13 @@ bool Svolgimento::PreparaMisura() {
         return ControllaInterruzioni();
     CompilaIntestazione();
     PreparaCartellaMisura(s_, misura_);
-    CopiaFileLimSweep(s_, misura_, c_.scan.Righe);
+    preparata_ = true;
+    CopiaFileLimSweep(s_, misura_, scan_.Righe);
     CopiaFileFacSweep(s_, misura_);
-    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup))
+    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup))
         return Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
-    progresso_.emplace(r_.ambiente, c_.scan.Righe);
-    c_.vista.IniziaTraccia(c_.scan.Righe, misura_);
+    progresso_.emplace(r_.ambiente, scan_.Righe);
+    c_.vista.IniziaTraccia(scan_.Righe, misura_);
     return true;
 }
 
@@ -184,7 +196,7 @@ void Svolgimento::CompilaIntestazione() {
 }
 
 bool Svolgimento::PercorriRighe() {
-    const size_t righe = RigheInUso(c_.scan.Righe);
+    const size_t righe = RigheInUso(scan_.Righe);
     for (size_t i = 0; i < righe; ++i) {
         if (!EseguiRiga(i))
             return false;
@@ -194,7 +206,7 @@ bool Svolgimento::PercorriRighe() {
 
 bool Svolgimento::EseguiRiga(size_t indice) {
     Fase(FaseCorsa::Riga);
-    ScanLine& riga = c_.scan.Righe[indice];
+    ScanLine& riga = scan_.Righe[indice];
     progresso_->IniziaRiga(static_cast<int>(indice));
     passoMhz_ = riga.Step;
     passiRiga_ = 0;
@@ -208,13 +220,24 @@ bool Svolgimento::EseguiRiga(size_t indice) {
     VisualizzaBatteria();
     if (Interrotta())
         return ControllaInterruzioni();
-    SettaRadCondK3XSweep(riga);
+    PreparaIngresso(riga);
+    if (Interrotta())
+        return ControllaInterruzioni();
     if (!AvviaPassata(riga) || !RiceviPassata(riga))
         return false;
     traccia_.Chiudi();
     progresso_->FineRiga();
     RileggiHoldTimeSW(riga);
     return !Interrotta() || ControllaInterruzioni();
+}
+
+/// What a line asks of the receiver ahead of its command.
+void Svolgimento::PreparaIngresso(const ScanLine& riga) {
+    if (HaGeneratore(r_.modello) && s_.setup.TGOn != 0)
+        ImpostaTracking(r_, true);
+    Attendi(r_.ambiente, kAttesaComandoS);
+    if (!Interrotta())
+        SettaRadCondK3XSweep(riga);
 }
 
 /// Gives the input that the line needs, on the models that have a conducted and a radiated one.
@@ -231,9 +254,6 @@ void Svolgimento::SettaRadCondK3XSweep(const ScanLine& riga) {
 }
 
 bool Svolgimento::AvviaPassata(const ScanLine& riga) {
-    Attendi(r_.ambiente, kAttesaComandoS);
-    if (Interrotta())
-        return ControllaInterruzioni();
     const std::string comando = ComponiComandoSweep(r_.modello, riga);
     lettore_.emplace(riga.Detector, r_.modello.Is5520F);
     r_.porta.SvuotaRicezione();
@@ -253,8 +273,11 @@ bool Svolgimento::RiceviPassata(ScanLine& riga) {
     Scadenza termine(r_.ambiente, TempoMassimo(riga));
     Scadenza intestazione(r_.ambiente, kIntestazioneS);
     while (true) {
-        const bool pronti = r_.porta.ByteInCoda() > 0;
-        r_.ambiente.ElaboraEventi(pronti ? 0 : termine.Rimane(), Veglia::EventiELink);
+        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta();
+        const double attesa = AttendeIntestazione()
+                                  ? std::min(termine.Rimane(), intestazione.Rimane())
+                                  : termine.Rimane();
+        r_.ambiente.ElaboraEventi(subito ? 0 : attesa, Veglia::EventiELink);
         if (Interrotta())
             return ControllaInterruzioni();
         const size_t letti = r_.porta.LeggiInAccumulo(kBloccoLettura);
@@ -277,14 +300,18 @@ bool Svolgimento::RiceviPassata(ScanLine& riga) {
     return true;
 }
 
+/// Whether a header is still to come for which the command may be sent once more.
+bool Svolgimento::AttendeIntestazione() const {
+    return lettore_->StatoAttuale() == LettoreFlusso::Stato::Intestazione &&
+           r_.modello.TipoFrontEnd >= 2 && tentativiIntestazione_ < kTentativiIntestazione;
+}
+
 /// A fast front-end may acknowledge and then send no header: after a second the command goes out
 /// again, three times at most.
 bool Svolgimento::Attendi5520F(Scadenza& intestazione, const ScanLine& riga) {
     if (lettore_->StatoAttuale() == LettoreFlusso::Stato::Riscontro)
         intestazione.Rinnova(kIntestazioneS);
-    const bool manca = lettore_->StatoAttuale() == LettoreFlusso::Stato::Intestazione &&
-                       r_.modello.TipoFrontEnd >= 2 && intestazione.Passata();
-    if (!manca || tentativiIntestazione_ >= kTentativiIntestazione)
+    if (!AttendeIntestazione() || !intestazione.Passata())
         return true;
     ++tentativiIntestazione_;
     return AvviaPassata(riga);
@@ -306,9 +333,22 @@ bool Svolgimento::Elabora(ScanLine& riga) {
     if (!scritti) {
         r_.ambiente.Mostra({.testo = "Cannot save file " + s_.albero.DataRoot() + percorsoTraccia_,
                             .icona = Icona::Esclamazione});
+        FermaFlusso();
         return Fallisci(EsitoCorsa::GuastoFile, "cannot write " + percorsoTraccia_);
     }
+    if (passiRiga_ > 2 * PassiDellaRiga(riga) + kPassiDiTroppo) {
+        FermaFlusso();
+        return Fallisci(EsitoCorsa::GuastoLink, "the receiver sends more steps than the line has");
+    }
     return stato != LettoreFlusso::Stato::Rifiutato || SweepRifiutato();
+}
+
+/// Ends a stream that nobody reads any more. Its reply would be lost among the samples, so none is
+/// waited for.
+void Svolgimento::FermaFlusso() {
+    InviaGrezzo(r_, "#ASBK*");
+    Attendi(r_.ambiente, kAttesaComandoS);
+    r_.porta.SvuotaRicezione();
 }
 
 void Svolgimento::MostraDati(const ScanLine& riga, Passi passi) {
@@ -345,7 +385,8 @@ bool Svolgimento::SweepRifiutato() {
 
 void Svolgimento::ScarigaDatiSweepRestanti() {
     Scadenza silenzio(r_.ambiente, kSilenzioFinaleS);
-    while (!silenzio.Passata() && r_.porta.Aperta()) {
+    const Scadenza fine(r_.ambiente, kResiduoMassimoS); // a receiver that never falls silent
+    while (!silenzio.Passata() && !fine.Passata() && !Interrotta() && r_.porta.Aperta()) {
         r_.ambiente.ElaboraEventi(silenzio.Rimane(), Veglia::EventiELink);
         if (r_.porta.LeggiInAccumulo(kBloccoLettura) > 0)
             silenzio.Rinnova(kSilenzioFinaleS);
@@ -371,8 +412,9 @@ void Svolgimento::VisualizzaBatteria() {
 bool Svolgimento::ControllaInterruzioni() {
     Fase(FaseCorsa::Arresto);
     FermaRicevitore();
-    return r_.stato.AbbandonaComandi ? Fallisci(EsitoCorsa::Abbandonata, "abandoned")
-                                     : Fallisci(EsitoCorsa::Fermata, "stopped");
+    return r_.stato.AbbandonaComandi
+               ? Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up")
+               : Fallisci(EsitoCorsa::Fermata, "stopped");
 }
 
 void Svolgimento::FermaRicevitore() {
@@ -381,7 +423,7 @@ void Svolgimento::FermaRicevitore() {
 }
 
 bool Svolgimento::RiscriviHeader() {
-    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup))
+    if (!SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup))
         return Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
     c_.vista.MostraAvanzamento(progresso_->Adesso());
     SalvaPanelEAM(s_, kPannelloEAM);
@@ -392,8 +434,9 @@ void Svolgimento::Fallimento() {
     Fase(FaseCorsa::Guasto);
     if (linkVivo_ && !r_.stato.AbbandonaComandi)
         VisualizzaBatteria();
-    if (!c_.stato.misura.empty() && s_.albero.EsisteCartella(CartellaMisura(misura_)))
-        SalvaHeaderSweep(s_, PercorsoKSH(misura_), c_.scan, s_.setup);
+    // An older measure that still stands keeps its own header.
+    if (preparata_ && s_.albero.EsisteCartella(CartellaMisura(misura_)))
+        SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup);
     traccia_.Chiudi();
 }
 
@@ -415,13 +458,10 @@ EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura) {
     }
     Svolgimento svolgimento(corsa, misura);
     if (svolgimento.Controlli()) {
-        // The table as the checks left it comes back, whatever the run writes into its header.
-        const ScanTable tabella = corsa.scan.Righe;
         const bool bene = svolgimento.PreparaMisura() && svolgimento.PercorriRighe() &&
                           svolgimento.RiscriviHeader();
         if (!bene)
             svolgimento.Fallimento();
-        corsa.scan.Righe = tabella;
     }
     svolgimento.RipristinaCondizioniExitSweep();
     return svolgimento.Esito();

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view kFineSweep = "SFD_END";
 constexpr size_t kByteIntestazione = 32;
+constexpr size_t kMaxRiscontro = 4096;
 
 constexpr std::array<std::string_view, 9> kParoleErrore = {"",
                                                            "set start or stop freq.",
@@ -62,9 +63,8 @@ std::string_view ParoleErroreSweep(int codice) {
 }
 
 double ArrotondaPasso5520F(float hz) {
-    const double mhz = static_cast<double>(hz) / 1e6;
-    const double scala = mhz < 10 ? 1e8 : mhz < 100 ? 1e7 : 1e6;
-    return std::round(mhz * scala) / scala;
+    const double scala = hz < 10 ? 1e8 : hz < 100 ? 1e7 : 1e6;
+    return std::round(static_cast<double>(hz) / 1e6 * scala) / scala;
 }
 
 LettoreFlusso::LettoreFlusso(const std::array<int16_t, kNumDetector>& detector, bool con5520F)
@@ -91,8 +91,12 @@ LettoreFlusso::Avanza(Accumulo& dati,
 bool LettoreFlusso::LeggiRiscontro(Accumulo& dati) {
     const std::string_view testo = ComeTesto(dati.Dati());
     const auto fine = testo.find("\r\n");
-    if (fine == std::string_view::npos)
+    if (fine == std::string_view::npos) {
+        // No line is that long: of what is none, only a CR at the end may still matter.
+        if (testo.size() > kMaxRiscontro)
+            dati.Consuma(testo.size() - 1);
         return false;
+    }
     const std::string riga(testo.substr(0, fine));
     dati.Consuma(fine + 2);
     if (!Contiene(riga, "SFD"))
@@ -112,7 +116,7 @@ void LettoreFlusso::LeggiIntestazione(Accumulo& dati) {
     if (dati.Quanti() < kByteIntestazione)
         return;
     const auto hz = std::bit_cast<float>(LeggiLittle<uint32_t>(dati.Dati().data()));
-    if (std::isfinite(hz) && hz > 0)
+    if (std::isfinite(hz) && ArrotondaPasso5520F(hz) > 0)
         passo_ = ArrotondaPasso5520F(hz);
     dati.Consuma(kByteIntestazione);
     stato_ = Stato::Campioni;

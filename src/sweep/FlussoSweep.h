@@ -25,8 +25,8 @@ constexpr int16_t DecodificaLivello(uint8_t basso, uint8_t alto) {
 /// Words of the parameter that an "SFD=ERR n" names; empty for an unknown number.
 std::string_view ParoleErroreSweep(int codice);
 
-/// Step that a 5520F announces, from Hz to MHz, with its rounding: 8 decimals below 10 MHz, 7 below
-/// 100, 6 above.
+/// Step that a 5520F announces, from Hz to MHz, with its rounding: 8 decimals below 10 Hz, 7 below
+/// 100 Hz, 6 above.
 double ArrotondaPasso5520F(float hz);
 
 /// Reads a pass's stream out of the accumulation buffer, as far as it has come. Bytes may be split

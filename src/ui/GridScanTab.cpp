@@ -14,7 +14,7 @@ namespace orvane {
 namespace {
 
 /// Shares of the width, by `ColonnaScan`.
-constexpr std::array<int, 12> kQuote = {4, 9, 9, 8, 9, 9, 10, 8, 7, 7, 13, 9};
+constexpr std::array<int, 12> kQuote = {4, 8, 8, 8, 9, 10, 10, 8, 9, 8, 12, 9};
 
 } // namespace
 
@@ -81,7 +81,9 @@ void GridScanTab::Avanza() {
         const QModelIndex cella = modello_->index(riga, colonna);
         if (!cella.isValid())
             return;
-        if (cella.flags() & Qt::ItemIsEditable)
+        const bool detector = static_cast<ColonnaScan>(colonna) == ColonnaScan::Detector &&
+                              RigaCompleta(modello_->Riga(riga));
+        if (detector || cella.flags() & Qt::ItemIsEditable)
             return setCurrentIndex(cella);
     }
 }
@@ -108,7 +110,7 @@ void GridScanTab::keyPressEvent(QKeyEvent* evento) {
 
 void GridScanTab::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
-    const int largo = std::max(viewport()->width(), fontMetrics().averageCharWidth() * 110);
+    const int largo = std::max(viewport()->width(), fontMetrics().averageCharWidth() * 96);
     int somma = 0;
     for (const int quota : kQuote)
         somma += quota;

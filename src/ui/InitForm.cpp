@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "base/Versione.h"
@@ -65,6 +66,8 @@ InitForm::InitForm() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHi
         pezzo->setAlignment(Qt::AlignCenter);
         colonna->addWidget(pezzo);
     }
+    adjustSize();
+    move(screen()->availableGeometry().center() - rect().center());
 }
 
 void InitForm::paintEvent(QPaintEvent*) {

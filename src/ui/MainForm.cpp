@@ -138,6 +138,9 @@ QWidget* MainForm::CreaPiedeArchivio() {
     titoloMisura_ = new QLabel(piede);
     titoloMisura_->setObjectName(QStringLiteral("LBMisura"));
     titoloMisura_->setContentsMargins(10, 10, 10, 10);
+    QFont carattere = titoloMisura_->font();
+    carattere.setWeight(QFont::DemiBold);
+    titoloMisura_->setFont(carattere);
     righeMisura_ = new GridScanTab(righeAperte_, false, piede);
     righeMisura_->setObjectName(QStringLiteral("GridRigheMisura"));
     righeMisura_->setAccessibleName(tr("Scan lines of the measure"));

@@ -36,6 +36,11 @@ void MainForm::MostraTitolo(const std::string& titolo) {
 void MainForm::MostraScheda(Modalita modalita) {
     const QSignalBlocker zitte(schede_);
     schede_->setCurrentIndex(static_cast<int>(modalita));
+    if (console_->stato.modalita == modalita && console_->ricevitore.porta.Aperta())
+        return;
+    AggiornaEtichette();
+    if (modalita != Modalita::SweepsArchive && modalita != Modalita::Sweep)
+        stato_->MostraMessaggio(tr("Looking for the receiver: %1").arg(DescrizioneLink()));
 }
 
 void MainForm::DisabilitaMenu() {
@@ -110,11 +115,11 @@ void MainForm::ApriMisuraScelta(const QString& nome) {
                            : !misura_.leggibile      ? tr("%1 cannot be read").arg(nome)
                            : misura_.traccia.empty() ? tr("%1 holds no samples").arg(nome)
                                                      : QString());
-    stato_->MostraMessaggio(
-        misura_.leggibile && !misura_.header.Setup.ModelText.empty()
-            ? QStringLiteral("%1 · %2 FW %3")
-                  .arg(nome, Q(misura_.header.Setup.ModelText), Q(misura_.header.Setup.FwRelease))
-            : nome);
+    stato_->MostraMessaggio(misura_.leggibile && !misura_.header.Setup.ModelText.empty()
+                                ? QStringLiteral("%1 · %2 FW %3")
+                                      .arg(nome, Q(misura_.header.Setup.ModelText),
+                                           TestoFirmware(misura_.header.Setup.FwRelease))
+                                : nome);
     DisegnaMisura(-1);
 }
 
@@ -139,11 +144,12 @@ void MainForm::AggiornaEtichette() {
     const Ricevitore& r = console_->ricevitore;
     const bool archivio = console_->stato.modalita == Modalita::SweepsArchive;
     const bool noto = !r.modello.FwTesto.empty();
-    chipModello_->Mostra(archivio ? tr("No receiver needed")
-                         : noto   ? QStringLiteral("%1  FW %2")
-                                      .arg(Q(NomeModello(r.modello, false)), Q(r.modello.FwTesto))
-                                : QString(),
-                         !archivio && r.porta.Aperta());
+    chipModello_->Mostra(
+        archivio ? tr("No receiver needed")
+        : noto   ? QStringLiteral("%1  FW %2")
+                     .arg(Q(NomeModello(r.modello, false)), TestoFirmware(r.modello.FwTesto))
+               : QString(),
+        !archivio && r.porta.Aperta());
     chipLink_->Mostra(archivio ? QString() : DescrizioneLink());
     chipBatteria_->Mostra(archivio || batteria_.empty() ? QString()
                                                         : tr("Battery %1").arg(Q(batteria_)));

@@ -1,6 +1,7 @@
 // What a run and the protocol say to the main window.
 #include <QMenuBar>
 
+#include "base/Numeri.h"
 #include "graph/Scala.h"
 #include "ui/MainForm.h"
 #include "ui/Testi.h"
@@ -92,7 +93,8 @@ void MainForm::MostraAvanzamento(const Avanzamento& avanzamento) {
 }
 
 void MainForm::MostraBatteria(const std::string& livello) {
-    batteria_ = livello;
+    // The receiver tells a bare percentage; anything else is shown as it is.
+    batteria_ = LeggiNumero(livello) ? livello + " %" : livello;
     AggiornaEtichette();
 }
 

@@ -59,6 +59,8 @@ QVariant ModelloScan::data(const QModelIndex& indice, int ruolo) const {
         if (colonna == ColonnaScan::HoldTime)
             return Q(TestoDaNumero(riga.HoldTime));
         return data(indice, Qt::DisplayRole);
+    case Qt::ToolTipRole: // what the column is too narrow for
+        return data(indice, Qt::DisplayRole);
     case Qt::UserRole:
         return Errata(indice);
     case Qt::FontRole:

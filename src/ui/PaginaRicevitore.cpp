@@ -28,9 +28,8 @@ QString Estensione(const ReceiverModel& m) {
 QString Gamma(const ReceiverModel& m) {
     if (m.FMinLink < 0 || m.FMaxLink <= 0)
         return {};
-    return QStringLiteral("%1 to %2")
-        .arg(TestoFrequenza(static_cast<double>(m.FMinLink)),
-             TestoFrequenza(static_cast<double>(m.FMaxLink)));
+    return QStringLiteral("%1 to %2 MHz")
+        .arg(Q(TestoDaNumero(m.FMinLink)), Q(TestoDaNumero(m.FMaxLink)));
 }
 
 } // namespace

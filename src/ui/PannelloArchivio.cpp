@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "base/Numeri.h"
 #include "base/Testo.h"
 #include "setup/TabellaScan.h"
 #include "ui/Moduli.h"
@@ -215,10 +216,10 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
                  .arg(misura.traccia.size())
                  .arg(RigheInUso(misura.header.Scan.Righe));
     if (misura.stopMhz > 0)
-        righe
-            << tr("%1 to %2").arg(TestoFrequenza(misura.startMhz), TestoFrequenza(misura.stopMhz));
+        righe << tr("%1 to %2 MHz")
+                     .arg(Q(TestoDaNumero(misura.startMhz)), Q(TestoDaNumero(misura.stopMhz)));
     if (!setup.ModelText.empty())
-        righe << tr("Receiver %1  FW %2").arg(Q(setup.ModelText), Q(setup.FwRelease));
+        righe << tr("Receiver %1  FW %2").arg(Q(setup.ModelText), TestoFirmware(setup.FwRelease));
     if (!setup.SerialA.empty())
         righe << tr("S/N %1").arg(Q(setup.SerialA + setup.SerialB));
     dettagli_->setText(righe.join(QLatin1Char('\n')));

@@ -35,6 +35,8 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
     riga->addWidget(passata_);
     riga->addWidget(barra_);
     riga->addWidget(tempo_);
+    // One height with the bar and without it.
+    setMinimumHeight(fontMetrics().height() + 12);
     CancellaBarre();
 }
 

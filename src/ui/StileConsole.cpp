@@ -109,8 +109,7 @@ void Linguetta(QPainter& p, const QStyleOption& o) {
     const QRect r = o.rect.adjusted(1, 1, -1, -1);
     const bool scelta = o.state & QStyle::State_Selected;
     if (scelta)
-        Arrotondato(p, r, Tinta(o.palette, Acceso(o) ? Ruolo::Accento : Ruolo::BordoCampo),
-                    QColor(), 5);
+        Arrotondato(p, r, Tinta(o.palette, Ruolo::Accento), QColor(), 5);
     else if (o.state & QStyle::State_MouseOver && Acceso(o))
         Arrotondato(p, r, Tinta(o.palette, Ruolo::Sorvolo), QColor(), 5);
     if (Fuoco(o) && o.state & QStyle::State_KeyboardFocusChange)
@@ -119,7 +118,7 @@ void Linguetta(QPainter& p, const QStyleOption& o) {
 
 void TestoLinguetta(QPainter& p, const QStyleOptionTab& o) {
     const bool scelta = o.state & QStyle::State_Selected;
-    const Ruolo ruolo = !Acceso(o) ? Ruolo::Spento : scelta ? Ruolo::SuAccento : Ruolo::Tenue;
+    const Ruolo ruolo = scelta ? Ruolo::SuAccento : Acceso(o) ? Ruolo::Tenue : Ruolo::Spento;
     QFont carattere = p.font();
     carattere.setWeight(scelta ? QFont::DemiBold : QFont::Medium);
     p.save();
@@ -161,6 +160,12 @@ void StileConsole::drawPrimitive(PrimitiveElement elemento, const QStyleOption* 
         if (const auto* cornice = qstyleoption_cast<const QStyleOptionFrame*>(o))
             if (cornice->lineWidth > 0)
                 return Campo(*p, *o);
+        return;
+    case PE_FrameMenu:
+    case PE_Frame:
+        p->setPen(Tinta(o->palette, Ruolo::BordoCampo));
+        p->setBrush(Qt::NoBrush);
+        p->drawRect(o->rect.adjusted(0, 0, -1, -1));
         return;
     case PE_FrameLineEdit:
     case PE_FrameFocusRect:
@@ -292,6 +297,11 @@ QSize StileConsole::sizeFromContents(ContentsType tipo, const QStyleOption* o, c
         return {misura.width() + 12, riga + 14};
     case CT_MenuBarItem:
         return {misura.width() + 14, riga + 9};
+    case CT_ItemViewItem:
+        // Only the lists that drop down: grids and lists of measures set their own rows.
+        if (oggetto && oggetto->inherits("QComboBoxListView"))
+            esito.setHeight(qMax(esito.height(), riga + 8));
+        break;
     case CT_ProgressBar:
         esito.setHeight(10);
         break;
@@ -314,6 +324,8 @@ int StileConsole::pixelMetric(PixelMetric metrica, const QStyleOption* o,
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return 8;
+    case PM_HeaderMargin:
+        return 9;
     case PM_SplitterWidth:
         return 1;
     case PM_MenuBarPanelWidth:

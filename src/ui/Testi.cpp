@@ -21,4 +21,8 @@ QString TestoFrequenza(double mhz) {
     return Q(TestoFisso(mhz, decimali)) + QStringLiteral(" MHz");
 }
 
+QString TestoFirmware(std::string_view firmware) {
+    return Q(firmware).section(QLatin1Char(' '), 0, 0);
+}
+
 } // namespace orvane

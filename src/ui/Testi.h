@@ -19,4 +19,7 @@ QString TestoDurata(double secondi);
 /// A frequency as a reader wants it: "0.512 MHz".
 QString TestoFrequenza(double mhz);
 
+/// The version alone: behind it a receiver's firmware text has its date.
+QString TestoFirmware(std::string_view firmware);
+
 } // namespace orvane

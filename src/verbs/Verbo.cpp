@@ -4,6 +4,9 @@
 #include <array>
 #include <ostream>
 
+#include "base/Percorsi.h"
+#include "base/Testo.h"
+
 namespace orvane {
 namespace {
 
@@ -26,6 +29,21 @@ constexpr std::array kVerbi = {
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"
         "      KSH",
         VerboPanel},
+    VoceVerbo{"limit",
+              "list | show NAME | value NAME HZ ... | export NAME FILE | library\n"
+              "        | import NAME FILE [--unit U] [--title T] [--lin]\n"
+              "        | store NAME --slot N [--name TEXT]",
+              "limit tables; `value` in hundredths of a dB, `library` copies the starter limits",
+              VerboLimit},
+    VoceVerbo{
+        "factor",
+        "list | show NAME | value NAME HZ ... | export NAME FILE\n"
+        "        | import NAME FILE [--unit U] [--title T] | store NAME --slot N [--name TEXT]",
+        "factor tables", VerboFactor},
+    VoceVerbo{
+        "table",
+        "list | show NAME | export NAME FILE | import NAME FILE [--unit U]; all with [--mast]",
+        "frequency tables, with --mast those with positions", VerboTable},
 };
 
 } // namespace
@@ -38,6 +56,15 @@ const VoceVerbo* TrovaVerbo(std::string_view nome) {
     const auto voce = std::find_if(kVerbi.begin(), kVerbi.end(),
                                    [&](const VoceVerbo& v) { return v.nome == nome; });
     return voce == kVerbi.end() ? nullptr : &*voce;
+}
+
+std::optional<std::string> NomeAmmesso(std::string_view parola) {
+    const std::string nome = Rifila(parola);
+    const bool controlli =
+        std::any_of(nome.begin(), nome.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
+    if (nome.empty() || controlli || ControllaNomeMisura(nome) != nome)
+        return std::nullopt;
+    return nome;
 }
 
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -49,6 +50,9 @@ struct VoceVerbo {
 std::span<const VoceVerbo> TabellaVerbi();
 const VoceVerbo* TrovaVerbo(std::string_view nome);
 
+/// A name that a file may bear, trimmed; empty for any other.
+std::optional<std::string> NomeAmmesso(std::string_view parola);
+
 /// Says what is wrong with the words, and how the verb is used.
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);
 EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche);
@@ -62,5 +66,8 @@ EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
+EsitoVerbo VerboLimit(Banco& banco, Parole parole);
+EsitoVerbo VerboFactor(Banco& banco, Parole parole);
+EsitoVerbo VerboTable(Banco& banco, Parole parole);
 
 } // namespace orvane

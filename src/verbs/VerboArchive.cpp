@@ -95,11 +95,13 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole) {
     if (!argomenti.Errore().empty() || argomenti.Posizioni().size() != 1)
         return UsoErrato(banco, "trace",
                          argomenti.Errore().empty() ? "wants one MEASURE" : argomenti.Errore());
-    const std::string& nome = argomenti.Posizioni()[0];
-    const std::string base = argomenti.Opzione("sub").value_or(nome);
-    for (const std::string& testo : {nome, base})
-        if (testo.empty() || ControllaNomeMisura(testo) != testo)
-            return UsoErrato(banco, "trace", "\"" + testo + "\" is no valid name");
+    const std::string& chiesta = argomenti.Posizioni()[0];
+    const auto misura = NomeAmmesso(chiesta);
+    const auto passata = NomeAmmesso(argomenti.Opzione("sub").value_or(chiesta));
+    if (!misura || !passata)
+        return UsoErrato(banco, "trace", "MEASURE or NAME is no valid name");
+    const std::string& nome = *misura;
+    const std::string& base = *passata;
     if (!banco.scrivania.albero.Esiste(TrovaKSH(banco.scrivania.albero, nome)))
         return Guasto(banco, kGuastoFile, "there is no measure " + PercorsoKSH(nome));
     ScanRecord scan;

@@ -237,15 +237,15 @@ EsitoVerbo VerboScan(Banco& banco, Parole parole) {
         return Elenca(banco);
     if (posizioni.size() != 2)
         return UsoErrato(banco, "scan", "wants the name of a scan table");
-    const std::string& nome = posizioni[1];
-    if (nome.empty() || ControllaNomeMisura(nome) != nome)
-        return UsoErrato(banco, "scan", "\"" + nome + "\" is no name for a scan table");
+    const auto nome = NomeAmmesso(posizioni[1]);
+    if (!nome)
+        return UsoErrato(banco, "scan", "\"" + posizioni[1] + "\" is no name for a scan table");
     if (posizioni[0] == "show")
-        return Mostra(banco, nome);
+        return Mostra(banco, *nome);
     if (posizioni[0] == "clear")
-        return Salva(banco, nome, ScanRecord{});
+        return Salva(banco, *nome, ScanRecord{});
     if (posizioni[0] == "add")
-        return Aggiungi(banco, nome, argomenti);
+        return Aggiungi(banco, *nome, argomenti);
     return UsoErrato(banco, "scan", "list, show, add or clear?");
 }
 

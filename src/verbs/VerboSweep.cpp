@@ -48,14 +48,16 @@ void DiMisura(Banco& banco, const std::string& misura, EsitoVerbo esito) {
 
 EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     const Argomenti argomenti(parole, {"scan", "name"});
-    const auto nomeScan = argomenti.Opzione("scan");
-    const std::string misura = argomenti.Opzione("name").value_or("Untitled");
-    if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty() || !nomeScan)
+    const auto scanChiesto = argomenti.Opzione("scan");
+    const std::string misuraChiesta = argomenti.Opzione("name").value_or("Untitled");
+    if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty() || !scanChiesto)
         return UsoErrato(banco, "sweep",
                          argomenti.Errore().empty() ? "wants --scan NAME" : argomenti.Errore());
-    for (const std::string& nome : {*nomeScan, misura})
-        if (nome.empty() || ControllaNomeMisura(nome) != nome)
-            return UsoErrato(banco, "sweep", "\"" + nome + "\" is no valid name");
+    const auto nomeScan = NomeAmmesso(*scanChiesto);
+    const auto misura = NomeAmmesso(misuraChiesta);
+    if (!nomeScan || !misura)
+        return UsoErrato(banco, "sweep",
+                         "\"" + (nomeScan ? misuraChiesta : *scanChiesto) + "\" is no valid name");
     const std::string percorso = PercorsoPannello(*nomeScan, "EST");
     if (!banco.scrivania.albero.Esiste(percorso))
         return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
@@ -67,7 +69,7 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     ControllaScan(scan);
     banco.scrivania.env.ScanPanelPath = percorso;
     Corsa corsa{banco.scrivania, banco.ricevitore, scan, banco.corsa, banco.vista};
-    const EsitoVerbo esito = DaCorsa(banco, ClickExecuteSweep(corsa, misura));
+    const EsitoVerbo esito = DaCorsa(banco, ClickExecuteSweep(corsa, *misura));
     banco.vista.FineRiga();
     if (!banco.corsa.misura.empty())
         DiMisura(banco, banco.corsa.misura, esito);

@@ -83,6 +83,9 @@ void VistaTerminale::MostraFreqLivello(double freqMhz, int16_t livelloCent) {
 
 void VistaTerminale::MostraAvanzamento(const Avanzamento& avanzamento) {
     const bool intero = avanzamento.frazione >= 1;
+    if (intero && intero_ && !riscrivi_)
+        return;
+    intero_ = intero;
     const double ora = ambiente_.Adesso();
     if (!riscrivi_ && !intero && ultimo_ >= 0 && ora - ultimo_ < kPeriodoRigheS)
         return;

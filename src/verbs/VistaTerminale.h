@@ -46,6 +46,7 @@ private:
     bool aMeta_ = false; ///< a progress line waits for its end
     double strisciaDa_ = -1;
     double ultimo_ = -1;
+    bool intero_ = false; ///< the last word was of a whole run
     double freqMhz_ = 0;
     int16_t livelloCent_ = kNessunLivello;
 };

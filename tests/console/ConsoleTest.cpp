@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "aiuto/BancoSimulato.h"
+#include "base/Testo.h"
 #include "console/Titolo.h"
 #include "link/Comandi.h"
 #include "link/Protocollo.h"
@@ -19,10 +20,11 @@ using prova::BancoSimulato;
 /// Notes what the modes tell the main window, and serves `TimerTask` as a window would.
 struct VistaModi : VistaConsole {
     std::vector<std::string> detto;
+    std::string titolo;
     bool timer = false;
     bool terminato = false;
 
-    void MostraTitolo(const std::string&) override {}
+    void MostraTitolo(const std::string& testo) override { titolo = testo; }
     void MostraScheda(Modalita m) override { Nota("tab", m); }
     void DisabilitaMenu() override { detto.push_back("menus off"); }
     void EntraArchivio() override { detto.push_back("archive"); }
@@ -104,7 +106,9 @@ TEST_F(ConsoleTest, ALiveModeIdentifiesTheReceiverAndLeavesItQuiet) {
     EXPECT_EQ(comandi[0], "#ASBK*");
     EXPECT_EQ(comandi[1], "#?IDN*");
     EXPECT_EQ(comandi.back(), "#SCFA -1*");
+    EXPECT_TRUE(Contiene(vista.titolo, "Panel: ")) << vista.titolo;
     ClickSSTabMode(console, Modalita::SweepsArchive);
+    EXPECT_FALSE(Contiene(vista.titolo, "Panel")) << vista.titolo;
     EXPECT_EQ(comandi.back(), "#SSTP*");
     EXPECT_FALSE(banco.porta.Aperta());
     EXPECT_EQ(stato.modalita, Modalita::SweepsArchive);

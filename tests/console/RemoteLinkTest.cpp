@@ -47,8 +47,10 @@ TEST_F(RemoteLinkTest, EachChoiceIsOnDiskAtOnceAndOkKeepsIt) {
     ComboPortDevice(banco.scrivania, banco.porta.link, "Communications Port (COM1)");
     EXPECT_EQ(SuDisco().LinkPort, 1);
     EXPECT_EQ(banco.porta.link.NumeroCom, 1);
-    ComboPortDevice(banco.scrivania, banco.porta.link, "no number here");
-    EXPECT_EQ(SuDisco().LinkPort, 1);
+    for (const char* nome : {"no number here", "none (COM)", "zero (COM0)", "Bad (COM-3)"}) {
+        ComboPortDevice(banco.scrivania, banco.porta.link, nome);
+        EXPECT_EQ(SuDisco().LinkPort, 1) << nome;
+    }
     ConfermaRemoteLink(banco.scrivania);
     EXPECT_FALSE(banco.scrivania.albero.Esiste("Panels\\TMP.TMP"));
     EXPECT_EQ(SuDisco().LinkKind, 0);

@@ -1,5 +1,7 @@
 """Wrong use of the command line: status, words, and nothing written."""
 
+import struct
+
 from comune import Esegui, ProvaStrada
 
 # words of the command line: status, what standard error must say
@@ -114,6 +116,29 @@ class ProvaUso(ProvaStrada):
         self.Tabella("T", "--band B")
         for parole in (["/LOGCOMANDI", "scan", "list"], ["scan", "/TIMELOG", "list", "/INFOMOD"]):
             self.assertEqual(self.Riesce(*parole).out, "T\n")
+        # A path in capitals is none.
+        self.assertEqual(self.Orvane("scan", "show", "/T").codice, 2)
+
+    def test_nomi_con_spazi(self):
+        """Blanks around a name are not part of it, and nothing but blanks is no name."""
+        self.Tabella(" Due parole ", "--start 0.15 --stop 0.65")
+        self.assertEqual(self.Riesce("scan", "list").out, "Due parole\n")
+        self.Riesce("scan", "show", "Due parole")
+        self.Riesce("--link", "sim", "sweep", "--scan", "Due parole ", "--name", " Mäß 1")
+        self.assertGreater(len(self.Riesce("trace", "Mäß 1 ").out.splitlines()), 100)
+        for nome in ("   ", "a\nb", "a/b", ".."):
+            self.assertEqual(self.Orvane("scan", "add", nome, "--band", "B").codice, 2, nome)
+
+    def test_radice_nuova(self):
+        """Where no panel says anything the link is USB, also behind a run over another one."""
+        self.Tabella("T", "--start 0.15 --stop 0.65")
+        for _ in range(2):
+            esito = self.Orvane("identify")
+            self.assertEqual(esito.codice, 3, str(esito))
+            self.assertIn("USB", esito.err)
+            self.Riesce("--link", "sim", "--answer", "yes", "sweep", "--scan", "T")
+        env = (self.dati / "Panels" / "Untitled.EPN").read_bytes()
+        self.assertEqual(struct.unpack_from("<2h", env, 234), (1, 1))
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -98,6 +99,80 @@ TEST(CorsaFermata, KeepsWhatHasArrivedAndTellsTheReceiver) {
     EXPECT_EQ(PassiSuDisco(), 5971u);
 }
 
+TEST_F(CorsaTest, AnOlderMeasureStandsUntilTheNewOneHasBegun) {
+    ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    const auto header = banco.File(PercorsoKSH("M"));
+    banco.scrivania.setup.OverwriteWarning = 0;
+    banco.scan.Righe[0].Stop = 1.15;
+    Capriccia({.tipo = Capriccio::Tipo::Rifiuto, .comando = "SPLM"});
+    banco.ambiente.Fra(30, [this] { banco.stato.AbbandonaComandi = true; });
+    EXPECT_EQ(Esegui(), EsitoCorsa::Abbandonata);
+    EXPECT_EQ(banco.File(PercorsoKSH("M")), header);
+    EXPECT_EQ(PassiSuDisco(), 101u);
+}
+
+TEST_F(CorsaTest, TrackingIsSetOnceMoreBeforeEachLine) {
+    banco.scrivania.setup.TGOn = 1;
+    MettiBanda(banco.scan.Righe[1], "B", "A");
+    ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    const auto& comandi = banco.simulato.Comandi();
+    EXPECT_EQ(std::count(comandi.begin(), comandi.end(), "#STGTON*"), 3);
+    for (size_t i = 1; i < comandi.size(); ++i) {
+        if (comandi[i].starts_with("#SSFD")) {
+            EXPECT_EQ(comandi[i - 1], "#STGTON*");
+        }
+    }
+}
+
+/// A line on which bytes go on for ever once the sweep has been asked for: `coda` again and again.
+struct LineaLoquace : FlussoSimulato {
+    LineaLoquace(prova::AmbienteProva& ambiente, RicevitoreSimulato& simulato, std::string continua)
+        : FlussoSimulato(ambiente, simulato), orologio(ambiente), coda(std::move(continua)) {
+        ambiente.linkPronto = [this] { return InArrivo().value_or(0) > 0; };
+    }
+    bool Scrivi(std::span<const uint8_t> dati) override {
+        if (std::string_view(reinterpret_cast<const char*>(dati.data()), dati.size())
+                .starts_with("#SSFD"))
+            parla = true;
+        return FlussoSimulato::Scrivi(dati);
+    }
+    std::optional<size_t> InArrivo() override {
+        const auto veri = FlussoSimulato::InArrivo();
+        return veri == 0u && parla ? coda.size() : veri;
+    }
+    std::optional<size_t> Leggi(std::span<uint8_t> dove) override {
+        if (FlussoSimulato::InArrivo() != 0u || !parla)
+            return FlussoSimulato::Leggi(dove);
+        orologio.ora += 0.001; // as a line takes its time
+        const size_t quanti = std::min(coda.size(), dove.size());
+        std::copy_n(coda.begin(), quanti, dove.begin());
+        return quanti;
+    }
+    prova::AmbienteProva& orologio;
+    std::string coda;
+    bool parla = false;
+};
+
+TEST_F(CorsaTest, AReceiverThatNeverFallsSilentDoesNotHoldTheRun) {
+    LineaLoquace linea(banco.ambiente, banco.simulato, std::string(500, 'x'));
+    banco.porta.fisso->flusso = &linea;
+    // Behind the end mark: what the line holds is complete, and the user can leave the drain.
+    banco.ambiente.Fra(4, [this] { banco.stato.AbbandonaComandi = true; });
+    EXPECT_EQ(Esegui(), EsitoCorsa::Abbandonata);
+    EXPECT_EQ(PassiSuDisco(), 101u);
+    EXPECT_LT(banco.ambiente.ora, 1010);
+}
+
+TEST_F(CorsaTest, AStreamThatBringsFarTooManyStepsEndsTheRun) {
+    Capriccia({.tipo = Capriccio::Tipo::Muto, .comando = "SSFD"});
+    LineaLoquace linea(banco.ambiente, banco.simulato, "SFD=OK\r\n" + std::string(2000, 'x'));
+    banco.porta.fisso->flusso = &linea;
+    EXPECT_EQ(Esegui(), EsitoCorsa::GuastoLink);
+    EXPECT_GT(PassiSuDisco(), 1000u);
+    EXPECT_LT(PassiSuDisco(), 3000u);
+    EXPECT_EQ(banco.simulato.Comandi().back(), "#ASBK*");
+}
+
 TEST_F(CorsaTest, ASecondClickInARunIsTheStop) {
     banco.scan.Righe[0].Stop = 30;
     banco.vista.alPasso = [this] { ClickExecuteSweep(banco.corsa, "M"); };
@@ -145,6 +220,12 @@ TEST_F(CorsaTest, EndsAsToldWhenTheReceiverMisbehaves) {
         EXPECT_EQ(altro.File(PercorsoRS("M", "M", 0)).size(), altro.vista.passi * kByteCampione);
         EXPECT_FALSE(altro.porta.Aperta());
     }
+}
+
+TEST_F(CorsaTest, ALineThatIsGoneIsToldAtOnce) {
+    Capriccia({.tipo = Capriccio::Tipo::Scollegato, .numero = 102});
+    EXPECT_EQ(Esegui(), EsitoCorsa::GuastoLink);
+    EXPECT_LT(banco.ambiente.ora, 1003); // and not when the time for a reply has passed
 }
 
 TEST_F(CorsaTest, TheAbortEndsARunThatWaitsForASetter) {
@@ -202,6 +283,18 @@ TEST_F(CorsaTest, AFileThatCannotBeWrittenStopsTheRun) {
     ASSERT_FALSE(banco.ambiente.riquadri.empty());
     EXPECT_TRUE(banco.ambiente.riquadri[0].testo.starts_with("Cannot open file "));
     EXPECT_FALSE(banco.statoCorsa.SweepInCorso);
+}
+
+TEST(Corsa5520F, AFastFrontEndThatSendsNoHeaderIsAskedAgainThreeTimes) {
+    BancoSimulato banco({.modello = "GX2207F"});
+    MettiBanda(banco.scan.Righe[0], "B", "P");
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::StreamMuto, .numero = 0});
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::GuastoLink);
+    const auto& comandi = banco.simulato.Comandi();
+    EXPECT_EQ(std::count_if(comandi.begin(), comandi.end(),
+                            [](const std::string& c) { return c.starts_with("#SSFD"); }),
+              4);
+    EXPECT_EQ(banco.ambiente.riquadri.back().testo, "5520 Time out");
 }
 
 TEST(Corsa5520F, TakesTheStepThatTheReceiverAnnounces) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cmath>
 #include <cstring>
 
 namespace orvane {
@@ -126,13 +127,33 @@ TEST(LettoreFlusso, ReadsRefusalsAndPassesOverLinesOfOtherCommands) {
 
 TEST(LettoreFlusso, RoundsTheStepOfThe5520FByItsSize) {
     EXPECT_EQ(ArrotondaPasso5520F(4500.0f), 0.0045);
-    EXPECT_EQ(ArrotondaPasso5520F(12.3456f), 0.00001235);
-    EXPECT_EQ(ArrotondaPasso5520F(12345678.0f), 12.345678);
+    EXPECT_EQ(ArrotondaPasso5520F(4500.4f), 0.0045);
+    EXPECT_EQ(ArrotondaPasso5520F(1.23456f), 0.00000123);
+    EXPECT_EQ(ArrotondaPasso5520F(12.3456f), 0.0000123);
+    EXPECT_EQ(ArrotondaPasso5520F(123.456f), 0.000123);
     EXPECT_EQ(ArrotondaPasso5520F(123456784.0f), 123.456784);
-    // A step that is no step changes nothing.
-    const auto letto = Leggi("SFD=OK\r\n" + Intestazione(-1) + "SFD_END", {1}, true, 7);
-    EXPECT_FALSE(letto.passo.has_value());
-    EXPECT_EQ(letto.stato, LettoreFlusso::Stato::Finito);
+    // A step that is no step, or too fine to be told, changes nothing.
+    for (const float hz : {-1.0f, 0.004f, NAN, INFINITY}) {
+        const auto letto = Leggi("SFD=OK\r\n" + Intestazione(hz) + "SFD_END", {1}, true, 7);
+        EXPECT_FALSE(letto.passo.has_value()) << hz;
+        EXPECT_EQ(letto.stato, LettoreFlusso::Stato::Finito);
+    }
+}
+
+TEST(LettoreFlusso, KeepsNoGarbageWhileItWaitsForTheAcknowledgement) {
+    Accumulo dati;
+    LettoreFlusso lettore({1}, false);
+    const auto Aggiungi = [&](const std::string& testo) {
+        std::copy(testo.begin(), testo.end(), dati.Spazio(testo.size()).begin());
+        dati.Aggiunti(testo.size());
+        return lettore.Avanza(dati, [](auto) {});
+    };
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_EQ(Aggiungi(std::string(1000, 'x')), LettoreFlusso::Stato::Riscontro);
+    EXPECT_LT(dati.Quanti(), 10000u);
+    // A line end torn across two reads still ends the garbage.
+    Aggiungi(std::string(10000, 'x') + "\r");
+    EXPECT_EQ(Aggiungi("\nSFD=OK\r\nSFD_END"), LettoreFlusso::Stato::Finito);
 }
 
 } // namespace

@@ -77,7 +77,10 @@ void CorsaUi::StopAMeta() {
     QVERIFY(!banco.posto->statoCorsa.SweepInCorso);
     QCOMPARE(esegui->text(), QStringLiteral("Execute"));
     QVERIFY(banco.Trova<QLabel>("LBStato")->text().startsWith(QStringLiteral("Stopped")));
-    QCOMPARE(banco.simulato.Comandi().back(), std::string("#ASBK*"));
+    const auto& comandi = banco.simulato.Comandi();
+    const auto avvio = std::find_if(comandi.begin(), comandi.end(),
+                                    [](const std::string& c) { return c.starts_with("#SSFD"); });
+    QVERIFY(std::find(avvio, comandi.end(), "#ASBK*") != comandi.end());
     const auto passi =
         LeggiTraccia(banco.posto->scrivania, PercorsoRS("Untitled", "Untitled", 0)).size();
     QVERIFY(passi > 0 && passi < 5971);
@@ -206,12 +209,14 @@ void CorsaUi::RemoteLinkAnnulla() {
 
 void CorsaUi::RemoteLinkConferma() {
     Banco banco;
-    LinkPort& link = banco.posto->porta.link;
-    FrmRemoteLink finestra(banco.posto->scrivania, link, banco.catalogo, {}, &banco.Finestra());
-    finestra.findChild<QRadioButton*>(QStringLiteral("OptLink0"))->click();
-    auto* porte = finestra.findChild<QComboBox*>(QStringLiteral("ComboPortDevice"));
-    Q_EMIT porte->textActivated(porte->itemText(0));
-    finestra.findChild<QPushButton*>(QStringLiteral("CMBOK"))->click();
+    {
+        FrmRemoteLink finestra(banco.posto->scrivania, banco.posto->porta.link, banco.catalogo, {},
+                               &banco.Finestra());
+        finestra.findChild<QRadioButton*>(QStringLiteral("OptLink0"))->click();
+        auto* porte = finestra.findChild<QComboBox*>(QStringLiteral("ComboPortDevice"));
+        Q_EMIT porte->textActivated(porte->itemText(0));
+        finestra.findChild<QPushButton*>(QStringLiteral("CMBOK"))->click();
+    }
     banco.posto.reset();
     banco.Apri();
     QCOMPARE(banco.posto->porta.link.TipoLink, int16_t{0});

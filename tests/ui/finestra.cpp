@@ -81,7 +81,7 @@ void Finestra::NomiDocumentati_data() {
 }
 
 void Finestra::NomiDocumentati() {
-    static Banco banco;
+    Banco banco;
     QFETCH(QString, nome);
     QVERIFY(banco.Finestra().findChild<QObject*>(nome));
     if (auto* controllo = banco.Finestra().findChild<QWidget*>(nome);
@@ -101,6 +101,8 @@ void Finestra::IniziaSullArchivio() {
 
 void Finestra::LeSchedeCambianoModo() {
     Banco banco;
+    banco.Finestra().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&banco.Finestra()));
     QTest::keyClick(&banco.Finestra(), Qt::Key_2, Qt::ControlModifier);
     QCOMPARE(banco.posto->statoConsole.modalita, Modalita::Sweep);
     QVERIFY(banco.Trova<QWidget>("GridScanTab")->isVisible());
@@ -159,8 +161,10 @@ void Finestra::UnitaTieneIlPostoDellaTraccia() {
     };
     const double prima = sopra(5000);
     auto* unita = banco.Trova<QComboBox>("CBXUnitaDiMisura");
-    for (const int id : {0, 2, 3, 1})
-        Q_EMIT unita->activated(id), QVERIFY(std::abs(sopra(5000) - prima) < 100);
+    for (const int id : {0, 2, 3, 1}) {
+        Q_EMIT unita->activated(id);
+        QVERIFY(std::abs(sopra(5000) - prima) < 100);
+    }
     QCOMPARE(setup.RefLevel, int16_t{0});
 }
 

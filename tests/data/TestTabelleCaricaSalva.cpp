@@ -1,0 +1,108 @@
+// What the load and save window decides about names.
+#include "ScrivaniaProva.h"
+#include "data/CaricaSalva.h"
+
+namespace orvane::prova {
+namespace {
+
+struct CaricaSalvaTest : ProvaDati {
+    RichiestaFile limite = RichiestaTabella(TableKind::Limite);
+    ScanTable scan;
+};
+
+TEST_F(CaricaSalvaTest, TitlesSayWhatIsAtHand) {
+    EXPECT_EQ(TitoloCaricaSalva(limite, false), "Load Limit");
+    EXPECT_EQ(TitoloCaricaSalva(RichiestaTabella(TableKind::Fattore), true), "Save Factor As");
+    EXPECT_EQ(TitoloCaricaSalva(RichiestaTabella(TableKind::Frequenze), true), "Save Table As");
+    EXPECT_EQ(RichiestaTabella(TableKind::FrequenzeMast).cartella, "Mast-Table\\");
+}
+
+TEST_F(CaricaSalvaTest, LoadsByNameWithOrWithoutExtension) {
+    EXPECT_EQ(CmdLoad(s, limite, "A"), "Limits\\A.5SL");
+    EXPECT_EQ(CmdLoad(s, limite, " A.5sl "), "Limits\\A.5SL");
+    EXPECT_EQ(CmdLoad(s, limite, "A.B"), "Limits\\A.B.5SL");
+    EXPECT_EQ(CmdLoad(s, limite, ""), std::nullopt);
+    EXPECT_EQ(CmdLoad(s, limite, "..\\Sweep\\A"), std::nullopt);
+    EXPECT_TRUE(ambiente.riquadri.empty());
+    EXPECT_EQ(CmdLoad(s, limite, "A+B"), std::nullopt);
+    EXPECT_EQ(Riquadro(), "Not valid name\rA+B");
+}
+
+TEST_F(CaricaSalvaTest, ALongNameIsNotLoadedButShortenedToSave) {
+    const std::string lungo(300, 'x');
+    EXPECT_TRUE(CmdLoad(s, limite, std::string(56, 'x')));
+    EXPECT_EQ(CmdLoad(s, limite, std::string(57, 'x')), std::nullopt);
+    ASSERT_EQ(ambiente.riquadri.size(), 1u);
+    EXPECT_EQ(ambiente.riquadri[0].titolo, "5520UT OPEN FILE");
+    EXPECT_EQ(Riquadro(), "File name too long");
+    const std::string corto(60, 'x');
+    EXPECT_EQ(CmdSave(s, limite, lungo), "Limits\\" + corto + ".5SL");
+    ASSERT_EQ(ambiente.riquadri.size(), 1u);
+    EXPECT_EQ(ambiente.riquadri[0].titolo, "5520UT SAVE FILE");
+    EXPECT_EQ(Riquadro(), "The name as been shortened in\r" + corto);
+}
+
+TEST_F(CaricaSalvaTest, RefusesWhatIsNoNameToSaveUnder) {
+    for (const char* nome : {"", "  ", "NONE", "none", "a.b", "a+b", "a\\b", "a/b", "a*", "a:b",
+                             "a\"b", "a|b", "a?", "a\tb"}) {
+        EXPECT_EQ(CmdSave(s, limite, nome), std::nullopt) << nome;
+        EXPECT_EQ(Riquadro(), "File name not valid") << nome;
+    }
+    EXPECT_EQ(CmdSave(s, limite, "Grenze \xC3\x84 10m"), "Limits\\Grenze \xC3\x84 10m.5SL");
+}
+
+TEST_F(CaricaSalvaTest, KeysThatNoNameMayHold) {
+    for (const char32_t tasto : U".,+[]\\/|=*^:;<>?\"\n")
+        EXPECT_FALSE(TastoAmmesso(tasto)) << static_cast<uint32_t>(tasto);
+    for (const char32_t tasto : {U'a', U' ', U'_', U'-', U'(', U'\u00B5'})
+        EXPECT_TRUE(TastoAmmesso(tasto));
+}
+
+TEST_F(CaricaSalvaTest, AsksBeforeAFileIsReplaced) {
+    Metti("Limits/old.5SL", "x");
+    EXPECT_EQ(CmdSave(s, limite, "OLD"), std::nullopt);
+    EXPECT_EQ(Riquadro(), "OLD exists already.\rDo you want to replace it?");
+    ambiente.risposte = {Risposta::Si};
+    EXPECT_EQ(CmdSave(s, limite, "OLD"), "Limits\\OLD.5SL");
+}
+
+TEST_F(CaricaSalvaTest, DeletesOnRequestWhatNothingNames) {
+    Metti("Limits/X.5SL", "x");
+    EXPECT_FALSE(CMBDelete(s, limite, "X", scan));
+    EXPECT_EQ(Riquadro(), "Delete X");
+    EXPECT_TRUE(s.albero.Esiste("Limits\\X.5SL"));
+    ambiente.risposte = {Risposta::Si};
+    EXPECT_TRUE(CMBDelete(s, limite, "X", scan));
+    EXPECT_FALSE(s.albero.Esiste("Limits\\X.5SL"));
+    ambiente.riquadri.clear();
+    EXPECT_FALSE(CMBDelete(s, limite, "X", scan));
+    EXPECT_TRUE(ambiente.riquadri.empty()) << "there is nothing to ask about";
+}
+
+TEST_F(CaricaSalvaTest, ANameInUseCannotBeDeleted) {
+    const RichiestaFile fattore = RichiestaTabella(TableKind::Fattore);
+    const RichiestaFile frequenze = RichiestaTabella(TableKind::Frequenze);
+    scan[0].Start = 1;
+    scan[0].Limit = "In Line";
+    scan[0].LimitDSD = "In DSD";
+    scan[0].FreqTable = "In Table";
+    scan[1].Limit = "Unused line";
+    s.setup.LimitName[9] = "In Panel";
+    s.setup.FactorName[6] = "In Factor";
+    EXPECT_TRUE(NomeInUso(s, limite, "IN LINE", scan));
+    EXPECT_TRUE(NomeInUso(s, limite, "in dsd", scan));
+    EXPECT_TRUE(NomeInUso(s, limite, "In Panel", scan));
+    EXPECT_TRUE(NomeInUso(s, fattore, "In Factor", scan));
+    EXPECT_TRUE(NomeInUso(s, frequenze, "In Table", scan));
+    EXPECT_FALSE(NomeInUso(s, limite, "Unused line", scan));
+    EXPECT_FALSE(NomeInUso(s, fattore, "In Line", scan));
+    Metti("Limits/in line.5SL", "x");
+    ambiente.risposte = {Risposta::Si};
+    EXPECT_FALSE(CMBDelete(s, limite, "In Line", scan));
+    ASSERT_EQ(ambiente.riquadri.size(), 2u);
+    EXPECT_EQ(ambiente.riquadri[1].testo, "Cannot be deleted");
+    EXPECT_TRUE(s.albero.Esiste("Limits\\In Line.5SL"));
+}
+
+} // namespace
+} // namespace orvane::prova
