@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "base/PaginaCodici.h"
 #include "base/Percorsi.h"
 #include "base/Testo.h"
+#include "data/NomiDialogo.h"
 #include "data/NomiDisco.h"
 
 namespace orvane {
@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kVietati = ".,+[]\\/|=*^:;<>?\"";
 constexpr std::string_view kNessuno = "NONE";
-constexpr size_t kLunghezzaEstensione = 4; // with its dot
 
 Risposta Chiedi(const Scrivania& s, const std::string& testo) {
     return s.ambiente.Mostra(
@@ -35,18 +34,15 @@ std::string NomeNudo(const RichiestaFile& richiesta, std::string_view nome) {
                : testo;
 }
 
-/// Characters count as the bytes that they take in a record.
-bool TroppoLungo(const RichiestaFile& richiesta, const std::string& nome) {
-    return InAnsi(nome).size() > richiesta.lunghezza - kLunghezzaEstensione;
+std::string File(const RichiestaFile& richiesta, const std::string& nome) {
+    return nome + "." + richiesta.estensione;
 }
 
-/// A name to save under that is too long is cut, and the box says so.
-std::string Accorcia(const Scrivania& s, const RichiestaFile& richiesta, const std::string& nome) {
-    if (!TroppoLungo(richiesta, nome))
-        return nome;
-    const std::string corto = DaAnsi(InAnsi(nome).substr(0, richiesta.lunghezza));
-    Avvisa(s, "The name as been shortened in\r" + corto, "5520UT SAVE FILE");
-    return corto;
+/// The name once it is no longer than a record holds; empty after the box that refuses it.
+std::string ControllaLunghezza(const Scrivania& s, const RichiestaFile& richiesta,
+                               const std::string& nome, ModoDialogo modo) {
+    return RimuoviEstensione(ControllaLunghezzaNome(s.ambiente, File(richiesta, nome),
+                                                    static_cast<int>(richiesta.lunghezza), modo));
 }
 
 bool NomeAmmesso(const std::string& nome) {
@@ -56,7 +52,7 @@ bool NomeAmmesso(const std::string& nome) {
 }
 
 std::string Percorso(const RichiestaFile& richiesta, const std::string& nome) {
-    return richiesta.cartella + nome + "." + richiesta.estensione;
+    return richiesta.cartella + File(richiesta, nome);
 }
 
 bool UsatoDallaRiga(const ScanLine& riga, const std::string& estensione, std::string_view nome) {
@@ -106,15 +102,9 @@ bool TastoAmmesso(char32_t tasto) {
 std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& richiesta,
                                    std::string_view nome) {
     const std::string nudo = NomeNudo(richiesta, nome);
-    // The table editor joins names with a plus: no file may bear one.
-    if (nudo.find('+') != std::string::npos) {
-        Avvisa(s, "Not valid name\r" + nudo);
+    if (!ControllaNomeDialogo(s.ambiente, File(richiesta, nudo)) ||
+        ControllaLunghezza(s, richiesta, nudo, ModoDialogo::Carica).empty())
         return std::nullopt;
-    }
-    if (TroppoLungo(richiesta, nudo)) {
-        Avvisa(s, "File name too long", "5520UT OPEN FILE");
-        return std::nullopt;
-    }
     return NomeTabellaAmmesso(nudo) ? std::optional(Percorso(richiesta, nudo)) : std::nullopt;
 }
 
@@ -125,7 +115,7 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
         Avvisa(s, "File name not valid");
         return std::nullopt;
     }
-    nudo = Accorcia(s, richiesta, nudo);
+    nudo = ControllaLunghezza(s, richiesta, nudo, ModoDialogo::Salva);
     const std::string percorso = Percorso(richiesta, nudo);
     if (s.albero.Esiste(percorso) &&
         Chiedi(s, nudo + " exists already.\rDo you want to replace it?") != Risposta::Si)
