@@ -53,6 +53,7 @@ TEST_F(PanelTest, TellsEveryFieldAndTheRangesWithoutAName) {
 TEST_F(PanelTest, TheExtensionTellsTheKindAndWhereABareNameLies) {
     ScanRecord scan;
     scan.Righe[9].Stop = 0.15;
+    s.env.LinkPort = 7;
     ASSERT_TRUE(SalvaPanelEST(s, "Panels\\Base.EST", scan));
     ASSERT_TRUE(SalvaHeaderSweep(s, PercorsoKSH("m"), scan, s.setup));
     ASSERT_TRUE(SalvaPanelEPN(s, kPannelloEPN));
@@ -67,8 +68,8 @@ TEST_F(PanelTest, TheExtensionTellsTheKindAndWhereABareNameLies) {
         {"Panels/Base.EST", "12000\tWorstMode\t0"},
         {"m.KSH", "15674\tUnitId\t1"},
         {"Sweep\\m\\m.ksh", "15674\tUnitId\t1"},
-        {"Untitled.EPN", "234\tLinkKind\t0"},
-        {"Color.COL", "234\tLinkKind\t0"},
+        {"Untitled.EPN", "236\tLinkPort\t7"},
+        {"Color.COL", "236\tLinkPort\t7"},
         {"Untitled.PTH", "0\tPath\t x100"},
     };
     for (const auto& caso : casi) {
