@@ -49,7 +49,7 @@ std::string Accorcia(const Scrivania& s, const RichiestaFile& richiesta, const s
     return corto;
 }
 
-bool NomeAmmesso(const std::string& nome) {
+bool NomeSalvabile(const std::string& nome) {
     return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) &&
            std::all_of(nome.begin(), nome.end(),
                        [](char c) { return TastoAmmesso(static_cast<unsigned char>(c)); });
@@ -121,7 +121,7 @@ std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& rich
 std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& richiesta,
                                    std::string_view nome) {
     std::string nudo = NomeNudo(richiesta, nome);
-    if (!NomeAmmesso(nudo)) {
+    if (!NomeSalvabile(nudo)) {
         Avvisa(s, "File name not valid");
         return std::nullopt;
     }
