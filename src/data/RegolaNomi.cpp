@@ -1,6 +1,5 @@
 #include "data/RegolaNomi.h"
 
-#include <ranges>
 #include <unordered_set>
 #include <vector>
 

@@ -1,7 +1,5 @@
 #include "data/Rinomine.h"
 
-#include <ranges>
-
 #include "base/Percorsi.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
@@ -47,9 +45,8 @@ bool CatenaRinomine::RinominaMisura(const std::string& da, const std::string& a)
 }
 
 void CatenaRinomine::Annulla() {
-    for (const auto& [da, a] : fatte_ | std::views::reverse)
-        albero_.Rinomina(a, da);
-    fatte_.clear();
+    for (; !fatte_.empty(); fatte_.pop_back())
+        albero_.Rinomina(fatte_.back().second, fatte_.back().first);
 }
 
 } // namespace orvane

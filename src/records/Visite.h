@@ -122,10 +122,13 @@ template <class Visita> constexpr void FineGruppo(Visita& v) {
         v.FineGruppo();
 }
 
-template <class Record> constexpr size_t DimensioneSuDisco() {
-    Record vuoto{};
+/// A record that is declared and never made: at compile time its fields can be walked over, so long
+/// as none of their values is asked for.
+template <class Record> struct RecordFinto { static Record record; };
+
+template <class Record> consteval size_t DimensioneSuDisco() {
     MisuratoreCampi misuratore;
-    Campi(misuratore, vuoto);
+    Campi(misuratore, RecordFinto<Record>::record);
     return misuratore.byte;
 }
 

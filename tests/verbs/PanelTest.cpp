@@ -1,0 +1,127 @@
+// The panel verb: every field with its place, damaged files, and wrong words.
+#include <fstream>
+#include <sstream>
+
+#include "aiuto/BancoSimulato.h"
+#include "data/Misure.h"
+#include "data/Panels.h"
+#include "verbs/Verbo.h"
+
+namespace orvane::prova {
+namespace {
+
+struct PanelTest : ::testing::Test {
+    BancoSimulato simulato;
+    Scrivania& s = simulato.scrivania;
+    std::ostringstream dati;
+    std::ostringstream messaggi;
+
+    EsitoVerbo Esegui(std::vector<std::string> parole, bool json = false) {
+        dati.str("");
+        messaggi.str("");
+        VistaTerminale vista(simulato.ambiente, messaggi, false, json);
+        const bool interrotto = false;
+        Banco banco{.scrivania = s,
+                    .ricevitore = simulato.ricevitore,
+                    .corsa = simulato.statoCorsa,
+                    .vista = vista,
+                    .catalogo = simulato.catalogo,
+                    .interrotto = interrotto,
+                    .dati = dati,
+                    .messaggi = messaggi,
+                    .json = json};
+        return VerboPanel(banco, parole);
+    }
+    bool Ha(const std::string& riga) const {
+        return ("\n" + dati.str()).find("\n" + riga + "\n") != std::string::npos;
+    }
+};
+
+TEST_F(PanelTest, TellsEveryFieldAndTheRangesWithoutAName) {
+    s.setup.RefLevel = -20;
+    s.setup.LimitName[0] = "EN 55011 \xC2\xB5";
+    s.setup.SwRelease = "1\t2";
+    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
+    ASSERT_EQ(Esegui({"show"}), kFatto);
+    EXPECT_TRUE(Ha("38\t(604 bytes)"));
+    EXPECT_TRUE(Ha("1308\tLimitOn\t0 x10"));
+    EXPECT_TRUE(Ha("1328\tLimitName\tEN 55011 \xC2\xB5, NONE x9"));
+    EXPECT_TRUE(Ha("2538\tRefLevel\t-20"));
+    EXPECT_TRUE(Ha("4226\tSwRelease\t1.2")) << "no tab inside a column";
+}
+
+TEST_F(PanelTest, TheExtensionTellsTheKindAndWhereABareNameLies) {
+    ScanRecord scan;
+    scan.Righe[9].Stop = 0.15;
+    ASSERT_TRUE(SalvaPanelEST(s, "Panels\\Base.EST", scan));
+    ASSERT_TRUE(SalvaHeaderSweep(s, PercorsoKSH("m"), scan, s.setup));
+    ASSERT_TRUE(SalvaPanelEPN(s, kPannelloEPN));
+    ASSERT_TRUE(SalvaPanelEPN(s, kColoriCOL));
+    ASSERT_TRUE(SalvaPathPTH(s));
+    const struct {
+        const char* nome;
+        const char* riga;
+    } casi[] = {
+        {"Base.EST", "10812\tScanLine[9].Stop\t0.15"},
+        {"base.est", "12000\tWorstMode\t0"},
+        {"Panels/Base.EST", "12000\tWorstMode\t0"},
+        {"m.KSH", "15674\tUnitId\t1"},
+        {"Sweep\\m\\m.ksh", "15674\tUnitId\t1"},
+        {"Untitled.EPN", "234\tLinkKind\t0"},
+        {"Color.COL", "234\tLinkKind\t0"},
+        {"Untitled.PTH", "0\tPath\t x100"},
+    };
+    for (const auto& caso : casi) {
+        EXPECT_EQ(Esegui({"show", caso.nome}), kFatto) << caso.nome << messaggi.str();
+        EXPECT_TRUE(Ha(caso.riga)) << caso.nome;
+    }
+}
+
+TEST_F(PanelTest, JsonTellsTheSameFacts) {
+    s.setup.HoldTimeAn = 1.9f;
+    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
+    ASSERT_EQ(Esegui({"show"}, true), kFatto);
+    const std::string json = dati.str();
+    for (const char* parte :
+         {"\"kind\":\"EAM\"", "{\"offset\":38,\"bytes\":604}",
+          "{\"offset\":18,\"bytes\":4,\"name\":\"HoldTimeAn\",\"type\":\"f32\",\"value\":1.9}",
+          "\"name\":\"ScaleAn\",\"type\":\"f32\",\"value\":[0,0]}",
+          "\"name\":\"LimitName\",\"type\":\"char[60]\",\"value\":[\"NONE\","})
+        EXPECT_NE(json.find(parte), std::string::npos) << parte;
+}
+
+TEST_F(PanelTest, AShortFileIsToldAfterTheFieldsThatItHas) {
+    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
+    std::filesystem::resize_file(s.albero.Host(kPannelloEAM), 20);
+    EXPECT_EQ(Esegui({"show"}), kGuastoFile);
+    EXPECT_TRUE(Ha("16\tGraphFlag\t1"));
+    EXPECT_EQ(dati.str().find("HoldTimeAn"), std::string::npos) << "it has only half of this";
+    EXPECT_NE(messaggi.str().find("Untitled.EAM ends after 20 of 5094 bytes"), std::string::npos);
+}
+
+TEST_F(PanelTest, ListsPanelsWithThoseOfAWrongSize) {
+    ASSERT_EQ(Esegui({"list"}, true), kFatto);
+    EXPECT_EQ(dati.str(), "[]\n");
+    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
+    ASSERT_TRUE(SalvaPanelEPN(s, kColoriCOL));
+    std::ofstream(s.albero.Host("Panels\\Torn.EST")) << "x";
+    ASSERT_EQ(Esegui({"list"}), kFatto);
+    EXPECT_EQ(dati.str(), "Panels\\Untitled.EAM\t5094 bytes\n"
+                          "Panels\\Torn.EST\t1 bytes\tnot the size of its kind\n"
+                          "Color.COL\t2096 bytes\n");
+}
+
+TEST_F(PanelTest, WrongWordsAndAbsentFilesAreTold) {
+    EXPECT_EQ(Esegui({}), kUsoErrato);
+    EXPECT_EQ(Esegui({"edit"}), kUsoErrato);
+    EXPECT_EQ(Esegui({"list", "x"}), kUsoErrato);
+    EXPECT_EQ(Esegui({"show", "x", "y"}), kUsoErrato);
+    EXPECT_EQ(Esegui({"show", "--fast"}), kUsoErrato);
+    EXPECT_EQ(Esegui({"show", "x.5SL"}), kUsoErrato);
+    EXPECT_EQ(Esegui({"show", "absent"}), kGuastoFile);
+    EXPECT_NE(messaggi.str().find("Panels\\absent.EAM"), std::string::npos);
+    EXPECT_EQ(Esegui({"show", "..\\x.EAM"}), kGuastoFile);
+}
+
+} // namespace
+} // namespace orvane::prova
