@@ -15,6 +15,7 @@
 #include "base/Versione.h"
 #include "link/LogTraffico.h"
 #include "platform/AmbienteTerminale.h"
+#include "platform/Sincronizza.h"
 #include "verbs/Verbo.h"
 
 namespace {
@@ -98,7 +99,7 @@ Opzioni LeggiRiga(const std::vector<std::string>& parole) {
 int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComando) {
     SorvegliaLink sorveglia;
     AmbienteTerminale ambiente(sorveglia, rigaComando, o.rispostaSi);
-    Scrivania scrivania{.ambiente = ambiente, .albero = AlberoDati(o.dati)};
+    Scrivania scrivania{.ambiente = ambiente, .albero = AlberoDati(o.dati, Sincronizza)};
     StatoProtocollo stato;
     LogTraffico log(ambiente, o.dati);
     Collegamento collegamento(ambiente, sorveglia, o.dati);

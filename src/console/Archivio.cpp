@@ -10,10 +10,11 @@ namespace {
 
 /// Reads the header without touching the running records. A damaged one is told.
 bool LeggiHeader(Scrivania& s, const std::string& nome, SweepHeader& header) {
-    const auto dati = s.albero.Leggi(PercorsoKSH(nome));
+    const std::string percorso = TrovaKSH(s.albero, nome);
+    const auto dati = s.albero.Leggi(percorso);
     if (dati && LeggiRecord(*dati, header))
         return true;
-    s.ambiente.Mostra({.testo = "Failed loading" + s.albero.DataRoot() + PercorsoKSH(nome)});
+    s.ambiente.Mostra({.testo = "Failed loading" + s.albero.DataRoot() + percorso});
     return false;
 }
 

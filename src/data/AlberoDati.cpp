@@ -80,7 +80,7 @@ std::optional<std::vector<uint8_t>> LeggiTutto(std::FILE* file, size_t quanti) {
 
 } // namespace
 
-AlberoDati::AlberoDati(fs::path radice) {
+AlberoDati::AlberoDati(fs::path radice, Sincronia sincronia) : sincronia_(std::move(sincronia)) {
     std::error_code errore;
     radice_ = fs::absolute(radice, errore).lexically_normal();
     dataRoot_ = ConBackslash(Utf8DaPath(radice_));
@@ -132,9 +132,23 @@ bool AlberoDati::EsisteCartella(std::string_view percorso) const {
     return fs::is_directory(Host(percorso), errore);
 }
 
-void AlberoDati::AssicuraCartella(std::string_view percorso) const {
+bool AlberoDati::SiElenca(std::string_view percorso) const {
+    const auto relativo = Relativo(percorso);
+    if (!relativo || relativo->find_first_of("*?\"<>|") != std::string::npos)
+        return false;
     std::error_code errore;
-    fs::create_directories(Host(percorso), errore);
+    const fs::directory_iterator elenco(Host(percorso), errore);
+    return !errore || errore == std::errc::no_such_file_or_directory;
+}
+
+void AlberoDati::AssicuraCartella(std::string_view percorso) const {
+    const fs::path host = Host(percorso);
+    std::error_code errore;
+    if (!fs::create_directories(host, errore) || !sincronia_)
+        return;
+    // Each of the names on the way may be new.
+    for (fs::path qui = host; qui != radice_ && qui.has_relative_path(); qui = qui.parent_path())
+        Sincronizza(qui.parent_path());
 }
 
 std::optional<std::vector<uint8_t>> AlberoDati::Leggi(std::string_view percorso,
@@ -158,7 +172,15 @@ bool AlberoDati::Salva(std::string_view percorso, std::span<const uint8_t> dati)
         return false;
     const fs::path host = Host(percorso);
     FileProvvisorio nuovo(host.parent_path());
-    return nuovo.Scrivi(dati) && nuovo.Chiudi() && nuovo.Sostituisce(host);
+    return nuovo.Scrivi(dati) && nuovo.Chiudi() && Consegna(nuovo, host);
+}
+
+bool AlberoDati::Consegna(FileProvvisorio& nuovo, const fs::path& host) const {
+    if (!Sincronizza(nuovo.Percorso()) || !nuovo.Sostituisce(host))
+        return false;
+    // Without this the new name may be lost, and the old file is back: whole in either case.
+    Sincronizza(host.parent_path());
+    return true;
 }
 
 bool AlberoDati::Copia(std::string_view da, std::string_view a) const {
@@ -170,7 +192,7 @@ bool AlberoDati::Copia(std::string_view da, std::string_view a) const {
     std::error_code errore;
     return nuovo.Chiudi() &&
            fs::copy_file(origine, nuovo.Percorso(), fs::copy_options::overwrite_existing, errore) &&
-           nuovo.Sostituisce(host);
+           Consegna(nuovo, host);
 }
 
 bool AlberoDati::Cancella(std::string_view percorso) const {
@@ -187,6 +209,31 @@ void AlberoDati::CancellaCartella(std::string_view percorso) const {
     std::error_code errore;
     if (host != radice_ && fs::is_directory(host, errore))
         fs::remove_all(host, errore);
+}
+
+bool AlberoDati::CancellaCartellaVuota(std::string_view percorso) const {
+    const fs::path host = Host(percorso);
+    std::error_code errore;
+    if (host == radice_ || !fs::is_directory(host, errore))
+        return !fs::exists(fs::symlink_status(host, errore));
+    fs::remove(host, errore);
+    return !errore;
+}
+
+bool AlberoDati::Rinomina(std::string_view da, std::string_view a) const {
+    const fs::path origine = Host(da);
+    const fs::path meta = Host(a);
+    std::error_code errore;
+    if (!Relativo(da) || !Relativo(a) || origine == radice_ ||
+        fs::exists(fs::symlink_status(meta, errore)))
+        return false;
+    fs::rename(origine, meta, errore);
+    if (errore)
+        return false;
+    Sincronizza(meta.parent_path());
+    if (origine.parent_path() != meta.parent_path())
+        Sincronizza(origine.parent_path());
+    return true;
 }
 
 std::vector<std::string> AlberoDati::ElencaFile(std::string_view cartella,

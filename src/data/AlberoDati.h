@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -12,10 +13,17 @@
 
 namespace orvane {
 
+class FileProvvisorio;
+
+/// Makes what was written to a file, or the names in a directory, outlast a power cut. False when
+/// the machine could not.
+using Sincronia = std::function<bool(const std::filesystem::path&)>;
+
 class AlberoDati {
 public:
-    /// `radice`: the host's directory. `DataRoot` is its text with a trailing backslash.
-    explicit AlberoDati(std::filesystem::path radice);
+    /// `radice`: the host's directory. `DataRoot` is its text with a trailing backslash. Without
+    /// `sincronia` the system decides when bytes reach the disk.
+    explicit AlberoDati(std::filesystem::path radice, Sincronia sincronia = {});
 
     const std::string& DataRoot() const { return dataRoot_; }
     const std::filesystem::path& Radice() const { return radice_; }
@@ -31,13 +39,16 @@ public:
 
     bool Esiste(std::string_view percorso) const; ///< a file, not a directory
     bool EsisteCartella(std::string_view percorso) const;
+    /// Whether what lies in a directory can be listed: an absent one holds nothing and can; a name
+    /// that no file system takes, or a file in its place, cannot.
+    bool SiElenca(std::string_view percorso) const;
     /// Creates the directory with those above it; errors are ignored.
     void AssicuraCartella(std::string_view percorso) const;
     /// The bytes of a file, at most `alPiu` of them; empty when it cannot be read.
     std::optional<std::vector<uint8_t>> Leggi(std::string_view percorso,
                                               size_t alPiu = SIZE_MAX) const;
-    /// Writes a temporary file beside the target and renames it over: a failed write leaves the
-    /// old file. False on failure.
+    /// Writes a temporary file beside the target and renames it over: a failed write, and a power
+    /// cut at any moment, leave the old file or the new one, whole. False on failure.
     bool Salva(std::string_view percorso, std::span<const uint8_t> dati) const;
     /// Over an old file too, which stays when the copy fails.
     bool Copia(std::string_view da, std::string_view a) const;
@@ -45,6 +56,10 @@ public:
     bool Cancella(std::string_view percorso) const;
     /// With all that is in it; never the root itself.
     void CancellaCartella(std::string_view percorso) const;
+    /// Only an empty one; an absent one is no failure.
+    bool CancellaCartellaVuota(std::string_view percorso) const;
+    /// A file or a directory, inside the tree. False when `a` exists in some case, or on failure.
+    bool Rinomina(std::string_view da, std::string_view a) const;
 
     /// Names in a directory, sorted without regard to case; files with this extension (with its
     /// case ignored, "" for all), or the directories.
@@ -56,8 +71,15 @@ private:
     /// The path below the root, without `DataRoot`; empty when it leads elsewhere.
     std::optional<std::string> Relativo(std::string_view percorso) const;
 
+    bool Sincronizza(const std::filesystem::path& host) const {
+        return !sincronia_ || sincronia_(host);
+    }
+    /// Puts a whole file in its target's place.
+    bool Consegna(FileProvvisorio& nuovo, const std::filesystem::path& host) const;
+
     std::filesystem::path radice_;
     std::string dataRoot_;
+    Sincronia sincronia_;
 };
 
 } // namespace orvane

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <ctime>
 
+#include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
@@ -58,7 +59,8 @@ FileTraccia RaccogliTracce(const fs::path& cartella) {
 
 void LeggiHeader(const Scrivania& s, VoceArchivio& voce) {
     SweepHeader header;
-    const auto dati = s.albero.Leggi(PercorsoKSH(voce.nome), DimensioneSuDisco<SweepHeader>());
+    const auto dati =
+        s.albero.Leggi(TrovaKSH(s.albero, voce.nome), DimensioneSuDisco<SweepHeader>());
     voce.leggibile = dati && LeggiRecord(*dati, header);
     if (!voce.leggibile)
         return;
@@ -77,27 +79,33 @@ void LeggiHeader(const Scrivania& s, VoceArchivio& voce) {
 }
 
 /// The first directory that has any trace file counts.
-void LeggiFileTraccia(const fs::path& cartella, VoceArchivio& voce) {
-    FileTraccia tracce = RaccogliTracce(cartella);
-    if (tracce.Nessuno())
-        tracce = RaccogliTracce(cartella / "Sub_Measure");
-    if (tracce.Nessuno())
-        return;
-    voce.passi = tracce.passi;
-    voce.prima = TestoData(tracce.prima);
-    voce.ultima = TestoData(tracce.ultima);
+FileTraccia TracceDellaMisura(const Scrivania& s, std::string_view misura) {
+    const FileTraccia accanto = RaccogliTracce(s.albero.Host(CartellaMisura(misura)));
+    return accanto.Nessuno() ? RaccogliTracce(s.albero.Host(CartellaSubMisure(misura))) : accanto;
+}
+
+DateMisura Date(const FileTraccia& tracce) {
+    return tracce.Nessuno() ? DateMisura{}
+                            : DateMisura{TestoData(tracce.prima), TestoData(tracce.ultima)};
 }
 
 } // namespace
 
+DateMisura DataMisura(const Scrivania& s, std::string_view misura) {
+    return Date(TracceDellaMisura(s, misura));
+}
+
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s) {
-    const fs::path sweep = s.albero.Host("Sweep");
     std::vector<VoceArchivio> voci;
-    for (std::string& nome : s.albero.ElencaCartelle("Sweep")) {
+    for (std::string& nome : s.albero.ElencaCartelle(cartella::kSweep)) {
         VoceArchivio& voce = voci.emplace_back();
         voce.nome = std::move(nome);
         LeggiHeader(s, voce);
-        LeggiFileTraccia(sweep / PathDaUtf8(voce.nome), voce);
+        const FileTraccia tracce = TracceDellaMisura(s, voce.nome);
+        voce.passi = tracce.passi;
+        const DateMisura date = Date(tracce);
+        voce.prima = date.prima;
+        voce.ultima = date.ultima;
     }
     return voci;
 }

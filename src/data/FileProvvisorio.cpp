@@ -1,5 +1,6 @@
 #include "data/FileProvvisorio.h"
 
+#include <chrono>
 #include <string>
 #include <system_error>
 
@@ -8,8 +9,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Names that a crash or another console left behind are passed over, up to this many.
+// Names that another console may be writing to are passed over, up to this many.
 constexpr int kMassimoTentativi = 1000;
+// No save lasts that long: a crash left the file behind.
+constexpr std::chrono::hours kResto{1};
+
+/// Frees the name of a file that a crash has left behind.
+void CancellaResto(const fs::path& percorso) {
+    std::error_code errore;
+    const auto scritto = fs::last_write_time(percorso, errore);
+    if (!errore && fs::file_time_type::clock::now() - scritto > kResto)
+        fs::remove(percorso, errore);
+}
 
 } // namespace
 
@@ -17,6 +28,7 @@ FileProvvisorio::FileProvvisorio(const fs::path& cartella) {
     std::error_code errore;
     for (int i = 0; i < kMassimoTentativi && !file_; ++i) {
         percorso_ = cartella / (std::string(kPrefisso) + std::to_string(i));
+        CancellaResto(percorso_);
         file_.reset(std::fopen(percorso_.string().c_str(), "wbx"));
         if (!file_ && !fs::exists(percorso_, errore))
             break; // the directory itself refuses

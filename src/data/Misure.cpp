@@ -1,11 +1,13 @@
 #include "data/Misure.h"
 
 #include <cassert>
-#include <unordered_set>
 
+#include "base/Interruttori.h"
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
 #include "base/Testo.h"
+#include "data/Avvisi.h"
+#include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
 #include "data/FileRecord.h"
 #include "data/NomiDisco.h"
@@ -13,77 +15,73 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view kCartellaSweep = "Sweep";
-constexpr int kMassimiCandidati = 1000;
-
-/// What the user wrote, or a path of a header, as a bare name.
-std::string NomeNudo(std::string_view nome) {
-    const bool percorso = nome.find('\\') != std::string_view::npos ||
-                          UgualiSenzaMaiuscole(EstraiEstensione(nome), "KSH");
-    return percorso ? EstraiNomeFile(nome) : Rifila(nome);
-}
-
-bool NomeMisuraAmmesso(const std::string& nome) {
-    return !nome.empty() && nome.find('\0') == std::string::npos &&
-           ControllaNomeMisura(nome) == nome;
-}
-
-bool Chiedi(const Scrivania& s, const std::string& testo) {
-    return s.ambiente.Mostra(
-               {.testo = testo, .icona = Icona::Esclamazione, .pulsanti = Pulsanti::SiNo}) ==
-           Risposta::Si;
-}
-
-/// The first of <nome>_000 to <nome>_999 that no directory bears; empty if all do.
-std::string CandidatoLibero(const std::string& nome,
-                            const std::unordered_set<std::string>& presenti) {
-    for (int i = 0; i < kMassimiCandidati; ++i) {
-        std::string candidato = nome + "_" + TestoIntero(i, 3);
-        if (!presenti.contains(ChiaveNome(candidato)))
-            return candidato;
-    }
-    return {};
-}
-
-std::string ScegliNomeOccupato(const Scrivania& s, const std::string& nome,
-                               const std::string& candidato) {
-    if (!s.setup.OverwriteWarning)
-        return nome;
-    if (candidato.empty())
-        return Chiedi(s, nome + " already exists.\rReplace it to?") ? nome : "";
-    if (Chiedi(s, "Sweep " + nome + " already exists.\rRename in " + candidato + "?"))
-        return candidato;
-    return Chiedi(s, "Replace it?") ? nome : "";
-}
-
 void CopiaTabella(const Scrivania& s, std::string_view cartella, const std::string& nome,
                   std::string_view estensione, const std::string& meta) {
     if (!NomeTabellaAmmesso(nome))
         return;
     const std::string file = nome + "." + std::string(estensione);
-    const std::string da = std::string(cartella) + "\\" + file;
+    const std::string da = std::string(cartella) + file;
     if (s.albero.Esiste(da))
         s.albero.Copia(da, meta + file);
 }
 
-/// An empty directory inside the measure, by its path with a trailing backslash.
+/// An empty directory inside the measure; `nome` and the path have a trailing backslash.
 std::string RifaiCartella(const Scrivania& s, std::string_view misura, std::string_view nome) {
-    const std::string percorso = CartellaMisura(misura) + std::string(nome) + "\\";
+    const std::string percorso = CartellaMisura(misura) + std::string(nome);
     s.albero.CancellaCartella(percorso);
     s.albero.AssicuraCartella(percorso);
     return percorso;
 }
 
 bool MisuraScrivibile(std::string_view misura) {
-    const bool ammesso = NomeMisuraAmmesso(std::string(misura));
+    const bool ammesso = NomeAmmesso(std::string(misura));
     assert(ammesso); // the name of a run has passed `ControlNameMeasProfiloB`
     return ammesso;
+}
+
+/// Header, traces and positions of one directory, into the other copy of the tree.
+bool CopiaFileMisura(const AlberoDati& albero, const std::string& cartella) {
+    const std::string meta = std::string(cartella::kCopyFC) + cartella;
+    albero.AssicuraCartella(meta);
+    bool bene = true;
+    for (const std::string& file : albero.ElencaFile(cartella, "")) {
+        const std::string genere = ChiaveNome(EstraiEstensione(file));
+        if (genere == "KSH" || genere.starts_with("RS") || genere.starts_with("TM"))
+            bene = albero.Copia(cartella + file, meta + file) && bene;
+    }
+    return bene;
+}
+
+/// What is there of the measure before its header is written again.
+void CopiaFC(const Scrivania& s, std::string_view percorsoKSH) {
+    const std::string& riga = s.ambiente.RigaComando();
+    const bool chiesta =
+        Acceso(riga, interruttore::kSetFCSweep) && Acceso(riga, interruttore::kSaveSetFCSweep);
+    if (!chiesta || !s.albero.Esiste(percorsoKSH))
+        return;
+    const std::string relativo =
+        s.albero.PercorsoIntero(percorsoKSH).substr(s.albero.DataRoot().size());
+    const std::string cartella = EstraiPercorso(relativo);
+    const bool bene = CopiaFileMisura(s.albero, cartella) &&
+                      CopiaFileMisura(s.albero, cartella + std::string(cartella::kSubMeasure));
+    if (!bene)
+        AvvisaScrittura(s, std::string(cartella::kCopyFC) + cartella);
+}
+
+/// The only header of a directory; empty without one, and with several.
+std::string UnicoHeader(const AlberoDati& albero, const std::string& cartella) {
+    const std::vector<std::string> header = albero.ElencaFile(cartella, "KSH");
+    return header.size() == 1 ? header[0] : std::string();
 }
 
 } // namespace
 
 std::string CartellaMisura(std::string_view misura) {
-    return std::string(kCartellaSweep) + "\\" + std::string(misura) + "\\";
+    return std::string(cartella::kSweep) + std::string(misura) + "\\";
+}
+
+std::string CartellaSubMisure(std::string_view misura) {
+    return CartellaMisura(misura) + std::string(cartella::kSubMeasure);
 }
 
 std::string PercorsoKSH(std::string_view misura) {
@@ -94,37 +92,49 @@ std::string PercorsoRS(std::string_view misura, std::string_view base, int riga)
     return CartellaMisura(misura) + std::string(base) + ".RS" + TestoIntero(riga);
 }
 
-std::string ControlNameMeasProfiloB(Scrivania& s, std::string_view nome) {
-    const std::string nudo = NomeNudo(nome);
-    if (!NomeMisuraAmmesso(nudo)) {
-        s.ambiente.Mostra({.testo = "Not valid name\r" + nudo,
-                           .icona = Icona::Esclamazione,
-                           .pulsanti = Pulsanti::Ok});
-        return {};
-    }
-    std::unordered_set<std::string> presenti;
-    for (const std::string& cartella : s.albero.ElencaCartelle(kCartellaSweep))
-        presenti.insert(ChiaveNome(Rifila(cartella)));
-    if (!presenti.contains(ChiaveNome(nudo)))
-        return nudo;
-    return ScegliNomeOccupato(s, nudo, CandidatoLibero(nudo, presenti));
+std::string BaseMisura(const AlberoDati& albero, std::string_view misura) {
+    if (albero.Esiste(PercorsoKSH(misura)))
+        return std::string(misura);
+    const std::string header = UnicoHeader(albero, CartellaMisura(misura));
+    return header.empty() ? std::string(misura) : RimuoviEstensione(header);
+}
+
+std::string TrovaKSH(const AlberoDati& albero, std::string_view misura) {
+    return CartellaMisura(misura) + BaseMisura(albero, misura) + ".KSH";
+}
+
+std::string DirMisuraCorrente(Scrivania& s) {
+    const std::string percorso = Rifila(s.env.SweepPath);
+    const std::string nome = EstraiNomeFile(percorso);
+    if (!nome.empty() && s.albero.SiElenca(CartellaMisura(nome)))
+        return "\\" + nome;
+    // Only name and extension: the directory is left out, as it always was.
+    s.env.SweepPath = "Untitled." + EstraiEstensione(percorso);
+    return "\\" + EstraiNomeFile(s.env.SweepPath);
 }
 
 bool SalvaHeaderSweep(Scrivania& s, std::string_view percorso, const ScanRecord& scan,
                       const SetupRecord& setup) {
-    s.albero.AssicuraCartella(kCartellaSweep);
+    s.albero.AssicuraCartella(cartella::kSweep);
     s.albero.AssicuraCartella(EstraiPercorso(percorso));
+    CopiaFC(s, percorso);
     return SalvaFileRecord(s, percorso, SweepHeader{scan, setup});
 }
 
 bool CaricaHeaderSweep(Scrivania& s, std::string_view percorso, ScanRecord& scan,
                        SetupRecord& setup) {
-    if (!s.albero.Esiste(percorso)) {
-        scan = {};
-        return SalvaHeaderSweep(s, percorso, scan, setup);
+    std::string presente(percorso);
+    if (!s.albero.Esiste(presente)) {
+        const std::string cartella = EstraiPercorso(percorso);
+        const std::string altro = UnicoHeader(s.albero, cartella);
+        if (altro.empty()) {
+            scan = {};
+            return SalvaHeaderSweep(s, percorso, scan, setup);
+        }
+        presente = cartella + altro;
     }
     SweepHeader header{std::move(scan), std::move(setup)};
-    const bool letto = LeggiFileRecord(s, percorso, header);
+    const bool letto = LeggiFileRecord(s, presente, header);
     scan = std::move(header.Scan);
     setup = std::move(header.Setup);
     ControllaScan(scan);
@@ -138,30 +148,30 @@ void PreparaCartellaMisura(Scrivania& s, std::string_view misura) {
     const std::string cartella = CartellaMisura(misura);
     for (const std::string& file : s.albero.ElencaFile(cartella, ""))
         s.albero.Cancella(cartella + file);
-    RifaiCartella(s, misura, "Sub_Measure");
+    RifaiCartella(s, misura, cartella::kSubMeasure);
 }
 
 void CopiaFileLimSweep(Scrivania& s, std::string_view misura, const ScanTable& tabella) {
     if (!MisuraScrivibile(misura))
         return;
-    const std::string meta = RifaiCartella(s, misura, "Limits");
+    const std::string meta = RifaiCartella(s, misura, cartella::kLimits);
     for (const ScanLine& riga : tabella) {
         if (riga.Start == 0)
             continue;
         if (riga.LimitOn == 1)
-            CopiaTabella(s, "Limits", riga.Limit, "5SL", meta);
+            CopiaTabella(s, cartella::kLimits, riga.Limit, "5SL", meta);
         if (riga.LimitDSDOn == 1)
-            CopiaTabella(s, "Limits", riga.LimitDSD, "5SL", meta);
+            CopiaTabella(s, cartella::kLimits, riga.LimitDSD, "5SL", meta);
     }
 }
 
 void CopiaFileFacSweep(Scrivania& s, std::string_view misura) {
     if (!MisuraScrivibile(misura))
         return;
-    const std::string meta = RifaiCartella(s, misura, "Factors");
+    const std::string meta = RifaiCartella(s, misura, cartella::kFactors);
     for (size_t i = 0; i < s.setup.FactorOn.size(); ++i)
         if (s.setup.FactorOn[i] == 1)
-            CopiaTabella(s, "Factors", s.setup.FactorName[i], "5SC", meta);
+            CopiaTabella(s, cartella::kFactors, s.setup.FactorName[i], "5SC", meta);
 }
 
 } // namespace orvane

@@ -1,33 +1,39 @@
-// Measures on disk: names, headers, trace files, and the list of them.
+// Measures on disk: their files, headers and copies, and the list of them.
 #pragma once
 
-#include <cstdint>
-#include <cstdio>
-#include <memory>
-#include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "data/RegolaNomi.h"
 #include "data/Scrivania.h"
-#include "records/SampleRecord.h"
+#include "data/Traccia.h"
 #include "records/SweepHeader.h"
 
 namespace orvane {
 
 /// "Sweep\<misura>\"
 std::string CartellaMisura(std::string_view misura);
+/// "Sweep\<misura>\Sub_Measure\"
+std::string CartellaSubMisure(std::string_view misura);
 /// "Sweep\<misura>\<misura>.KSH"
 std::string PercorsoKSH(std::string_view misura);
 /// "Sweep\<misura>\<base>.RS<riga>"; `base` is the measure's name or the name of a pass.
 std::string PercorsoRS(std::string_view misura, std::string_view base, int riga);
 
-/// The name under which a new run may store: the name itself when free, else as the user answers;
-/// empty for a refusal. Changes nothing on disk.
-std::string ControlNameMeasProfiloB(Scrivania& s, std::string_view nome);
+/// The name that header and traces of a measure bear: its own, or the one of the only header in its
+/// directory, which a rename of the directory alone, or one cut off half way, has left behind.
+std::string BaseMisura(const AlberoDati& albero, std::string_view misura);
+/// Path of the header by that name.
+std::string TrovaKSH(const AlberoDati& albero, std::string_view misura);
 
-/// False, after the box "Cannot open file " + path, when the header cannot be written.
+/// "\" and the name of the current measure, `SweepPath`. A path whose directory could not even be
+/// listed is replaced by "Untitled" with its old extension first.
+std::string DirMisuraCorrente(Scrivania& s);
+
+/// False, after the box "Cannot open file " + path, when the header cannot be written. One that is
+/// written again is first copied to "COPYFC\" with the traces that are there, on the switches
+/// /SETFCSWEEP and /SAVESETFCSWEEP together.
 bool SalvaHeaderSweep(Scrivania& s, std::string_view percorso, const ScanRecord& scan,
                       const SetupRecord& setup);
 /// Reads the two records; absent, it is created from a cleared `ScanRecord`. False after the box
@@ -41,43 +47,13 @@ void PreparaCartellaMisura(Scrivania& s, std::string_view misura);
 void CopiaFileLimSweep(Scrivania& s, std::string_view misura, const ScanTable& tabella);
 void CopiaFileFacSweep(Scrivania& s, std::string_view misura);
 
-/// Appends whole steps to an RS file; each call is one write, so that the file is a whole number of
-/// steps at every moment.
-class ScrittoreTraccia {
-public:
-    /// False when the file cannot be made.
-    bool Apri(const Scrivania& s, std::string_view percorso);
-    bool Scrivi(std::span<const SampleRecord> passi);
-    void Chiudi() { file_.reset(); }
-    bool Aperto() const { return file_ != nullptr; }
-
-private:
-    struct Chiusura {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-    std::unique_ptr<std::FILE, Chiusura> file_;
-    std::vector<uint8_t> byte_;
+/// Times of a measure's trace files, "dd/mm/yyyy hh:mm:ss"; empty without any. The first of its
+/// directory and "Sub_Measure\" that has trace files counts.
+struct DateMisura {
+    std::string prima;
+    std::string ultima;
 };
-
-/// A trace file's whole steps; a part-step at the end is left out, an absent file gives none.
-std::vector<SampleRecord> LeggiTraccia(const Scrivania& s, std::string_view percorso);
-
-/// One sample of a shown trace.
-struct CampioneTraccia {
-    double freqMhz = 0;
-    std::array<int16_t, kNumDetector> livello{}; ///< hundredths of a dB in dBuV
-    int16_t riga = 0;                            ///< scan line, 0 to 9
-};
-using SweepTrace = std::vector<CampioneTraccia>;
-
-/// Whether two frequencies of overlapping lines are the same point: k x Step differs in its last
-/// bits from line to line, so anything nearer than 1 mHz is one frequency.
-bool StessaFrequenza(double aMhz, double bMhz);
-
-/// Builds the trace of a measure (or of its sub-measure `base`) from its files, lines merged by
-/// frequency: where they overlap, the higher value of `detector` wins with all six of its values.
-SweepTrace CreaTracciaSweep(const Scrivania& s, std::string_view misura, std::string_view base,
-                            const ScanTable& tabella, DetectorKind detector);
+DateMisura DataMisura(const Scrivania& s, std::string_view misura);
 
 /// A row of the archive list.
 struct VoceArchivio {

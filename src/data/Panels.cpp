@@ -1,13 +1,16 @@
 #include "data/Panels.h"
 
+#include <vector>
+
 #include "base/Testo.h"
+#include "data/Avvisi.h"
+#include "data/Cartelle.h"
 #include "data/FileRecord.h"
 #include "records/ColoriGrafico.h"
 
 namespace orvane {
 namespace {
 
-constexpr std::string_view kCartellaPanels = "Panels";
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
 constexpr std::string_view kNessuno = "NONE";
 
@@ -30,14 +33,28 @@ void AvvisaRiparato(Scrivania& s, std::string_view percorso, bool cambiato) {
         s.avvisi.push_back(std::string(percorso) + " held damaged values; they were repaired");
 }
 
+/// The current panel goes by `percorso`, on disk too.
+bool SegnaPannelloCorrente(Scrivania& s, const std::string& percorso) {
+    s.env.SetupPanelPath = percorso;
+    return SalvaPanelEPN(s, kPannelloEPN);
+}
+
+/// Without what tells of the grid or of the last run.
+std::vector<uint8_t> SoloTabella(ScanRecord scan) {
+    scan.GridRow = scan.GridCol = 0;
+    for (ScanLine& riga : scan.Righe)
+        riga.StepOriginal = 0;
+    return ScriviRecord(scan);
+}
+
 } // namespace
 
 std::string PercorsoPannello(std::string_view nome, std::string_view estensione) {
-    return std::string(kCartellaPanels) + "\\" + std::string(nome) + "." + std::string(estensione);
+    return std::string(cartella::kPanels) + std::string(nome) + "." + std::string(estensione);
 }
 
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         ImpostaEnvDefault(s.env);
         return SalvaPanelEPN(s, percorso);
@@ -49,12 +66,12 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
 }
 
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, s.env);
 }
 
 bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         s.setup = SetupDefault();
         return SalvaPanelEAM(s, percorso);
@@ -68,12 +85,12 @@ bool CaricaPanelEAM(Scrivania& s, std::string_view percorso) {
 bool SalvaPanelEAM(Scrivania& s, std::string_view percorso) {
     if (s.NoSaveSetup)
         return true;
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, s.setup);
 }
 
 bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
         scan = {};
         return SalvaPanelEST(s, percorso, scan);
@@ -84,12 +101,12 @@ bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan) {
 }
 
 bool SalvaPanelEST(Scrivania& s, std::string_view percorso, const ScanRecord& scan) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, scan);
 }
 
 bool CaricaPathPTH(Scrivania& s) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     if (s.albero.Esiste(kPannelloPTH))
         return LeggiFileRecord(s, kPannelloPTH, s.path);
     s.path = {};
@@ -97,8 +114,26 @@ bool CaricaPathPTH(Scrivania& s) {
 }
 
 bool SalvaPathPTH(Scrivania& s) {
-    s.albero.AssicuraCartella(kCartellaPanels);
+    s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, kPannelloPTH, s.path);
+}
+
+bool CaricaPannelloCome(Scrivania& s, const std::string& percorso) {
+    if (s.NoSaveSetup || !CaricaPanelEAM(s, percorso))
+        return false;
+    if (!s.albero.Copia(percorso, kPannelloEAM))
+        return AvvisaScrittura(s, kPannelloEAM);
+    return SegnaPannelloCorrente(s, percorso);
+}
+
+bool SalvaPannelloCome(Scrivania& s, const std::string& percorso) {
+    if (s.NoSaveSetup || !SalvaPanelEAM(s, percorso) || !CaricaPanelEAM(s, percorso))
+        return false;
+    return SalvaPanelEAM(s, kPannelloEAM) && SegnaPannelloCorrente(s, percorso);
+}
+
+bool ConfrontaScanTab(const ScanRecord& a, const ScanRecord& b) {
+    return SoloTabella(a) == SoloTabella(b);
 }
 
 void ApplicaEnv(EnvRecord& env, bool caricato) {

@@ -14,6 +14,7 @@ inline constexpr std::string_view kPannelloEPN = "Panels\\Untitled.EPN";
 inline constexpr std::string_view kPannelloEAM = "Panels\\Untitled.EAM";
 inline constexpr std::string_view kPannelloEST = "Panels\\Untitled.EST";
 inline constexpr std::string_view kPannelloPTH = "Panels\\Untitled.PTH";
+inline constexpr std::string_view kColoriCOL = "Color.COL"; ///< default of a colour set
 inline constexpr std::string_view kSweepUntitled = "Sweep\\Untitled\\Untitled.KSH";
 
 /// Path of a panel by its bare name: "Panels\<nome>.<estensione>".
@@ -31,6 +32,19 @@ bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan);
 bool SalvaPanelEST(Scrivania& s, std::string_view percorso, const ScanRecord& scan);
 bool CaricaPathPTH(Scrivania& s);
 bool SalvaPathPTH(Scrivania& s);
+
+// The steps behind "Load Panels As" and "Save Panels As", once the user has chosen a path. False,
+// with everything as it was on disk, when a file could not be read or written (after its box), and
+// while `NoSaveSetup` is on.
+
+/// The chosen panel becomes the running one: its path, its record, and a copy as "Untitled.EAM".
+bool CaricaPannelloCome(Scrivania& s, const std::string& percorso);
+/// The running panel goes to the chosen file and runs on from what was written there.
+bool SalvaPannelloCome(Scrivania& s, const std::string& percorso);
+
+/// Whether two scan tables would measure the same: every field but the selected cell and the step
+/// that a run corrected.
+bool ConfrontaScanTab(const ScanRecord& a, const ScanRecord& b);
 
 /// `caricato` false sets the default colours first.
 void ApplicaEnv(EnvRecord& env, bool caricato);

@@ -42,31 +42,31 @@ struct EnvRecord {
 
 template <class Visita> constexpr void Campi(Visita& v, EnvRecord& r) {
     for (auto& x : r.Window1)
-        v.I16(x);
-    v.Riserva(r.Window2);
-    v.Riserva(r.LookValues);
-    v.I16(r.AutoStart);
-    v.I16(r.LinkKind);
-    v.I16(r.LinkPort);
-    v.Testo(r.ScanPanelPath, 200);
-    v.Testo(r.SetupPanelPath, 200);
-    v.Testo(r.SweepPath, 200);
-    v.Riserva(r.ExportFlags);
-    v.I16(r.ScanTabView);
-    v.I16(r.ExportMode);
-    v.I16(r.ReportFlag);
-    v.F32(r.ReportValue);
-    v.I16(r.ReportMode1);
-    v.I16(r.ReportMode2);
+        v.I16(x, "Window1");
+    v.Riserva(r.Window2, "Window2");
+    v.Riserva(r.LookValues, "LookValues");
+    v.I16(r.AutoStart, "AutoStart");
+    v.I16(r.LinkKind, "LinkKind");
+    v.I16(r.LinkPort, "LinkPort");
+    v.Testo(r.ScanPanelPath, 200, "ScanPanelPath");
+    v.Testo(r.SetupPanelPath, 200, "SetupPanelPath");
+    v.Testo(r.SweepPath, 200, "SweepPath");
+    v.Riserva(r.ExportFlags, "ExportFlags");
+    v.I16(r.ScanTabView, "ScanTabView");
+    v.I16(r.ExportMode, "ExportMode");
+    v.I16(r.ReportFlag, "ReportFlag");
+    v.F32(r.ReportValue, "ReportValue");
+    v.I16(r.ReportMode1, "ReportMode1");
+    v.I16(r.ReportMode2, "ReportMode2");
     for (auto& x : r.ReportList)
-        v.I16(x);
+        v.I16(x, "ReportList");
     for (auto& x : r.WaterfallScale)
-        v.F32(x);
-    v.Riserva(r.WaterfallValues);
+        v.F32(x, "WaterfallScale");
+    v.Riserva(r.WaterfallValues, "WaterfallValues");
     for (auto& x : r.GraphColors)
-        v.I32(x);
-    v.Testo(r.PathA, 200);
-    v.Testo(r.PathB, 200);
+        v.I32(x, "GraphColors");
+    v.Testo(r.PathA, 200, "PathA");
+    v.Testo(r.PathB, 200, "PathB");
 }
 static_assert(DimensioneSuDisco<EnvRecord>() == 2096);
 

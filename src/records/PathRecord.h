@@ -14,7 +14,7 @@ struct PathRecord {
 
 template <class Visita> constexpr void Campi(Visita& v, PathRecord& r) {
     for (auto& x : r.Percorsi)
-        v.Testo(x, 300);
+        v.Testo(x, 300, "Path");
 }
 static_assert(DimensioneSuDisco<PathRecord>() == 30000);
 

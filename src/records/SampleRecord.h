@@ -21,7 +21,7 @@ struct SampleRecord {
 
 template <class Visita> constexpr void Campi(Visita& v, SampleRecord& r) {
     for (auto& x : r.Livello)
-        v.I16(x);
+        v.I16(x, "Livello");
 }
 inline constexpr size_t kByteCampione = 12;
 static_assert(DimensioneSuDisco<SampleRecord>() == kByteCampione);
@@ -33,8 +33,8 @@ struct PositionRecord {
 };
 
 template <class Visita> constexpr void Campi(Visita& v, PositionRecord& r) {
-    v.I16(r.Mast);
-    v.I16(r.Table);
+    v.I16(r.Mast, "Mast");
+    v.I16(r.Table, "Table");
 }
 inline constexpr size_t kBytePosizione = 4;
 static_assert(DimensioneSuDisco<PositionRecord>() == kBytePosizione);

@@ -50,40 +50,40 @@ struct ScanLine {
 };
 
 template <class Visita> constexpr void Campi(Visita& v, ScanLine& r) {
-    v.I16(r.PreSel);
-    v.I16(r.PreAmp);
-    v.F64(r.Start);
-    v.F64(r.Stop);
-    v.I16(r.StepMode);
-    v.I16(r.AutoStep);
-    v.F64(r.Step);
-    v.Testo(r.FreqTable, 60);
-    v.I16(r.MinAtt);
-    v.F32(r.HoldTime);
-    v.F32(r.Margin);
+    v.I16(r.PreSel, "PreSel");
+    v.I16(r.PreAmp, "PreAmp");
+    v.F64(r.Start, "Start");
+    v.F64(r.Stop, "Stop");
+    v.I16(r.StepMode, "StepMode");
+    v.I16(r.AutoStep, "AutoStep");
+    v.F64(r.Step, "Step");
+    v.Testo(r.FreqTable, 60, "FreqTable");
+    v.I16(r.MinAtt, "MinAtt");
+    v.F32(r.HoldTime, "HoldTime");
+    v.F32(r.Margin, "Margin");
     for (auto& x : r.LineSwitch)
-        v.I16(x);
-    v.I16(r.Smart);
+        v.I16(x, "LineSwitch");
+    v.I16(r.Smart, "Smart");
     for (auto& x : r.Detector)
-        v.I16(x);
+        v.I16(x, "Detector");
     for (auto& x : r.LineReserved0)
-        v.I16(x);
-    v.I16(r.LimitOn);
-    v.Testo(r.Limit, 60);
-    v.I16(r.PromptOn);
-    v.Testo(r.Prompt, 200);
-    v.I16(r.RbwId);
-    v.I16(r.NumStepFT);
+        v.I16(x, "LineReserved0");
+    v.I16(r.LimitOn, "LimitOn");
+    v.Testo(r.Limit, 60, "Limit");
+    v.I16(r.PromptOn, "PromptOn");
+    v.Testo(r.Prompt, 200, "Prompt");
+    v.I16(r.RbwId, "RbwId");
+    v.I16(r.NumStepFT, "NumStepFT");
     for (auto& x : r.Antenna)
-        v.I16(x);
-    v.F32(r.HoldTimeSD);
-    v.I16(r.LimitDSDOn);
-    v.Testo(r.LimitDSD, 60);
-    v.F64(r.StepOriginal);
+        v.I16(x, "Antenna");
+    v.F32(r.HoldTimeSD, "HoldTimeSD");
+    v.I16(r.LimitDSDOn, "LimitDSDOn");
+    v.Testo(r.LimitDSD, 60, "LimitDSD");
+    v.F64(r.StepOriginal, "StepOriginal");
     for (auto& x : r.LineReserved1)
-        v.I16(x);
+        v.I16(x, "LineReserved1");
     for (auto& x : r.LineReserved2)
-        v.I32(x);
+        v.I32(x, "LineReserved2");
 }
 static_assert(DimensioneSuDisco<ScanLine>() == 1200);
 
@@ -103,18 +103,21 @@ struct ScanRecord {
 };
 
 template <class Visita> constexpr void Campi(Visita& v, ScanRecord& r) {
-    for (auto& riga : r.Righe)
-        Campi(v, riga);
-    v.I16(r.WorstMode);
-    v.I32(r.NumWorst);
-    v.Testo(r.ScanComment, 60);
-    v.I16(r.GridRow);
-    v.I16(r.GridCol);
-    v.Riserva(r.ScanReserved0);
+    for (size_t i = 0; i < kMaxScanLine; ++i) {
+        Gruppo(v, "ScanLine", i);
+        Campi(v, r.Righe[i]);
+    }
+    FineGruppo(v);
+    v.I16(r.WorstMode, "WorstMode");
+    v.I32(r.NumWorst, "NumWorst");
+    v.Testo(r.ScanComment, 60, "ScanComment");
+    v.I16(r.GridRow, "GridRow");
+    v.I16(r.GridCol, "GridCol");
+    v.Riserva(r.ScanReserved0, "ScanReserved0");
     for (auto& x : r.ScanReserved1)
-        v.I16(x);
+        v.I16(x, "ScanReserved1");
     for (auto& x : r.ScanReserved2)
-        v.I32(x);
+        v.I32(x, "ScanReserved2");
 }
 static_assert(DimensioneSuDisco<ScanRecord>() == 12676);
 

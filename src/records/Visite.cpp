@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-void LettoreCampi::Testo(std::string& campo, size_t larghezza) {
+void LettoreCampi::Testo(std::string& campo, size_t larghezza, std::string_view) {
     const uint8_t* da = Prendi(larghezza);
     if (!da)
         return;
@@ -13,7 +13,7 @@ void LettoreCampi::Testo(std::string& campo, size_t larghezza) {
     campo = DaAnsi(bytes);
 }
 
-void ScrittoreCampi::Testo(const std::string& campo, size_t larghezza) {
+void ScrittoreCampi::Testo(const std::string& campo, size_t larghezza, std::string_view) {
     std::string bytes = InAnsi(campo);
     bytes.resize(larghezza, ' ');
     dati_.insert(dati_.end(), bytes.begin(), bytes.end());

@@ -1,5 +1,6 @@
 // How a record goes to disk: one list of fields a record, `Campi`, read, written and measured by
-// the visitors below. Packed, little-endian, text blank-padded in the ANSI code page.
+// the visitors below. Packed, little-endian, text blank-padded in the ANSI code page. A field goes
+// by with its documented name; those without one hold what other programs keep there.
 #pragma once
 
 #include <array>
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/PaginaCodici.h"
@@ -32,12 +34,12 @@ class LettoreCampi {
 public:
     explicit LettoreCampi(std::span<const uint8_t> dati) : dati_(dati) {}
 
-    void I16(int16_t& campo) { Intero<uint16_t>(campo); }
-    void I32(int32_t& campo) { Intero<uint32_t>(campo); }
-    void F32(float& campo) { Reale<uint32_t>(campo); }
-    void F64(double& campo) { Reale<uint64_t>(campo); }
-    void Testo(std::string& campo, size_t larghezza);
-    template <size_t N> void Riserva(std::array<uint8_t, N>& campo) {
+    void I16(int16_t& campo, std::string_view = {}) { Intero<uint16_t>(campo); }
+    void I32(int32_t& campo, std::string_view = {}) { Intero<uint32_t>(campo); }
+    void F32(float& campo, std::string_view = {}) { Reale<uint32_t>(campo); }
+    void F64(double& campo, std::string_view = {}) { Reale<uint64_t>(campo); }
+    void Testo(std::string& campo, size_t larghezza, std::string_view = {});
+    template <size_t N> void Riserva(std::array<uint8_t, N>& campo, std::string_view = {}) {
         if (const uint8_t* da = Prendi(N))
             std::copy(da, da + N, campo.begin());
     }
@@ -72,13 +74,13 @@ class ScrittoreCampi {
 public:
     explicit ScrittoreCampi(std::vector<uint8_t>& dati) : dati_(dati) {}
 
-    void I16(const int16_t& campo) { Accoda(static_cast<uint16_t>(campo)); }
-    void I32(const int32_t& campo) { Accoda(static_cast<uint32_t>(campo)); }
-    void F32(const float& campo) { Accoda(std::bit_cast<uint32_t>(campo)); }
-    void F64(const double& campo) { Accoda(std::bit_cast<uint64_t>(campo)); }
+    void I16(const int16_t& campo, std::string_view = {}) { Accoda(static_cast<uint16_t>(campo)); }
+    void I32(const int32_t& campo, std::string_view = {}) { Accoda(static_cast<uint32_t>(campo)); }
+    void F32(const float& campo, std::string_view = {}) { Accoda(std::bit_cast<uint32_t>(campo)); }
+    void F64(const double& campo, std::string_view = {}) { Accoda(std::bit_cast<uint64_t>(campo)); }
     /// Cut to `larghezza`, or padded with blanks up to it.
-    void Testo(const std::string& campo, size_t larghezza);
-    template <size_t N> void Riserva(const std::array<uint8_t, N>& campo) {
+    void Testo(const std::string& campo, size_t larghezza, std::string_view = {});
+    template <size_t N> void Riserva(const std::array<uint8_t, N>& campo, std::string_view = {}) {
         dati_.insert(dati_.end(), campo.begin(), campo.end());
     }
 
@@ -96,13 +98,29 @@ private:
 struct MisuratoreCampi {
     size_t byte = 0;
 
-    constexpr void I16(const int16_t&) { byte += 2; }
-    constexpr void I32(const int32_t&) { byte += 4; }
-    constexpr void F32(const float&) { byte += 4; }
-    constexpr void F64(const double&) { byte += 8; }
-    constexpr void Testo(const std::string&, size_t larghezza) { byte += larghezza; }
-    template <size_t N> constexpr void Riserva(const std::array<uint8_t, N>&) { byte += N; }
+    constexpr void I16(const int16_t&, std::string_view = {}) { byte += 2; }
+    constexpr void I32(const int32_t&, std::string_view = {}) { byte += 4; }
+    constexpr void F32(const float&, std::string_view = {}) { byte += 4; }
+    constexpr void F64(const double&, std::string_view = {}) { byte += 8; }
+    constexpr void Testo(const std::string&, size_t larghezza, std::string_view = {}) {
+        byte += larghezza;
+    }
+    template <size_t N>
+    constexpr void Riserva(const std::array<uint8_t, N>&, std::string_view = {}) {
+        byte += N;
+    }
 };
+
+/// The fields that follow belong to record `indice` of a list of records, until the next of them
+/// or `FineGruppo`. Only visitors that tell of it have a `Gruppo`.
+template <class Visita> constexpr void Gruppo(Visita& v, std::string_view nome, size_t indice) {
+    if constexpr (requires { v.Gruppo(nome, indice); })
+        v.Gruppo(nome, indice);
+}
+template <class Visita> constexpr void FineGruppo(Visita& v) {
+    if constexpr (requires { v.FineGruppo(); })
+        v.FineGruppo();
+}
 
 template <class Record> constexpr size_t DimensioneSuDisco() {
     Record vuoto{};

@@ -1,12 +1,14 @@
 #include "ui/Postazione.h"
 
+#include "platform/Sincronizza.h"
+
 namespace orvane {
 
 Postazione::Postazione(AmbienteQt& ambienteQt, const std::filesystem::path& dati,
                        const Vettori& vettori)
     : ambiente(ambienteQt), log(ambiente, dati),
       porta(ambiente, protocollo, log, vettori), scrivania{.ambiente = ambiente,
-                                                           .albero = AlberoDati(dati)},
+                                                           .albero = AlberoDati(dati, Sincronizza)},
       finestra(scrivania, scan), ricevitore{.ambiente = ambiente,
                                             .stato = protocollo,
                                             .log = log,

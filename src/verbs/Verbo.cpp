@@ -24,6 +24,11 @@ constexpr std::array kVerbi = {
     VoceVerbo{"archive", "", "the measures, with date and lines", VerboArchive},
     VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{
+        "panel", "list | show [NAME|PATH]",
+        "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"
+        "      KSH",
+        VerboPanel},
     VoceVerbo{"limit",
               "list | show NAME | value NAME HZ ... | export NAME FILE | library\n"
               "        | import NAME FILE [--unit U] [--title T] [--lin]\n"

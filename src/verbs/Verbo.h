@@ -64,6 +64,7 @@ EsitoVerbo VerboScan(Banco& banco, Parole parole);
 EsitoVerbo VerboSweep(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
+EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
 EsitoVerbo VerboLimit(Banco& banco, Parole parole);
 EsitoVerbo VerboFactor(Banco& banco, Parole parole);

@@ -102,7 +102,7 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole) {
         return UsoErrato(banco, "trace", "MEASURE or NAME is no valid name");
     const std::string& nome = *misura;
     const std::string& base = *passata;
-    if (!banco.scrivania.albero.Esiste(PercorsoKSH(nome)))
+    if (!banco.scrivania.albero.Esiste(TrovaKSH(banco.scrivania.albero, nome)))
         return Guasto(banco, kGuastoFile, "there is no measure " + PercorsoKSH(nome));
     ScanRecord scan;
     SetupRecord setup;

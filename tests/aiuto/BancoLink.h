@@ -45,6 +45,7 @@ struct BancoBase {
         std::ifstream file(cartella.Percorso() / nome, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
+    double Trascorsi() const { return ambiente.ora - inizio; }
     std::vector<std::string> Riquadri() const {
         std::vector<std::string> testi;
         for (const Riquadro& riquadro : ambiente.riquadri)
@@ -54,6 +55,7 @@ struct BancoBase {
 
     CartellaProva cartella;
     AmbienteProva ambiente;
+    double inizio = ambiente.ora;
     StatoProtocollo stato;
     FinestraProva finestra;
     CatalogoProva catalogo;

@@ -40,9 +40,7 @@ struct NessunaPorta : CatalogoPorte {
 struct VistaNota : VistaErrore, VistaCorsa {
     std::vector<std::string> strisce;
     bool strisciaVisibile = false;
-    std::vector<FaseCorsa> fasi;
     size_t passi = 0;
-    std::vector<double> restano;
     double frazione = 0;
     std::vector<std::pair<int, ColonnaScan>> celleErrate;
     std::function<void()> alPasso;
@@ -60,7 +58,7 @@ struct VistaNota : VistaErrore, VistaCorsa {
             celleErrate.emplace_back(riga, colonna);
     }
     void MostraModello() override {}
-    void MostraFase(FaseCorsa fase) override { fasi.push_back(fase); }
+    void MostraFase(FaseCorsa) override {}
     void IniziaTraccia(const ScanTable&, const std::string&) override {}
     void AggiungiPassi(const ScanLine&, double, double,
                        std::span<const SampleRecord> nuovi) override {
@@ -69,10 +67,7 @@ struct VistaNota : VistaErrore, VistaCorsa {
             alPasso();
     }
     void MostraFreqLivello(double, int16_t) override {}
-    void MostraAvanzamento(const Avanzamento& a) override {
-        frazione = a.frazione;
-        restano.push_back(a.restanoS);
-    }
+    void MostraAvanzamento(const Avanzamento& a) override { frazione = a.frazione; }
     void MostraBatteria(const std::string&) override {}
 };
 

@@ -23,8 +23,8 @@ public:
     bool chiamabile = true; ///< false: no call can be made
     std::vector<std::string> dispositivi = {"5520 / 5540 A"};
     /// Status of these calls, 0 for success.
-    uint32_t statoLista = 0, statoApri = 0, statoBaud = 0, statoFormato = 0, statoScrivi = 0,
-             statoLeggi = 0, statoCoda = 0, statoSvuota = 0, statoChiudi = 0;
+    uint32_t statoApri = 0, statoBaud = 0, statoFormato = 0, statoLeggi = 0, statoCoda = 0,
+             statoSvuota = 0;
     size_t lettiDichiarati = std::numeric_limits<size_t>::max(); ///< what a read says it got
     /// Calls by name, with the arguments that matter.
     std::vector<std::string> chiamate;
@@ -41,7 +41,7 @@ public:
     bool Installato() override { return installato; }
     StatoUsb ListaNumero(uint32_t& quanti) override {
         quanti = static_cast<uint32_t>(dispositivi.size());
-        return Nota("lista", statoLista);
+        return Nota("lista", 0);
     }
     StatoUsb ListaDescrizione(uint32_t indice, std::string& descrizione) override {
         descrizione = dispositivi.at(indice);
@@ -66,12 +66,12 @@ public:
     }
     StatoUsb Scrivi(HandleUsb, std::span<const uint8_t> dati, size_t& quanti) override {
         quanti = dati.size();
-        if (chiamabile && statoScrivi == 0) {
+        if (chiamabile) {
             scritti.emplace_back(dati.begin(), dati.end());
             if (alComando)
                 alComando(scritti.back());
         }
-        return chiamabile ? StatoUsb(statoScrivi) : std::nullopt;
+        return chiamabile ? StatoUsb(0) : std::nullopt;
     }
     StatoUsb Leggi(HandleUsb, std::span<uint8_t> dove, size_t& letti) override {
         letti = 0;
@@ -95,7 +95,7 @@ public:
     }
     StatoUsb Chiudi(HandleUsb handle) override {
         return Nota(handle == kHandleUsbChiuso ? "chiudi niente" : "chiudi",
-                    handle == kHandleUsbChiuso ? 1 : statoChiudi);
+                    handle == kHandleUsbChiuso ? 1 : 0);
     }
 
 private:

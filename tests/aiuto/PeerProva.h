@@ -46,6 +46,12 @@ public:
                 Rispondi(voce->second);
         };
     }
+    /// These answers one after the other, whatever is asked; the last one for all that follow.
+    void RispondiInFila(std::vector<std::string> fila) {
+        alComando = [this, fila = std::move(fila), n = size_t{0}](const std::string&) mutable {
+            Rispondi(fila[std::min(n++, fila.size() - 1)]);
+        };
+    }
 
     EsitoApertura Apri(const std::string& nome) override {
         aperture.push_back(nome);

@@ -2,6 +2,7 @@
 #include "data/AlberoDati.h"
 
 #include "ScrivaniaProva.h"
+#include "data/Cartelle.h"
 #include "data/NomiDisco.h"
 
 namespace orvane::prova {
@@ -174,6 +175,78 @@ TEST_F(AlberoDatiTest, RemovesFilesAndDirectoriesButNeverTheRoot) {
     for (const std::string& radice : {std::string(), std::string("."), s.albero.DataRoot()})
         s.albero.CancellaCartella(radice);
     EXPECT_TRUE(fs::exists(Host("keep")));
+}
+
+TEST_F(AlberoDatiTest, AFileIsOnTheDiskBeforeItTakesItsName) {
+    Metti("Panels/a.EAM", "old");
+    std::vector<std::string> passi;
+    const AlberoDati albero(cartella.Percorso(), [&](const fs::path& cosa) {
+        const bool file = fs::is_regular_file(cosa);
+        passi.push_back((file ? "file " + std::to_string(fs::file_size(cosa))
+                              : "directory " + cosa.filename().string()) +
+                        ", target " + Prendi("Panels/a.EAM"));
+        return true;
+    });
+    ASSERT_TRUE(albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n', 'e', 'w'}));
+    EXPECT_EQ(passi,
+              (std::vector<std::string>{"file 3, target old", "directory Panels, target new"}));
+    passi.clear();
+    ASSERT_TRUE(albero.Copia("Panels\\a.EAM", "Panels\\b.EAM"));
+    EXPECT_EQ(passi.size(), 2u);
+    passi.clear();
+    albero.AssicuraCartella("x\\y");
+    EXPECT_EQ(passi, (std::vector<std::string>{
+                         "directory x, target new",
+                         "directory " + cartella.Percorso().filename().string() + ", target new"}));
+    passi.clear();
+    albero.AssicuraCartella("x\\y");
+    EXPECT_TRUE(passi.empty());
+}
+
+TEST_F(AlberoDatiTest, WhatCannotBeMadeToLastDoesNotReplaceTheOld) {
+    Metti("Panels/a.EAM", "old");
+    const AlberoDati albero(cartella.Percorso(),
+                            [](const fs::path& cosa) { return !fs::is_regular_file(cosa); });
+    EXPECT_FALSE(albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n'}));
+    EXPECT_EQ(Prendi("Panels/a.EAM"), "old");
+    EXPECT_EQ(Nomi("Panels"), std::vector<std::string>{"a.EAM"});
+}
+
+TEST_F(AlberoDatiTest, WhatACrashLeftBehindIsClearedAwayInTime) {
+    Metti("Panels/.salva-0", "an hour old");
+    Metti("Panels/.salva-1", "of now");
+    fs::last_write_time(Host("Panels/.salva-0"),
+                        fs::file_time_type::clock::now() - std::chrono::minutes(61));
+    ASSERT_TRUE(s.albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n'}));
+    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{".salva-1", "a.EAM"}));
+}
+
+TEST_F(AlberoDatiTest, ARenameTakesNothingsPlace) {
+    Metti("Sweep/a/x", "a");
+    Metti("Sweep/B/x", "b");
+    Metti("f", "f");
+    EXPECT_FALSE(s.albero.Rinomina("Sweep\\a", "Sweep\\b")) << "there in another case";
+    EXPECT_FALSE(s.albero.Rinomina("f", "Sweep\\a\\X"));
+    EXPECT_FALSE(s.albero.Rinomina("absent", "c"));
+    EXPECT_FALSE(s.albero.Rinomina("f", "..\\f"));
+    EXPECT_FALSE(s.albero.Rinomina("", "c"));
+    EXPECT_EQ(Prendi("Sweep/a/x") + Prendi("Sweep/B/x") + Prendi("f"), "abf");
+    EXPECT_TRUE(s.albero.Rinomina("SWEEP\\A\\", "Sweep\\New Name\\"));
+    EXPECT_EQ(Nomi("Sweep"), (std::vector<std::string>{"B", "New Name"}));
+    EXPECT_TRUE(s.albero.CancellaCartellaVuota("absent"));
+    EXPECT_FALSE(s.albero.CancellaCartellaVuota("Sweep\\b"));
+    EXPECT_FALSE(s.albero.CancellaCartellaVuota("f"));
+}
+
+TEST_F(AlberoDatiTest, EveryDirectoryOfTheTreeIsMadeOnDemand) {
+    for (const std::string_view nome : orvane::cartella::kTutte) {
+        EXPECT_TRUE(nome.ends_with('\\'));
+        s.albero.AssicuraCartella(nome);
+        EXPECT_TRUE(s.albero.EsisteCartella(nome)) << nome;
+    }
+    EXPECT_EQ(Nomi(""),
+              (std::vector<std::string>{"Analyzer", "Click", "Factors", "Limits", "Mast-Table",
+                                        "Panels", "Report", "Sweep", "TMP", "Table", "Waterfall"}));
 }
 
 TEST(NomiDiscoTest, TableNamesStayInTheirDirectory) {

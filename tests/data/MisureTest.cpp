@@ -232,5 +232,89 @@ TEST_F(MisureTest, AnEmptyArchiveIsNoFailure) {
     EXPECT_FALSE(fs::exists(Host("Sweep/bare/bare.KSH"))) << "listing writes nothing";
 }
 
+TEST_F(MisureTest, AHeaderUnderAnotherNameIsFoundWhereItIsTheOnlyOne) {
+    ScanRecord scan;
+    scan.ScanComment = "moved by hand";
+    ASSERT_TRUE(SalvaHeaderSweep(s, "Sweep\\new\\old.KSH", scan, {}));
+    EXPECT_EQ(BaseMisura(s.albero, "new"), "old");
+    EXPECT_EQ(TrovaKSH(s.albero, "new"), "Sweep\\new\\old.KSH");
+    ScanRecord letto;
+    SetupRecord setup;
+    ASSERT_TRUE(CaricaHeaderSweep(s, PercorsoKSH("new"), letto, setup));
+    EXPECT_EQ(letto.ScanComment, "moved by hand");
+    EXPECT_FALSE(s.albero.Esiste(PercorsoKSH("new"))) << "no cleared one takes its place";
+    EXPECT_TRUE(ElencaMisure(s).at(0).leggibile);
+    Metti("Sweep/new/third.KSH", "");
+    EXPECT_EQ(BaseMisura(s.albero, "new"), "new") << "which of them is open";
+    EXPECT_EQ(TrovaKSH(s.albero, "absent"), PercorsoKSH("absent"));
+}
+
+TEST_F(MisureTest, TheCurrentMeasureIsNamedByItsPath) {
+    Metti("Sweep/file", "");
+    struct {
+        const char* percorso;
+        const char* esito;
+        const char* poi; ///< the path afterwards
+    } const casi[] = {
+        {"Sweep\\m\\m.KSH", "\\m", "Sweep\\m\\m.KSH"},
+        {"  Sweep\\a b\\a b.KSH ", "\\a b", "  Sweep\\a b\\a b.KSH "},
+        {"Sweep\\what?\\what?.KSH", "\\Untitled", "Untitled.KSH"},
+        {"Sweep\\x\\...KSH", "\\Untitled", "Untitled.KSH"},
+        {"file.KSH", "\\Untitled", "Untitled.KSH"},
+        {".KSH", "\\Untitled", "Untitled."},
+        {"Untitled.EST", "\\Untitled", "Untitled.EST"},
+    };
+    for (const auto& caso : casi) {
+        s.env.SweepPath = caso.percorso;
+        EXPECT_EQ(DirMisuraCorrente(s), caso.esito) << caso.percorso;
+        EXPECT_EQ(s.env.SweepPath, caso.poi);
+    }
+}
+
+TEST_F(MisureTest, OnTheirSwitchesAHeaderWrittenAgainIsCopiedWithItsTraces) {
+    ScanRecord prima;
+    prima.ScanComment = "first";
+    for (const char* file : {"Sweep/m/m.RS0", "Sweep/m/m.TM0", "Sweep/m/Test Comment.TXT",
+                             "Sweep/m/Sub_Measure/W_01.RS0", "Sweep/m/Limits/a.5SL"})
+        Metti(file, "t");
+    struct {
+        const char* riga;
+        bool copia;
+    } const casi[] = {{"", false},
+                      {"/SAVESETFCSWEEP", false},
+                      {"/SETFCSWEEP", false},
+                      {"/setfcsweep /savesetfcsweep", false},
+                      {"/SAVESETFCSWEEP /SETFCSWEEP", true}};
+    for (const auto& caso : casi) {
+        fs::remove(Host("Sweep/m/m.KSH"));
+        ambiente.riga = caso.riga;
+        ASSERT_TRUE(SalvaHeaderSweep(s, PercorsoKSH("m"), prima, {}));
+        EXPECT_FALSE(fs::exists(Host("COPYFC"))) << "nothing to copy the first time";
+        ASSERT_TRUE(SalvaHeaderSweep(s, s.albero.DataRoot() + PercorsoKSH("m"), {}, {}));
+        EXPECT_EQ(fs::exists(Host("COPYFC")), caso.copia) << caso.riga;
+    }
+    EXPECT_EQ(Nomi("COPYFC/Sweep/m"),
+              (std::vector<std::string>{"Sub_Measure", "m.KSH", "m.RS0", "m.TM0"}));
+    EXPECT_EQ(Nomi("COPYFC/Sweep/m/Sub_Measure"), std::vector<std::string>{"W_01.RS0"});
+    ScanRecord copiato;
+    ASSERT_TRUE(LeggiRecord(*s.albero.Leggi("COPYFC\\Sweep\\m\\m.KSH"), copiato));
+    EXPECT_EQ(copiato.ScanComment, "first") << "as it was before";
+    EXPECT_TRUE(ambiente.riquadri.empty());
+}
+
+TEST_F(MisureTest, TheDatesOfAMeasureAreThoseOfItsTraces) {
+    EXPECT_EQ(DataMisura(s, "m").prima, "");
+    Metti("Sweep/m/Sub_Measure/a.RS3", "");
+    Data("Sweep/m/Sub_Measure/a.RS3", 2023, 1, 2, "00:00:01");
+    EXPECT_EQ(DataMisura(s, "m").prima, "02/01/2023 00:00:01");
+    Metti("Sweep/m/m.RS9", "");
+    Metti("Sweep/m/m.RS0", "");
+    Metti("Sweep/m/m.KSH", "");
+    Data("Sweep/m/m.RS9", 2024, 2, 29, "23:59:59");
+    Data("Sweep/m/m.RS0", 2025, 2, 28, "12:00:00");
+    EXPECT_EQ(DataMisura(s, "M").prima, "29/02/2024 23:59:59");
+    EXPECT_EQ(DataMisura(s, "M").ultima, "28/02/2025 12:00:00");
+}
+
 } // namespace
 } // namespace orvane::prova

@@ -1,6 +1,8 @@
 // Panels: defaults, short and long files, the two boxes, and the rules of single fields.
 #include "data/Panels.h"
 
+#include <functional>
+
 #include "ScrivaniaProva.h"
 #include "records/ColoriGrafico.h"
 
@@ -240,6 +242,86 @@ TEST_F(PanelsTest, TheSetupLineIsTheLastOfItsFile) {
         Metti("Orvane Console.DAT", std::string(caso.file));
         LeggiDatiSetup(s);
         EXPECT_EQ(s.RigaSetup, caso.riga) << caso.file;
+    }
+}
+
+TEST_F(PanelsTest, AChosenPanelBecomesTheRunningOne) {
+    s.setup.RefLevel = 7;
+    ASSERT_TRUE(SalvaPanelEAM(s, "Panels\\Mine.EAM"));
+    s.setup.RefLevel = 1;
+    ASSERT_TRUE(CaricaPannelloCome(s, "Panels\\Mine.EAM"));
+    EXPECT_EQ(s.setup.RefLevel, 7);
+    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), Prendi("Panels/Mine.EAM"));
+    EnvRecord env;
+    ASSERT_TRUE(LeggiRecord(*s.albero.Leggi(kPannelloEPN), env));
+    EXPECT_EQ(env.SetupPanelPath, "Panels\\Mine.EAM");
+}
+
+TEST_F(PanelsTest, APanelThatCannotBeReadLeavesTheRunningFile) {
+    s.env.SetupPanelPath = "Panels\\Old.EAM";
+    Metti("Panels/Untitled.EAM", "running");
+    Metti("Panels/Short.EAM", "short");
+    EXPECT_FALSE(CaricaPannelloCome(s, "Panels\\Short.EAM"));
+    EXPECT_EQ(Riquadro(), "Failed loading" + s.albero.DataRoot() + "Panels\\Short.EAM");
+    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), "running");
+    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Old.EAM");
+    EXPECT_FALSE(s.albero.Esiste(kPannelloEPN));
+}
+
+TEST_F(PanelsTest, ARunningPanelIsSavedUnderAChosenName) {
+    s.setup.RefLevel = 9;
+    ASSERT_TRUE(SalvaPannelloCome(s, "Panels\\Mine.EAM"));
+    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Mine.EAM");
+    EXPECT_EQ(Nomi("Panels"),
+              (std::vector<std::string>{"Mine.EAM", "Untitled.EAM", "Untitled.EPN"}));
+    EXPECT_EQ(Prendi("Panels/Mine.EAM"), Prendi("Panels/Untitled.EAM"));
+    fs::create_directories(Host("Panels/Dir.EAM"));
+    EXPECT_FALSE(SalvaPannelloCome(s, "Panels\\Dir.EAM"));
+    EXPECT_EQ(Riquadro(), "Cannot open file " + s.albero.DataRoot() + "Panels\\Dir.EAM");
+    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Mine.EAM");
+}
+
+TEST_F(PanelsTest, WhileAMeasureIsViewedNoPanelIsChosen) {
+    s.setup.RefLevel = 3;
+    ASSERT_TRUE(SalvaPanelEAM(s, "Panels\\Mine.EAM"));
+    s.setup.RefLevel = 4;
+    s.NoSaveSetup = true;
+    EXPECT_FALSE(CaricaPannelloCome(s, "Panels\\Mine.EAM"));
+    EXPECT_FALSE(SalvaPannelloCome(s, "Panels\\New.EAM"));
+    EXPECT_EQ(s.setup.RefLevel, 4);
+    EXPECT_EQ(Nomi("Panels"), std::vector<std::string>{"Mine.EAM"});
+}
+
+TEST_F(PanelsTest, AColourSetIsAWholeEnvironment) {
+    s.env.GraphColors[0] = Rgb(1, 2, 3);
+    s.env.LinkPort = 5;
+    ASSERT_TRUE(SalvaPanelEPN(s, kColoriCOL));
+    EXPECT_EQ(fs::file_size(Host("Color.COL")), 2096u);
+    s.env = {};
+    ASSERT_TRUE(CaricaPanelEPN(s, kColoriCOL));
+    EXPECT_EQ(s.env.GraphColors[0], Rgb(1, 2, 3));
+    EXPECT_EQ(s.env.LinkPort, 5) << "deliberately: the other settings come with it";
+}
+
+TEST_F(PanelsTest, TablesAreTheSameWhenTheyMeasureTheSame) {
+    ScanRecord a;
+    a.Righe[0] = {.Start = 1, .Stop = 2, .Step = 0.1};
+    ScanRecord b = a;
+    EXPECT_TRUE(ConfrontaScanTab(a, b));
+    b.GridRow = 4;
+    b.GridCol = 2;
+    b.Righe[0].StepOriginal = 0.1;
+    EXPECT_TRUE(ConfrontaScanTab(a, b)) << "the selected cell and a run's mark are no change";
+    const std::array<std::function<void(ScanRecord&)>, 6> cambi = {[](ScanRecord& r) { r.Righe[0].PreAmp = 1; },
+                                                                   [](ScanRecord& r) { r.Righe[0].Start = 1.1; },
+                                                                   [](ScanRecord& r) { r.Righe[9].Prompt = "x"; },
+                                                                   [](ScanRecord& r) { r.WorstMode = 1; },
+                                                                   [](ScanRecord& r) { r.NumWorst = 3; },
+                                                                   [](ScanRecord& r) { r.ScanComment = "x"; }};
+    for (size_t i = 0; i < cambi.size(); ++i) {
+        b = a;
+        cambi[i](b);
+        EXPECT_FALSE(ConfrontaScanTab(a, b)) << i;
     }
 }
 

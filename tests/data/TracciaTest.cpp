@@ -160,5 +160,156 @@ TEST_F(TracciaTest, ASubMeasureIsFoundBesideOrBelow) {
     EXPECT_TRUE(CreaTracciaSweep(s, "m", "..\\..\\x", tabella, DetectorKind::Peak).empty());
 }
 
+TEST_F(TracciaTest, OfTwoLinesThatTieTheEarlierOneStaysWhicheverComesFirst) {
+    // The later line's frequency is lower by its last bits.
+    Riga(0, 0.1 + 0.2, 0.1, {Passo(7, 1)});
+    Riga(1, 0.3, 0.1, {Passo(7, 2)});
+    ASSERT_LT(tabella[1].Start, tabella[0].Start);
+    const SweepTrace t = Crea();
+    ASSERT_EQ(t.size(), 1u);
+    EXPECT_EQ(t[0].riga, 0);
+    EXPECT_EQ(t[0].livello[1], 1);
+}
+
+TEST_F(TracciaTest, TenLinesInterleavedComeOutInOneOrder) {
+    for (size_t n = 0; n < 10; ++n) {
+        const double start = 1 + 0.01 * static_cast<double>((n * 7) % 10);
+        Riga(n, start, 0.1, std::vector<SampleRecord>(50, Passo(static_cast<int16_t>(n))));
+    }
+    const SweepTrace t = Crea();
+    ASSERT_EQ(t.size(), 500u);
+    for (size_t i = 0; i < t.size(); ++i) {
+        EXPECT_NEAR(t[i].freqMhz, 1 + 0.01 * static_cast<double>(i), 1e-9);
+        EXPECT_EQ(t[i].livello[0], t[i].riga);
+    }
+}
+
+TEST_F(TracciaTest, OnASwitchEachLineKeepsItsSample) {
+    Riga(0, 1.0, 0.1, {Passo(5), Passo(6)});
+    Riga(1, 1.0, 0.1, {Passo(9)});
+    EXPECT_EQ(Crea().size(), 2u);
+    ambiente.riga = "orvane /RSCOMP";
+    const SweepTrace t = Crea();
+    ASSERT_EQ(t.size(), 3u);
+    EXPECT_EQ(t[0].livello[0], 5);
+    EXPECT_EQ(t[1].livello[0], 9);
+    EXPECT_EQ(t[2].livello[0], 6);
+}
+
+TEST_F(TracciaTest, APositionRunsBesideEachStep) {
+    s.albero.AssicuraCartella("Sweep\\m\\Sub_Measure");
+    ScrittoreConPosizioni file;
+    EXPECT_FALSE(file.Aperto());
+    ASSERT_TRUE(file.Apri(s, PercorsoRS("m", "m", 2), "Sweep\\m\\m.TM2"));
+    const std::vector<PositionRecord> posizioni = {{100, 45}, {-1, 359}};
+    ASSERT_TRUE(file.Scrivi(std::vector{Passo(1), Passo(2)}, posizioni));
+    EXPECT_EQ(Prendi("Sweep/m/m.TM2"), std::string("\x64\0\x2D\0\xFF\xFF\x67\x01", 8));
+    file.Chiudi();
+    tabella[2] = {.Start = 1, .Step = 1};
+    const SweepTrace t = Crea();
+    ASSERT_EQ(t.size(), 2u);
+    EXPECT_EQ(t[0].mast, 100);
+    EXPECT_EQ(t[0].table, 45);
+    EXPECT_EQ(t[1].table, 359);
+}
+
+TEST_F(TracciaTest, AfterACrashStepsAndPositionsGoOnTogether) {
+    struct {
+        size_t byteRS, byteTM, insieme;
+    } const casi[] = {{36, 12, 3}, {36, 8, 2}, {41, 11, 2}, {12, 40, 1}, {24, 0, 0}};
+    for (const auto& caso : casi) {
+        Metti("Sweep/m/m.RS0", std::string(caso.byteRS, '\1'));
+        Metti("Sweep/m/m.TM0", std::string(caso.byteTM, '\1'));
+        ScrittoreConPosizioni file;
+        ASSERT_TRUE(file.Apri(s, PercorsoRS("m", "m", 0), "Sweep\\m\\m.TM0"));
+        ASSERT_TRUE(file.Scrivi(std::vector{Passo(7)}, std::vector<PositionRecord>{{5, 6}}));
+        EXPECT_EQ(fs::file_size(Host("Sweep/m/m.RS0")), 12 * (caso.insieme + 1));
+        EXPECT_EQ(fs::file_size(Host("Sweep/m/m.TM0")), 4 * (caso.insieme + 1));
+    }
+}
+
+TEST_F(TracciaTest, PositionsThatCannotBeWrittenEndBoth) {
+    Metti("Sweep/m/m.TM0/x", "a directory in the way");
+    ScrittoreConPosizioni file;
+    EXPECT_FALSE(file.Apri(s, PercorsoRS("m", "m", 0), "Sweep\\m\\m.TM0"));
+    EXPECT_FALSE(file.Aperto());
+    EXPECT_FALSE(file.Scrivi(std::vector{Passo(7)}, std::vector<PositionRecord>{{5, 6}}));
+    EXPECT_TRUE(LeggiTraccia(s, PercorsoRS("m", "m", 0)).empty());
+}
+
+TEST_F(TracciaTest, ALineEndsWithTheShorterOfItsFiles) {
+    Riga(0, 1.0, 0.1, {Passo(1), Passo(2), Passo(3)});
+    struct {
+        size_t byteTM, passi;
+    } const casi[] = {{0, 0}, {3, 0}, {4, 1}, {11, 2}, {12, 3}, {400, 3}};
+    for (const auto& caso : casi) {
+        Metti("Sweep/m/m.TM0", std::string(caso.byteTM, '\1'));
+        EXPECT_EQ(Crea().size(), caso.passi) << caso.byteTM;
+    }
+    fs::remove(Host("Sweep/m/m.TM0"));
+    const SweepTrace senza = Crea();
+    ASSERT_EQ(senza.size(), 3u);
+    EXPECT_EQ(senza[0].mast, kNessunaPosizione);
+    EXPECT_EQ(senza[0].table, kNessunaPosizione);
+}
+
+TEST_F(TracciaTest, TheViewChoosesThePositions) {
+    Riga(0, 1.0, 0.1, {Passo(1)}, "Sub_Measure\\MEASMT");
+    const auto mette = [&](const char* nome, char mast) {
+        Metti(std::string("Sweep/m/Sub_Measure/") + nome, std::string{mast, 0, 0, 0});
+    };
+    mette("MEASMT.TM0", 1);
+    mette("POSMEASMT.TM0", 2);
+    mette("POSENVMEASMT.TM0", 3);
+    Metti("Sweep/m/POSMEASMT.TM0", std::string(4, '\x9'));
+    const auto mast = [&](ViewMode vista) {
+        return CreaTracciaSweep(s, "m", "MEASMT", tabella, DetectorKind::Peak, {.vista = vista})
+            .at(0)
+            .mast;
+    };
+    EXPECT_EQ(mast(ViewMode::Normale), 1);
+    EXPECT_EQ(mast(ViewMode::MastTable), 2);
+    EXPECT_EQ(mast(ViewMode::Inviluppo), 3);
+    fs::remove(Host("Sweep/m/Sub_Measure/POSENVMEASMT.TM0"));
+    EXPECT_EQ(mast(ViewMode::Inviluppo), kNessunaPosizione);
+}
+
+TEST_F(TracciaTest, ALineFromATableTakesItsFrequenciesFromTheCaller) {
+    Riga(0, 1.0, 0.1, {Passo(1), Passo(2), Passo(3), Passo(4)});
+    Riga(1, 1.5, 1.0, {Passo(9)});
+    tabella[0].StepMode = 1;
+    tabella[0].FreqTable = "spots";
+    Metti("Sweep/m/m.TM0", std::string("\1\0\0\0\2\0\0\0\3\0\0\0\4\0\0\0", 16));
+    EXPECT_EQ(Crea().size(), 1u) << "without frequencies the line has no samples";
+    std::vector<double> tavola = {2.0, 1.0, 1.5};
+    const OpzioniTraccia opzioni{
+        .frequenza = [&](const ScanLine& riga, size_t k) -> std::optional<double> {
+            EXPECT_EQ(riga.FreqTable, "spots");
+            return k < tavola.size() ? std::optional(tavola[k]) : std::nullopt;
+        }};
+    const auto crea = [&] {
+        return CreaTracciaSweep(s, "m", "m", tabella, DetectorKind::Peak, opzioni);
+    };
+    SweepTrace t = crea();
+    ASSERT_EQ(t.size(), 3u) << "no frequency for the fourth step";
+    const std::array<std::array<double, 3>, 3> attesi = {{{1.0, 2, 2}, {1.5, 9, -1}, {2.0, 1, 1}}};
+    for (size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(t[i].freqMhz, attesi[i][0]);
+        EXPECT_EQ(t[i].livello[0], attesi[i][1]);
+        EXPECT_EQ(t[i].mast, attesi[i][2]) << "positions go where their step goes";
+    }
+    tavola = {1.0, std::numeric_limits<double>::quiet_NaN(), 3.0};
+    EXPECT_EQ(crea().size(), 2u);
+}
+
+TEST_F(TracciaTest, TracesAreFoundByTheNameThatTheHeaderBears) {
+    Riga(0, 1.0, 0.1, {Passo(1)}, "old");
+    EXPECT_TRUE(Crea().empty());
+    Metti("Sweep/m/old.KSH", "");
+    EXPECT_EQ(Crea().size(), 1u);
+    Riga(0, 1.0, 0.1, {Passo(1), Passo(2)}, "m");
+    EXPECT_EQ(Crea().size(), 2u) << "the measure's own name first";
+}
+
 } // namespace
 } // namespace orvane::prova

@@ -14,15 +14,6 @@ ScanLine BandaB() {
     return riga;
 }
 
-TEST(CelleTest, TitlesStandInColumnOrder) {
-    const std::vector<std::string> titoli = {
-        "",    "Start\n[MHz]", "Stop\n[MHz]", "Step",    "Detector",     "Hold Time",
-        "RBW", "Min Att",      "Pre Amp",     "Pre Sel", "Prompt start", "Ancillary"};
-    ASSERT_EQ(static_cast<size_t>(NumColonne), titoli.size());
-    for (size_t i = 0; i < titoli.size(); ++i)
-        EXPECT_EQ(TitoloColonna(static_cast<ColonnaScan>(i)), titoli[i]);
-}
-
 TEST(CelleTest, ABandShowsItsValues) {
     const ScanLine riga = BandaB();
     EXPECT_EQ(TestoCella(riga, Start, 1), "0.15");

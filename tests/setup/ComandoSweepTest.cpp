@@ -26,11 +26,6 @@ ScanLine BandaB() {
     return riga;
 }
 
-TEST(ComandoSweepTest, BandB) {
-    EXPECT_EQ(ComponiComandoSweep({}, BandaB()),
-              "#SSFD 150000;30000000;5000;PQ;1000;6;10;OFF;ON;0*");
-}
-
 TEST(ComandoSweepTest, BandBSmart) {
     ScanLine riga = BandaB();
     riga.Smart = 1;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <map>
 
 namespace orvane {
 namespace {
@@ -21,22 +22,13 @@ TEST(TabellaRbwTest, TheFilterThatGoesWithTheMiddleOfASpan) {
         EXPECT_EQ(DetRBWDefault(caso.start, caso.stop), caso.id) << caso.start << " " << caso.stop;
 }
 
-TEST(TabellaRbwTest, OnlyTheTwoSeparatorsHaveNoCode) {
-    for (int id = 0; id < kNumRbw; ++id) {
-        const VoceRbw& voce = TabellaRbw()[static_cast<size_t>(id)];
-        EXPECT_EQ(voce.Separatore(), id == 4 || id == 11) << id;
-        EXPECT_EQ(voce.passoAuto > 0, !voce.Separatore()) << id;
-    }
-    ScanLine riga{.Start = 30, .Stop = 1000};
-    EXPECT_EQ(DetStepAutoDaRBW(15, riga), 2.5e-06);
-    EXPECT_EQ(DetStepAutoDaRBW(16, riga), 0);
-    EXPECT_EQ(DetStepAutoDaRBW(-1, riga), 0);
-}
-
 TEST(ScanFFTTest, TheConditionsOneByOne) {
     const ScanLine buona{.Start = 0.009, .Stop = 0.15, .Detector = {1}};
     EXPECT_TRUE(ControllaScanFFT(buona));
     EXPECT_EQ(DetStepAutoDaRBW(3, buona), 0.00005);
+    EXPECT_EQ(DetStepAutoDaRBW(15, buona), 2.5e-06);
+    for (const int niente : {-1, 4, 11, 16})
+        EXPECT_EQ(DetStepAutoDaRBW(niente, buona), 0) << niente;
     struct {
         const char* perche;
         ScanLine riga;
@@ -61,57 +53,23 @@ TEST(ScanFFTTest, TheConditionsOneByOne) {
         EXPECT_EQ(ControllaScanFFT(caso.riga), caso.esito) << caso.perche;
 }
 
-struct BandaAttesa {
-    const char* nome;
-    double start, stop;
-    int rbw;
-    float hold, holdSD;
-    int autoStep;
-    double step;
-    std::array<int, 3> seguenti;
-};
-
-// As the picker's table is documented, entry by entry.
-constexpr std::array<BandaAttesa, 26> kAttese = {{
-    {"A", 0.009, 0.15, 3, 0, 62, 1, 0.0001, {-1, -1, -1}},
-    {"B", 0.15, 30, 2, 1.9f, 0, 1, 0.005, {-1, -1, -1}},
-    {"A+B", 0.009, 0.15, 3, 0, 62, 1, 0.0001, {1, -1, -1}},
-    {"C", 30, 300, 1, 0.2f, 0, 1, 0.1, {-1, -1, -1}},
-    {"D", 300, 1000, 1, 0.2f, 0, 1, 0.1, {-1, -1, -1}},
-    {"E", 1000, 6000, 0, 0, 0.1f, 1, 0.25, {-1, -1, -1}},
-    {"C+D", 30, 1000, 1, 0.2f, 0, 1, 0.1, {-1, -1, -1}},
-    {"D+E", 300, 1000, 1, 0.2f, 0, 1, 0.1, {5, -1, -1}},
-    {"C+D+E", 30, 1000, 1, 0.2f, 0, 1, 0.1, {5, -1, -1}},
-    {"---- Mil Scan ----", 0, 0, 0, 0, 0, 1, 0.25, {-1, -1, -1}},
-    {"30Hz_to_1kHz", 0.00003, 0.001, 15, 323, 0, 0, 2.5e-06, {-1, -1, -1}},
-    {"30Hz_to_30MHz", 0.00003, 0.001, 15, 323, 0, 0, 2.5e-06, {12, 14, 16}},
-    {"1kHz_to_10kHz", 0.001, 0.01, 14, 29, 0, 0, 2.5e-05, {-1, -1, -1}},
-    {"1kHz_to_30MHz", 0.001, 0.01, 14, 29, 0, 0, 2.5e-05, {14, 16, -1}},
-    {"10kHz_to_150kHz", 0.01, 0.15, 13, 4.5f, 0, 0, 0.00025, {-1, -1, -1}},
-    {"10kHz_to_30MHz", 0.01, 0.15, 13, 4.5f, 0, 0, 0.00025, {16, -1, -1}},
-    {"150kHz_to_30MHz", 0.15, 30, 12, 0.9f, 0, 0, 0.0025, {-1, -1, -1}},
-    {"30MHz_to_1GHz", 30, 1000, 6, 0.1f, 0, 0, 0.025, {-1, -1, -1}},
-    {"30MHz_to_3GHz", 30, 1000, 6, 0.1f, 0, 0, 0.025, {20, -1, -1}},
-    {"30MHz_to_6GHz", 30, 1000, 6, 0.1f, 0, 0, 0.025, {21, -1, -1}},
-    {"1GHz_to_3GHz", 1000, 3000, 0, 0.1f, 0, 0, 0.25, {-1, -1, -1}},
-    {"1GHz_to_6GHz", 1000, 6000, 0, 0.1f, 0, 0, 0.25, {-1, -1, -1}},
-    {"6GHz_to_18GHz", 6000, 18000, 0, 0.1f, 0, 0, 0.25, {-1, -1, -1}},
-    {"------------------", 0, 0, 0, 0, 0, 1, 0.25, {-1, -1, -1}},
-    {"IEC 62493 Annex E", 0.02, 0.15, 3, 100, 0, 0, 0.00022, {25, -1, -1}},
-    {"", 0.15, 10, 2, 20, 0, 0, 0.01, {-1, -1, -1}},
-}};
-
-TEST(TabellaBandeTest, EachEntryWritesItsLine) {
-    const auto bande = TabellaBande();
-    ASSERT_EQ(bande.size(), kAttese.size());
-    for (size_t i = 0; i < bande.size(); ++i) {
-        SCOPED_TRACE(i);
-        const BandaAttesa& attesa = kAttese[i];
-        EXPECT_EQ(bande[i].nome, attesa.nome);
-        EXPECT_EQ(bande[i].seguenti, attesa.seguenti);
-        EXPECT_EQ(bande[i].elencata, i != 25);
+TEST(TabellaBandeTest, AnEntryWritesItsWholeLine) {
+    struct {
+        size_t banda;
+        double start, stop;
+        int rbw;
+        float hold, holdSD;
+        int autoStep;
+        double step;
+        int minAtt;
+    } const casi[] = {
+        {0, 0.009, 0.15, 3, 0, 62, 1, 0.0001, 1},   {1, 0.15, 30, 2, 1.9f, 0, 1, 0.005, 1},
+        {5, 1000, 6000, 0, 0, 0.1f, 1, 0.25, 1},    {10, 0.00003, 0.001, 15, 323, 0, 0, 2.5e-06, 1},
+        {24, 0.02, 0.15, 3, 100, 0, 0, 0.00022, 0}, {25, 0.15, 10, 2, 20, 0, 0, 0.01, 0}};
+    for (const auto& attesa : casi) {
+        SCOPED_TRACE(attesa.banda);
         ScanLine riga{.PreAmp = 1, .Margin = 5, .Smart = 1, .Limit = "old", .RbwId = 9};
-        ImpostaBanda(riga, bande[i], 0);
+        ImpostaBanda(riga, TabellaBande()[attesa.banda], 0);
         EXPECT_EQ(riga.Start, attesa.start);
         EXPECT_EQ(riga.Stop, attesa.stop);
         EXPECT_EQ(riga.RbwId, attesa.rbw);
@@ -119,11 +77,29 @@ TEST(TabellaBandeTest, EachEntryWritesItsLine) {
         EXPECT_EQ(riga.HoldTimeSD, attesa.holdSD);
         EXPECT_EQ(riga.AutoStep, attesa.autoStep);
         EXPECT_EQ(riga.Step, attesa.step);
-        EXPECT_EQ(riga.MinAtt, i >= 24 ? 0 : 1);
+        EXPECT_EQ(riga.MinAtt, attesa.minAtt);
         EXPECT_EQ(riga.PreSel, 1);
         EXPECT_EQ(riga.PreAmp, 0);
         EXPECT_EQ(riga.Smart, 0);
         EXPECT_EQ(riga.Limit, "NONE");
+    }
+}
+
+TEST(TabellaBandeTest, EntriesOfSeveralLinesHaveNoGapAndEndWhereTheySay) {
+    const std::map<size_t, double> fini = {{2, 30},  {7, 6000},  {8, 6000},  {11, 30}, {13, 30},
+                                           {15, 30}, {18, 3000}, {19, 6000}, {24, 10}};
+    for (size_t i = 0; i < TabellaBande().size(); ++i) {
+        const VoceBanda& banda = TabellaBande()[i];
+        double fine = banda.stopMhz;
+        for (const int seguente : banda.seguenti) {
+            if (seguente < 0)
+                break;
+            const VoceBanda& altra = TabellaBande()[static_cast<size_t>(seguente)];
+            EXPECT_EQ(altra.startMhz, fine) << banda.nome;
+            fine = altra.stopMhz;
+        }
+        EXPECT_EQ(fine, fini.contains(i) ? fini.at(i) : banda.stopMhz) << banda.nome;
+        EXPECT_EQ(banda.elencata, i != 25);
     }
 }
 

@@ -285,6 +285,18 @@ TEST_F(CorsaTest, AFileThatCannotBeWrittenStopsTheRun) {
     EXPECT_FALSE(banco.statoCorsa.SweepInCorso);
 }
 
+TEST(Corsa5520F, AFastFrontEndThatSendsNoHeaderIsAskedAgainThreeTimes) {
+    BancoSimulato banco({.modello = "GX2207F"});
+    MettiBanda(banco.scan.Righe[0], "B", "P");
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::StreamMuto, .numero = 0});
+    EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::GuastoLink);
+    const auto& comandi = banco.simulato.Comandi();
+    EXPECT_EQ(std::count_if(comandi.begin(), comandi.end(),
+                            [](const std::string& c) { return c.starts_with("#SSFD"); }),
+              4);
+    EXPECT_EQ(banco.ambiente.riquadri.back().testo, "5520 Time out");
+}
+
 TEST(Corsa5520F, TakesTheStepThatTheReceiverAnnounces) {
     BancoSimulato banco({.modello = "5520F"});
     MettiBanda(banco.scan.Righe[0], "B", "P");

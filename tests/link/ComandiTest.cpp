@@ -1,0 +1,127 @@
+// Every setter as it goes out, and the rules of those that have some.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "aiuto/BancoLink.h"
+#include "link/Comandi.h"
+
+namespace orvane {
+namespace {
+
+using namespace prova;
+
+struct Caso {
+    std::function<void(Ricevitore&)> imposta;
+    const char* comando;
+};
+
+TEST(Comandi, EachSetterAsItGoesOut) {
+    using R = Ricevitore;
+    const Caso kCasi[] = {
+        {[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
+        {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
+        {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
+        {[](R& r) { ImpostaPreAmpAn(r, true); }, "#SAPAON*"},
+        {[](R& r) { ImpostaPreAmpMa(r, true); }, "#SMPAON*"},
+        {[](R& r) { ImpostaPulseLim(r, true); }, "#SPLMON*"},
+        {[](R& r) { ImpostaAttAn(r, -1); }, "#SAAT-1*"},
+        {[](R& r) { ImpostaAttMa(r, 20); }, "#SMAT20*"},
+        {[](R& r) { ImpostaMinAtt(r, 50); }, "#STAT50*"},
+        {[](R& r) { ImpostaDinamica(r, 120, 145); }, "#SDIS120;145*"},
+        {[](R& r) { ImpostaVolume(r, 30); }, "#SDMV30*"},
+        {[](R& r) { ImpostaRFOut(r, true); }, "#STGSON*"},
+        {[](R& r) { ImpostaTracking(r, false); }, "#STGTOFF*"},
+        {[](R& r) { ImpostaLivelloTG(r, 80.5); }, "#STGL80.5*"},
+        {[](R& r) { ImpostaFrequenzaTG(r, 10.7); }, "#STGF10700e3*"},
+        {[](R& r) { ImpostaHoldTimeAn(r, 0.25); }, "#SAHT0.25*"},
+        {[](R& r) { ImpostaHoldTimeMa(r, 1000); }, "#SMHT1000*"},
+        {[](R& r) { ImpostaDetectorAn(r, 4); }, "#SADT4*"},
+        {[](R& r) { ImpostaFrequenzaAn(r, 0.15, 30); }, "#SAFF150e3,30000e3*"},
+        {[](R& r) { ImpostaFrequenzaMa(r, 1000); }, "#SMAF1000000e3*"},
+        {[](R& r) { ImpostaFiltroGX2207(r, true); }, "#SIHPON*"},
+        {[](R& r) { ImpostaIngressoGX2207(r, false); }, "#SMODA*"},
+        {[](R& r) { ImpostaIngressoGX2207(r, true); }, "#SMODH*"},
+        {[](R& r) { ImpostaTrackingGX2207(r, 2); }, "#SITG 2*"},
+        {ImpostaCondotto, "#S3PRC*"},
+        {ImpostaRadiato, "#S3PRR*"},
+        {[](R& r) { ImpostaQDSW3(r, 3); }, "#SUPP3*"},
+        {[](R& r) { ImpostaLisn(r, 4); }, "#SUPP4*"},
+        {[](R& r) { ImpostaLisn3360(r, 1); }, "#SLSN1*"},
+        {[](R& r) { ImpostaNomeLimite(r, 2, "EN55011"); }, "#SLIC 2,EN55011*"},
+        {[](R& r) { ImpostaNomeFattore(r, 3, "LISN"); }, "#SCFE 3,LISN*"},
+        {[](R& r) { ImpostaRigaLimite(r, "0,150e3;66"); }, "#SLIW0,150e3;66*"},
+        {[](R& r) { ImpostaRigaLimiteSweep(r, "1,5e3;60"); }, "#SLIW1,5e3;60*"},
+        {[](R& r) { ImpostaRigaFattore(r, "0,1e6;2.5"); }, "#SCFW0,1e6;2.5*"},
+        {[](R& r) { ImpostaRigaLimiteDSD(r, "0,5e3;60,50"); }, "#SLDW0,5e3;60,50*"},
+        {[](R& r) { ImpostaFineLimite(r, "EN55011"); }, "#SLIEEN55011*"},
+        {[](R& r) { ImpostaMargine(r, -6.1f); }, "#SLIM-6.1*"},
+        {[](R& r) { ImpostaRigaTabFreq(r, 7, 30.1); }, "#SSFW 7,30100000*"},
+        {DisabilitaCF, "#SCFA -1*"},
+        {ImpostaBreak, "#SSTP*"},
+        {StopSweep, "#SSTP*"},
+        {AbortSweep, "#ASBK*"}};
+    BancoAperto b;
+    b.stato.AbbandonaComandi = true; // one try is enough
+    Testi attesi;
+    for (const Caso& caso : kCasi) {
+        caso.imposta(b.r);
+        attesi.push_back(caso.comando);
+    }
+    EXPECT_EQ(b.peer.scritti, attesi);
+}
+
+TEST(Comandi, FrequenciesAreKilohertzWithAnExponent) {
+    const std::pair<double, const char*> casi[] = {
+        {10.7, "10700e3"},       {0.00001, "0.01e3"},   {0.000001, "0.001e3"}, {28.1, "28100e3"},
+        {6000.001, "6000001e3"}, {18000, "18000000e3"}, {0.1 + 0.2, "300e3"},  {0, "0e3"}};
+    for (const auto& [mhz, testo] : casi)
+        EXPECT_EQ(FrequenzaHz(mhz), testo);
+}
+
+TEST(Comandi, The18GHzUnitHasAFixedPreselector) {
+    BancoAperto b;
+    b.r.modello = {.UnitaEstensione = 2, .EstensioneAttiva = true};
+    ImpostaPreselAn(b.r, true);
+    ImpostaPreselMa(b.r, true);
+    EXPECT_EQ(b.peer.scritti, Testi{});
+    b.r.modello.UnitaEstensione = 1;
+    b.peer.Rispondi("MPS=OK\r\n", 0.01);
+    ImpostaPreselMa(b.r, true);
+    EXPECT_EQ(b.peer.scritti, Testi{"#SMPSON*"});
+}
+
+TEST(Comandi, AmAndFmWhereTheReceiverKnowsThem) {
+    using enum Demodulazione;
+    struct Forma {
+        bool is3360;
+        int16_t oem;
+        Demodulazione modo;
+        const char* comando;
+    };
+    for (const Forma& forma :
+         {Forma{false, 0, Spenta, "#SDMDOFF*"}, Forma{false, 0, Accesa, "#SDMDON*"},
+          Forma{false, 0, FM, "#SDMDON*"}, Forma{true, 0, AM, "#SDMDAM*"},
+          Forma{true, 0, FM, "#SDMDFM*"}, Forma{false, 3, FM, "#SDMDFM*"},
+          Forma{false, 3, Spenta, "#SDMDOFF*"}}) {
+        BancoAperto b;
+        b.r.modello.Is3360 = forma.is3360;
+        b.r.modello.ModelloOEM = forma.oem;
+        b.peer.alComando = [&](const std::string&) { b.peer.Rispondi("DMD=OK\r\n"); };
+        ImpostaDemodulatore(b.r, forma.modo);
+        EXPECT_EQ(b.peer.scritti, Testi{forma.comando});
+    }
+}
+
+TEST(Comandi, TheInputOfAnOemModelIsSwitchedOnlyWhereItDiffers) {
+    BancoAperto b;
+    b.r.modello.ModelloOEM = 1;
+    b.peer.RispondiDa({{"#?CO6*", "CO6=RAD;30,6000,\r\n"}, {"#SCO6C*", "CO6=N/A\r\n"}});
+    ImpostaRadiato(b.r);
+    EXPECT_EQ(b.peer.scritti, Testi{"#?CO6*"});
+    ImpostaCondotto(b.r);
+    EXPECT_EQ(b.peer.scritti, (Testi{"#?CO6*", "#?CO6*", "#SCO6C*"}));
+}
+
+} // namespace
+} // namespace orvane
