@@ -2,25 +2,23 @@
 
 #include <algorithm>
 
-#include "base/PaginaCodici.h"
 #include "base/Percorsi.h"
 #include "base/Testo.h"
+#include "data/NomiDialogo.h"
 #include "data/NomiDisco.h"
 
 namespace orvane {
 namespace {
 
-constexpr std::string_view kVietati = ".,+[]\\/|=*^:;<>?\"";
 constexpr std::string_view kNessuno = "NONE";
-constexpr size_t kLunghezzaEstensione = 4; // with its dot
 
 Risposta Chiedi(const Scrivania& s, const std::string& testo) {
     return s.ambiente.Mostra(
         {.testo = testo, .icona = Icona::Esclamazione, .pulsanti = Pulsanti::SiNo});
 }
 
-void Avvisa(const Scrivania& s, const std::string& testo, const std::string& titolo = {}) {
-    s.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione, .titolo = titolo});
+void Avvisa(const Scrivania& s, const std::string& testo) {
+    s.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione});
 }
 
 bool StessoNome(std::string_view a, std::string_view b) {
@@ -35,28 +33,17 @@ std::string NomeNudo(const RichiestaFile& richiesta, std::string_view nome) {
                : testo;
 }
 
-/// Characters count as the bytes that they take in a record.
-bool TroppoLungo(const RichiestaFile& richiesta, const std::string& nome) {
-    return InAnsi(nome).size() > richiesta.lunghezza - kLunghezzaEstensione;
-}
-
-/// A name to save under that is too long is cut, and the box says so.
-std::string Accorcia(const Scrivania& s, const RichiestaFile& richiesta, const std::string& nome) {
-    if (!TroppoLungo(richiesta, nome))
-        return nome;
-    const std::string corto = DaAnsi(InAnsi(nome).substr(0, richiesta.lunghezza));
-    Avvisa(s, "The name as been shortened in\r" + corto, "5520UT SAVE FILE");
-    return corto;
-}
-
 bool NomeSalvabile(const std::string& nome) {
     return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) &&
-           std::all_of(nome.begin(), nome.end(),
-                       [](char c) { return TastoAmmesso(static_cast<unsigned char>(c)); });
+           ControllaNomeMisura(nome) == nome;
+}
+
+std::string ConEstensione(const RichiestaFile& richiesta, const std::string& nome) {
+    return nome + "." + richiesta.estensione;
 }
 
 std::string Percorso(const RichiestaFile& richiesta, const std::string& nome) {
-    return richiesta.cartella + nome + "." + richiesta.estensione;
+    return richiesta.cartella + ConEstensione(richiesta, nome);
 }
 
 bool UsatoDallaRiga(const ScanLine& riga, const std::string& estensione, std::string_view nome) {
@@ -98,23 +85,15 @@ std::string TitoloCaricaSalva(const RichiestaFile& richiesta, bool salva) {
     return salva ? "Save " + richiesta.gruppo + " As" : "Load " + richiesta.gruppo;
 }
 
-bool TastoAmmesso(char32_t tasto) {
-    return tasto >= 0x20 &&
-           (tasto > 0x7F || kVietati.find(static_cast<char>(tasto)) == std::string_view::npos);
-}
-
 std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& richiesta,
                                    std::string_view nome) {
     const std::string nudo = NomeNudo(richiesta, nome);
-    // The table editor joins names with a plus: no file may bear one.
-    if (nudo.find('+') != std::string::npos) {
-        Avvisa(s, "Not valid name\r" + nudo);
+    const std::string file = ConEstensione(richiesta, nudo);
+    const bool passa =
+        ControllaNomeDialogo(s.ambiente, file) &&
+        !ControllaLunghezzaNome(s.ambiente, file, richiesta.lunghezza, ModoDialogo::Carica).empty();
+    if (!passa)
         return std::nullopt;
-    }
-    if (TroppoLungo(richiesta, nudo)) {
-        Avvisa(s, "File name too long", "5520UT OPEN FILE");
-        return std::nullopt;
-    }
     return NomeTabellaAmmesso(nudo) ? std::optional(Percorso(richiesta, nudo)) : std::nullopt;
 }
 
@@ -125,7 +104,8 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
         Avvisa(s, "File name not valid");
         return std::nullopt;
     }
-    nudo = Accorcia(s, richiesta, nudo);
+    nudo = RimuoviEstensione(ControllaLunghezzaNome(s.ambiente, ConEstensione(richiesta, nudo),
+                                                    richiesta.lunghezza, ModoDialogo::Salva));
     const std::string percorso = Percorso(richiesta, nudo);
     if (s.albero.Esiste(percorso) &&
         Chiedi(s, nudo + " exists already.\rDo you want to replace it?") != Risposta::Si)

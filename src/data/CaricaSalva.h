@@ -17,14 +17,11 @@ struct RichiestaFile {
     std::string estensione; ///< without its dot
     std::string gruppo;     ///< "Limit", "Factor", "Table"
     /// Longest name that a record holds.
-    size_t lunghezza = 60;
+    int lunghezza = 60;
 };
 RichiestaFile RichiestaTabella(TableKind kind);
 /// "Load Limit", "Save Factor As": the title of the window.
 std::string TitoloCaricaSalva(const RichiestaFile& richiesta, bool salva);
-
-/// Whether `TBSave` takes this character.
-bool TastoAmmesso(char32_t tasto);
 
 // The path that was decided on; empty after a refusal or the user's No, when the window stays.
 

@@ -54,8 +54,6 @@ private:
 /// A trace file's whole steps; a part-step at the end is left out, an absent file gives none.
 std::vector<SampleRecord> LeggiTraccia(const Scrivania& s, std::string_view percorso);
 
-inline constexpr int16_t kNessunaPosizione = -1;
-
 /// One sample of a shown trace, as the winner of its frequency left it.
 struct CampioneTraccia {
     double freqMhz = 0;

@@ -5,12 +5,10 @@
 #include <array>
 #include <cstdint>
 
+#include "records/SampleRecord.h"
 #include "records/Visite.h"
 
 namespace orvane {
-
-/// Neither mast nor table has a position.
-inline constexpr int16_t kNessunaPosizione = -1;
 
 /// The 14-byte element; the 10-byte one has only its first two fields.
 struct FreqTableElem {

@@ -51,13 +51,6 @@ TEST_F(CaricaSalvaTest, RefusesWhatIsNoNameToSaveUnder) {
     EXPECT_EQ(CmdSave(s, limite, "Grenze \xC3\x84 10m"), "Limits\\Grenze \xC3\x84 10m.5SL");
 }
 
-TEST_F(CaricaSalvaTest, KeysThatNoNameMayHold) {
-    for (const char32_t tasto : U".,+[]\\/|=*^:;<>?\"\n")
-        EXPECT_FALSE(TastoAmmesso(tasto)) << static_cast<uint32_t>(tasto);
-    for (const char32_t tasto : {U'a', U' ', U'_', U'-', U'(', U'\u00B5'})
-        EXPECT_TRUE(TastoAmmesso(tasto));
-}
-
 TEST_F(CaricaSalvaTest, AsksBeforeAFileIsReplaced) {
     Metti("Limits/old.5SL", "x");
     EXPECT_EQ(CmdSave(s, limite, "OLD"), std::nullopt);
