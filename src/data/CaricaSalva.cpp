@@ -33,7 +33,18 @@ std::string NomeNudo(const RichiestaFile& richiesta, std::string_view nome) {
                : testo;
 }
 
-bool NomeSalvabile(const std::string& nome) {
+std::string File(const RichiestaFile& richiesta, const std::string& nome) {
+    return nome + "." + richiesta.estensione;
+}
+
+/// The name once it is no longer than a record holds; empty after the box that refuses it.
+std::string ControllaLunghezza(const Scrivania& s, const RichiestaFile& richiesta,
+                               const std::string& nome, ModoDialogo modo) {
+    return RimuoviEstensione(ControllaLunghezzaNome(s.ambiente, File(richiesta, nome),
+                                                    static_cast<int>(richiesta.lunghezza), modo));
+}
+
+bool NomeAmmesso(const std::string& nome) {
     return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) &&
            ControllaNomeMisura(nome) == nome;
 }
@@ -43,7 +54,7 @@ std::string ConEstensione(const RichiestaFile& richiesta, const std::string& nom
 }
 
 std::string Percorso(const RichiestaFile& richiesta, const std::string& nome) {
-    return richiesta.cartella + ConEstensione(richiesta, nome);
+    return richiesta.cartella + File(richiesta, nome);
 }
 
 bool UsatoDallaRiga(const ScanLine& riga, const std::string& estensione, std::string_view nome) {
@@ -88,11 +99,8 @@ std::string TitoloCaricaSalva(const RichiestaFile& richiesta, bool salva) {
 std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& richiesta,
                                    std::string_view nome) {
     const std::string nudo = NomeNudo(richiesta, nome);
-    const std::string file = ConEstensione(richiesta, nudo);
-    const bool passa =
-        ControllaNomeDialogo(s.ambiente, file) &&
-        !ControllaLunghezzaNome(s.ambiente, file, richiesta.lunghezza, ModoDialogo::Carica).empty();
-    if (!passa)
+    if (!ControllaNomeDialogo(s.ambiente, File(richiesta, nudo)) ||
+        ControllaLunghezza(s, richiesta, nudo, ModoDialogo::Carica).empty())
         return std::nullopt;
     return NomeTabellaAmmesso(nudo) ? std::optional(Percorso(richiesta, nudo)) : std::nullopt;
 }
@@ -104,8 +112,7 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
         Avvisa(s, "File name not valid");
         return std::nullopt;
     }
-    nudo = RimuoviEstensione(ControllaLunghezzaNome(s.ambiente, ConEstensione(richiesta, nudo),
-                                                    richiesta.lunghezza, ModoDialogo::Salva));
+    nudo = ControllaLunghezza(s, richiesta, nudo, ModoDialogo::Salva);
     const std::string percorso = Percorso(richiesta, nudo);
     if (s.albero.Esiste(percorso) &&
         Chiedi(s, nudo + " exists already.\rDo you want to replace it?") != Risposta::Si)

@@ -34,7 +34,7 @@ std::string RifaiCartella(const Scrivania& s, std::string_view misura, std::stri
 }
 
 bool MisuraScrivibile(std::string_view misura) {
-    const bool ammesso = NomeAmmesso(std::string(misura));
+    const bool ammesso = NomeMisuraAmmesso(std::string(misura));
     assert(ammesso); // the name of a run has passed `ControlNameMeasProfiloB`
     return ammesso;
 }

@@ -35,10 +35,6 @@ void Avvisa(Ambiente& ambiente, std::string titolo, std::string testo) {
 
 } // namespace
 
-bool TastoAmmesso(std::string_view tasto) {
-    return ControllaNomeMisura(tasto) == tasto;
-}
-
 bool ControllaNomeDialogo(Ambiente& ambiente, std::string_view nome) {
     if (nome.find('+') == std::string_view::npos)
         return true;

@@ -10,10 +10,6 @@ namespace orvane {
 
 enum class ModoDialogo { Carica, Salva };
 
-/// Whether a key may enter a name field: `tasto` is the character that it types, in UTF-8. Refused
-/// are the characters that `ControllaNomeMisura` forbids.
-bool TastoAmmesso(std::string_view tasto);
-
 /// False after the box "Not valid name" with the name without extension below it, for a "+": the
 /// table editor uses it in names that stand for two tables.
 bool ControllaNomeDialogo(Ambiente& ambiente, std::string_view nome);

@@ -66,7 +66,7 @@ bool Chiedi(const Scrivania& s, const std::string& testo) {
 /// The name, or empty after the box for one that is none.
 std::string NomeRichiesto(const Scrivania& s, std::string_view nome, const Genere& genere) {
     std::string nudo = NomeNudo(nome, genere.estensione);
-    if (NomeAmmesso(nudo))
+    if (NomeMisuraAmmesso(nudo))
         return nudo;
     s.ambiente.Mostra({.testo = "Not valid name\r" + nudo,
                        .icona = Icona::Esclamazione,
@@ -177,7 +177,7 @@ std::string RedoProfiloB(Scrivania& s, std::string_view nome) {
     return ProfiloB(s, nome, kTabelleScan);
 }
 
-bool NomeAmmesso(const std::string& nome) {
+bool NomeMisuraAmmesso(const std::string& nome) {
     return !nome.empty() && nome.find('\0') == std::string::npos &&
            ControllaNomeMisura(nome) == nome;
 }

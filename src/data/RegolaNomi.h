@@ -28,6 +28,6 @@ bool RedoProfiloA(Scrivania& s, std::string_view nome);
 std::string RedoProfiloB(Scrivania& s, std::string_view nome);
 
 /// Whether a measure or panel can bear this name.
-bool NomeAmmesso(const std::string& nome);
+bool NomeMisuraAmmesso(const std::string& nome);
 
 } // namespace orvane

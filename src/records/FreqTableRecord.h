@@ -6,7 +6,6 @@
 #include <cstdint>
 
 #include "records/SampleRecord.h"
-#include "records/Visite.h"
 
 namespace orvane {
 

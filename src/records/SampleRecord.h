@@ -26,7 +26,7 @@ template <class Visita> constexpr void Campi(Visita& v, SampleRecord& r) {
 inline constexpr size_t kByteCampione = 12;
 static_assert(DimensioneSuDisco<SampleRecord>() == kByteCampione);
 
-/// Neither mast nor table has a position.
+/// Where mast or table has no position.
 inline constexpr int16_t kNessunaPosizione = -1;
 
 /// The element of a TM file, four bytes.
