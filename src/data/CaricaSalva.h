@@ -34,9 +34,6 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
 /// `CMBDelete`: asks, and deletes unless the scan table or the panel names the file. True when it
 /// is gone.
 bool CMBDelete(const Scrivania& s, const RichiestaFile& richiesta, std::string_view nome,
-               const ScanTable& tabella);
-/// Whether a line in use of the scan table, or the panel, names this file.
-bool NomeInUso(const Scrivania& s, const RichiestaFile& richiesta, std::string_view nome,
-               const ScanTable& tabella);
+               const ScanRecord& scan);
 
 } // namespace orvane

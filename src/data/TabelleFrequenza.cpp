@@ -1,5 +1,6 @@
 #include "data/TabelleFrequenza.h"
 
+#include "data/Cartelle.h"
 #include "data/ControllaTabelle.h"
 #include "data/FileRecord.h"
 
@@ -16,7 +17,7 @@ FreqTable5SF SenzaPosizioni(const FrequencyTable& tabella) {
 } // namespace
 
 std::string_view CartellaFreqTab(FormaFreqTab forma) {
-    return forma == FormaFreqTab::Semplice ? "Table\\" : "Mast-Table\\";
+    return forma == FormaFreqTab::Semplice ? cartella::kTable : cartella::kMastTable;
 }
 
 std::string_view EstensioneFreqTab(FormaFreqTab forma) {
@@ -39,8 +40,8 @@ FrequencyTable LeggiFreqTab(FormaFreqTab forma, std::span<const uint8_t> dati) {
     for (size_t i = 0; i < kMaxFreqTable; ++i)
         tabella.Elementi[i] = {.Freq = semplice.Elementi[i].Freq,
                                .Level = semplice.Elementi[i].Level,
-                               .Mast = kNessunaPosizione,
-                               .Table = kNessunaPosizione};
+                               .Mast = kPosizioneAssente,
+                               .Table = kPosizioneAssente};
     return tabella;
 }
 
