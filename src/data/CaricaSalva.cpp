@@ -38,7 +38,7 @@ bool NomeDaSalvare(const std::string& nome) {
 }
 
 std::string Percorso(const RichiestaFile& richiesta, const std::string& nome) {
-    return richiesta.cartella + File(richiesta, nome);
+    return richiesta.cartella + nome + "." + richiesta.estensione;
 }
 
 } // namespace

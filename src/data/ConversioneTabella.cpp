@@ -46,8 +46,8 @@ FrequencyTable InFrequencyTable(const ContenutoTabella& c) {
         if (RigaCompletaTabella(riga) && n < kMaxFreqTable)
             tabella.Elementi[n++] = {.Freq = *riga.freqMhz,
                                      .Level = *riga.livelloCent,
-                                     .Mast = riga.mastCm.value_or(kPosizioneAssente),
-                                     .Table = riga.tableGradi.value_or(kPosizioneAssente)};
+                                     .Mast = riga.mastCm.value_or(kNessunaPosizione),
+                                     .Table = riga.tableGradi.value_or(kNessunaPosizione)};
     return tabella;
 }
 

@@ -40,8 +40,8 @@ FrequencyTable LeggiFreqTab(FormaFreqTab forma, std::span<const uint8_t> dati) {
     for (size_t i = 0; i < kMaxFreqTable; ++i)
         tabella.Elementi[i] = {.Freq = semplice.Elementi[i].Freq,
                                .Level = semplice.Elementi[i].Level,
-                               .Mast = kPosizioneAssente,
-                               .Table = kPosizioneAssente};
+                               .Mast = kNessunaPosizione,
+                               .Table = kNessunaPosizione};
     return tabella;
 }
 

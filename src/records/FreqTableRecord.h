@@ -9,9 +9,6 @@
 
 namespace orvane {
 
-/// Neither mast nor table has a position.
-inline constexpr int16_t kPosizioneAssente = -1;
-
 /// The 14-byte element; the 10-byte one has only its first two fields.
 struct FreqTableElem {
     double Freq = 0;   ///< MHz; 0 ends the list

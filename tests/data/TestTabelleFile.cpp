@@ -196,7 +196,7 @@ TEST_F(TabelleFileTest, TheListBeginsWithNone) {
 FrequencyTable Frequenze() {
     FrequencyTable t;
     t.Elementi[0] = {.Freq = 0.15, .Level = 6612, .Mast = 150, .Table = 90};
-    t.Elementi[1] = {.Freq = 30, .Level = -5, .Mast = kPosizioneAssente, .Table = 0};
+    t.Elementi[1] = {.Freq = 30, .Level = -5, .Mast = kNessunaPosizione, .Table = 0};
     return t;
 }
 
@@ -221,7 +221,7 @@ TEST_F(TabelleFileTest, TheSimpleFormDropsThePositions) {
     ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", conPosizioni));
     EXPECT_EQ(semplice.Elementi[0].Freq, 0.15);
     EXPECT_EQ(semplice.Elementi[0].Level, 6612);
-    EXPECT_EQ(semplice.Elementi[0].Mast, kPosizioneAssente);
+    EXPECT_EQ(semplice.Elementi[0].Mast, kNessunaPosizione);
     EXPECT_EQ(conPosizioni.Elementi[0].Mast, 150);
     EXPECT_EQ(conPosizioni.Elementi[0].Table, 90);
 }
