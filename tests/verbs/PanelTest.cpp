@@ -67,8 +67,8 @@ TEST_F(PanelTest, TheExtensionTellsTheKindAndWhereABareNameLies) {
         {"Panels/Base.EST", "12000\tWorstMode\t0"},
         {"m.KSH", "15674\tUnitId\t1"},
         {"Sweep\\m\\m.ksh", "15674\tUnitId\t1"},
-        {"Untitled.EPN", "234\tLinkKind\t0"},
-        {"Color.COL", "234\tLinkKind\t0"},
+        {"Untitled.EPN", "234\tLinkKind\t1"},
+        {"Color.COL", "234\tLinkKind\t1"},
         {"Untitled.PTH", "0\tPath\t x100"},
     };
     for (const auto& caso : casi) {
