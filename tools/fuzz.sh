@@ -26,7 +26,7 @@ export TMPDIR=$out
 [ -d /dev/shm ] && TMPDIR=/dev/shm # the targets write their input to files
 
 objects=()
-for source in src/base/*.cpp src/records/*.cpp src/data/*.cpp; do
+for source in src/base/*.cpp src/records/*.cpp src/link/*.cpp src/data/*.cpp; do
     object=$out/obj/$(echo "${source#src/}" | tr / _).o
     objects+=("$object")
     clang++ "${flags[@]}" -MMD -c "$source" -o "$object"
@@ -39,6 +39,10 @@ for size in 2096 5094 12676 30000 17770; do # EPN, EAM, EST, PTH, KSH
     { printf "\\x$kind"; head -c "$size" /dev/zero; } >"$out/corpus-pannelli/seed-$size"
     kind=$((kind + 1))
 done
+
+mkdir -p "$out/corpus-curve"
+cp share/orvane/Limits/*.5SL "$out/corpus-curve"
+head -c 1262 "share/orvane/Limits/CISPR 15 mains QP.5SL" >"$out/corpus-curve/earlier"
 
 for target in "${targets[@]}"; do
     echo "== $target, $seconds s"

@@ -1,7 +1,9 @@
 #include "data/Cancellazioni.h"
 
+#include <algorithm>
+#include <array>
+
 #include "base/Percorsi.h"
-#include "data/CaricaSalva.h"
 #include "data/Cartelle.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
@@ -27,21 +29,22 @@ void SvuotaECancella(const AlberoDati& albero, const std::string& cartella) {
     albero.CancellaCartellaVuota(cartella);
 }
 
-/// What the running console writes to all the time.
-bool PannelloCorrente(std::string_view percorso) {
-    const auto stesso = [&](std::string_view altro) {
-        return ChiaveNome(EstraiNomeFile(percorso)) == ChiaveNome(EstraiNomeFile(altro)) &&
-               ChiaveNome(EstraiEstensione(percorso)) == ChiaveNome(EstraiEstensione(altro));
-    };
-    return stesso(kPannelloEAM) || stesso(kPannelloEPN) || stesso(kPannelloPTH);
+bool StessoNome(const std::string& a, std::string_view b) {
+    return ChiaveNome(a) == ChiaveNome(b);
 }
 
-bool TabellaInUso(const Scrivania& s, const ScanRecord& scan, std::string_view percorso) {
-    const RichiestaFile richiesta{.cartella = EstraiPercorso(percorso),
-                                  .estensione = ChiaveNome(EstraiEstensione(percorso)),
-                                  .gruppo = {}};
-    return PannelloCorrente(percorso) ||
-           NomeInUso(s, richiesta, EstraiNomeFile(percorso), scan.Righe);
+bool InRiga(const ScanRecord& scan, const std::string& nome,
+            std::initializer_list<std::string ScanLine::*> campi) {
+    return std::any_of(scan.Righe.begin(), scan.Righe.end(), [&](const ScanLine& riga) {
+        return riga.Start != 0 && std::any_of(campi.begin(), campi.end(), [&](auto campo) {
+                   return StessoNome(riga.*campo, nome);
+               });
+    });
+}
+
+template <size_t N> bool InPosto(const std::array<std::string, N>& posti, const std::string& nome) {
+    return std::any_of(posti.begin(), posti.end(),
+                       [&](const std::string& posto) { return StessoNome(posto, nome); });
 }
 
 } // namespace
@@ -66,6 +69,24 @@ bool CancellaTabella(Scrivania& s, const ScanRecord& scan, std::string_view perc
     if (!Conferma(s, EstraiNomeFile(percorso)))
         return false;
     return (!TabellaInUso(s, scan, percorso) && s.albero.Cancella(percorso)) || Rifiuta(s);
+}
+
+bool TabellaInUso(const Scrivania& s, const ScanRecord& scan, std::string_view percorso) {
+    const std::string nome = EstraiNomeFile(percorso);
+    const std::string genere = ChiaveNome(EstraiEstensione(percorso));
+    if (genere == "5SL")
+        return InRiga(scan, nome, {&ScanLine::Limit, &ScanLine::LimitDSD}) ||
+               InPosto(s.setup.LimitName, nome);
+    if (genere == "5SC")
+        return InPosto(s.setup.FactorName, nome);
+    if (genere == "5SF")
+        return InRiga(scan, nome, {&ScanLine::FreqTable});
+    if (genere == "EST")
+        return StessoNome(EstraiNomeFile(s.env.ScanPanelPath), nome);
+    if (genere == "EAM")
+        return StessoNome(EstraiNomeFile(s.env.SetupPanelPath), nome) ||
+               StessoNome(EstraiNomeFile(kPannelloEAM), nome);
+    return genere == "EPN" || genere == "PTH";
 }
 
 } // namespace orvane

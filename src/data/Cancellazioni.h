@@ -17,8 +17,11 @@ namespace orvane {
 /// and the environment is saved.
 bool CancellaMisura(Scrivania& s, const std::string& nome);
 
-/// A table or panel by its path; one that the scan table or the running panel names is in use, and
-/// so are the running panels themselves.
+/// A table or panel by its path; one that the scan table or the running panel names is in use.
 bool CancellaTabella(Scrivania& s, const ScanRecord& scan, std::string_view percorso);
+
+/// Whether the file at this path is named by a scan line in use, a limit or factor slot, or is the
+/// current scan table or panel.
+bool TabellaInUso(const Scrivania& s, const ScanRecord& scan, std::string_view percorso);
 
 } // namespace orvane

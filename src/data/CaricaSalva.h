@@ -17,14 +17,11 @@ struct RichiestaFile {
     std::string estensione; ///< without its dot
     std::string gruppo;     ///< "Limit", "Factor", "Table"
     /// Longest name that a record holds.
-    size_t lunghezza = 60;
+    int lunghezza = 60;
 };
 RichiestaFile RichiestaTabella(TableKind kind);
 /// "Load Limit", "Save Factor As": the title of the window.
 std::string TitoloCaricaSalva(const RichiestaFile& richiesta, bool salva);
-
-/// Whether `TBSave` takes this character.
-bool TastoAmmesso(char32_t tasto);
 
 // The path that was decided on; empty after a refusal or the user's No, when the window stays.
 
@@ -37,9 +34,6 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
 /// `CMBDelete`: asks, and deletes unless the scan table or the panel names the file. True when it
 /// is gone.
 bool CMBDelete(const Scrivania& s, const RichiestaFile& richiesta, std::string_view nome,
-               const ScanTable& tabella);
-/// Whether a line in use of the scan table, or the panel, names this file.
-bool NomeInUso(const Scrivania& s, const RichiestaFile& richiesta, std::string_view nome,
-               const ScanTable& tabella);
+               const ScanRecord& scan);
 
 } // namespace orvane

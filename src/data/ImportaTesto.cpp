@@ -9,6 +9,7 @@
 #include "base/PaginaCodici.h"
 #include "base/Testo.h"
 #include "data/FileProvvisorio.h"
+#include "data/FileTesto.h"
 #include "data/NomiDisco.h"
 
 namespace orvane {
@@ -190,7 +191,7 @@ std::string TestoTabella(const ContenutoTabella& c, std::string_view header) {
 
 bool SalvaComeTesto(const Scrivania& s, const std::filesystem::path& file,
                     const ContenutoTabella& c) {
-    const auto header = s.albero.Leggi("Header.TXT").value_or(std::vector<uint8_t>{});
+    const auto header = s.albero.Leggi(kFileHeader).value_or(std::vector<uint8_t>{});
     const std::string testo = TestoTabella(c, std::string(header.begin(), header.end()));
     std::error_code errore;
     const auto host = std::filesystem::absolute(file, errore);

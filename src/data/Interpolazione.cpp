@@ -38,6 +38,9 @@ template <class Asse> int16_t Interpola(const LimFacRecord& r, size_t i, float f
     // a and b are single precision, everything else is double.
     const auto a = static_cast<float>((r.Value[i] - r.Value[i - 1]) / (fine - inizio));
     const auto b = static_cast<float>(r.Value[i] - static_cast<double>(a) * fine);
+    // Tiny fractions of a hertz apart, only a damaged file's points are: as good as a step.
+    if (!std::isfinite(a) || !std::isfinite(b))
+        return r.Value[i - 1];
     return Arrotonda(static_cast<double>(a) * asse(static_cast<double>(f)) +
                      static_cast<double>(b));
 }

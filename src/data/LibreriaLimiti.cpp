@@ -5,6 +5,7 @@
 #include <limits>
 #include <span>
 
+#include "data/Cartelle.h"
 #include "data/FileRecord.h"
 #include "data/ModificaTabella.h"
 #include "data/TabelleLimFac.h"
@@ -116,7 +117,7 @@ std::vector<LimiteLibreria> LibreriaLimiti() {
 
 std::vector<EsitoLibreria> InstallaLibreria(const Scrivania& s) {
     std::vector<EsitoLibreria> esiti;
-    s.albero.AssicuraCartella("Limits");
+    s.albero.AssicuraCartella(cartella::kLimits);
     for (const LimiteLibreria& limite : LibreriaLimiti()) {
         const std::string percorso = PercorsoLimite(limite.nome);
         EsitoLibreria esito{.nome = std::string(limite.nome)};

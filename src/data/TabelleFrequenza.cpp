@@ -1,5 +1,6 @@
 #include "data/TabelleFrequenza.h"
 
+#include "data/Cartelle.h"
 #include "data/ControllaTabelle.h"
 #include "data/FileRecord.h"
 
@@ -16,7 +17,7 @@ FreqTable5SF SenzaPosizioni(const FrequencyTable& tabella) {
 } // namespace
 
 std::string_view CartellaFreqTab(FormaFreqTab forma) {
-    return forma == FormaFreqTab::Semplice ? "Table\\" : "Mast-Table\\";
+    return forma == FormaFreqTab::Semplice ? cartella::kTable : cartella::kMastTable;
 }
 
 std::string_view EstensioneFreqTab(FormaFreqTab forma) {

@@ -3,6 +3,7 @@
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/Avvisi.h"
+#include "data/Cartelle.h"
 #include "data/ControllaTabelle.h"
 #include "data/FileRecord.h"
 #include "data/NomiDisco.h"
@@ -10,12 +11,10 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view kLimits = "Limits\\";
-constexpr std::string_view kFactors = "Factors\\";
 constexpr std::string_view kNessuno = "NONE";
 
 std::string_view CartellaSlot(int slot) {
-    return slot < kPrimoFattore ? kLimits : kFactors;
+    return slot < kPrimoFattore ? cartella::kLimits : cartella::kFactors;
 }
 
 std::string ConCartella(std::string_view percorso, int slot) {
@@ -33,11 +32,11 @@ void ConvertiFile(const Scrivania& s, const std::string& percorso, std::vector<u
 } // namespace
 
 std::string PercorsoLimite(std::string_view nome) {
-    return std::string(kLimits) + std::string(nome) + ".5SL";
+    return std::string(cartella::kLimits) + std::string(nome) + ".5SL";
 }
 
 std::string PercorsoFattore(std::string_view nome) {
-    return std::string(kFactors) + std::string(nome) + ".5SC";
+    return std::string(cartella::kFactors) + std::string(nome) + ".5SC";
 }
 
 LimFacRecord LeggiLimFac(std::span<const uint8_t> dati) {
@@ -91,7 +90,7 @@ std::vector<std::string> NomiTabelle(const Scrivania& s, std::string_view cartel
 }
 
 std::vector<std::string> CompilaCBXLimits(const Scrivania& s) {
-    std::vector<std::string> voci = NomiTabelle(s, kLimits, "5SL");
+    std::vector<std::string> voci = NomiTabelle(s, cartella::kLimits, "5SL");
     voci.insert(voci.begin(), std::string(kNessuno));
     return voci;
 }

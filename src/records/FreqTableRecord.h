@@ -26,10 +26,10 @@ struct FrequencyTable {
 
 template <class Visita> constexpr void Campi(Visita& v, FrequencyTable& r) {
     for (FreqTableElem& e : r.Elementi) {
-        v.F64(e.Freq);
-        v.I16(e.Level);
-        v.I16(e.Mast);
-        v.I16(e.Table);
+        v.F64(e.Freq, "Freq");
+        v.I16(e.Level, "Level");
+        v.I16(e.Mast, "Mast");
+        v.I16(e.Table, "Table");
     }
 }
 
@@ -44,8 +44,8 @@ struct FreqTable5SF {
 
 template <class Visita> constexpr void Campi(Visita& v, FreqTable5SF& r) {
     for (FreqTable5SF::Elem& e : r.Elementi) {
-        v.F64(e.Freq);
-        v.I16(e.Level);
+        v.F64(e.Freq, "Freq");
+        v.I16(e.Level, "Level");
     }
 }
 

@@ -32,26 +32,25 @@ inline constexpr size_t kLarghezzaTitolo = 50;
 /// The fields of the earlier format, which are also the first of today's.
 template <class Visita> constexpr void CampiVecchi(Visita& v, LimFacRecord& r) {
     for (auto& x : r.Freq)
-        v.F32(x);
+        v.F32(x, "Freq");
     for (auto& x : r.Value)
-        v.I16(x);
-    v.I16(r.LastSegment);
-    v.Testo(r.Title, kLarghezzaTitolo);
+        v.I16(x, "Value");
+    v.I16(r.LastSegment, "LastSegment");
+    v.Testo(r.Title, kLarghezzaTitolo, "Title");
 }
 
 template <class Visita> constexpr void Campi(Visita& v, LimFacRecord& r) {
     CampiVecchi(v, r);
-    v.I16(r.LinFreq);
-    v.I16(r.UnitId);
-    v.Riserva(r.Reserved0);
-    v.Riserva(r.Reserved1);
-    v.Riserva(r.Reserved2);
+    v.I16(r.LinFreq, "LinFreq");
+    v.I16(r.UnitId, "UnitId");
+    v.Riserva(r.Reserved0, "Reserved0");
+    v.Riserva(r.Reserved1, "Reserved1");
+    v.Riserva(r.Reserved2, "Reserved2");
 }
 
-constexpr size_t DimensioneLimFacVecchio() {
-    LimFacRecord vuoto{};
+consteval size_t DimensioneLimFacVecchio() {
     MisuratoreCampi misuratore;
-    CampiVecchi(misuratore, vuoto);
+    CampiVecchi(misuratore, RecordFinto<LimFacRecord>::record);
     return misuratore.byte;
 }
 inline constexpr size_t kByteLimFac = 1972;

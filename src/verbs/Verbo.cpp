@@ -58,7 +58,7 @@ const VoceVerbo* TrovaVerbo(std::string_view nome) {
     return voce == kVerbi.end() ? nullptr : &*voce;
 }
 
-std::optional<std::string> NomeAmmesso(std::string_view parola) {
+std::optional<std::string> NomeDaParola(std::string_view parola) {
     const std::string nome = Rifila(parola);
     const bool controlli =
         std::any_of(nome.begin(), nome.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });

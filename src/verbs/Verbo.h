@@ -51,7 +51,7 @@ std::span<const VoceVerbo> TabellaVerbi();
 const VoceVerbo* TrovaVerbo(std::string_view nome);
 
 /// A name that a file may bear, trimmed; empty for any other.
-std::optional<std::string> NomeAmmesso(std::string_view parola);
+std::optional<std::string> NomeDaParola(std::string_view parola);
 
 /// Says what is wrong with the words, and how the verb is used.
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);

@@ -96,8 +96,8 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole) {
         return UsoErrato(banco, "trace",
                          argomenti.Errore().empty() ? "wants one MEASURE" : argomenti.Errore());
     const std::string& chiesta = argomenti.Posizioni()[0];
-    const auto misura = NomeAmmesso(chiesta);
-    const auto passata = NomeAmmesso(argomenti.Opzione("sub").value_or(chiesta));
+    const auto misura = NomeDaParola(chiesta);
+    const auto passata = NomeDaParola(argomenti.Opzione("sub").value_or(chiesta));
     if (!misura || !passata)
         return UsoErrato(banco, "trace", "MEASURE or NAME is no valid name");
     const std::string& nome = *misura;

@@ -237,7 +237,7 @@ EsitoVerbo VerboScan(Banco& banco, Parole parole) {
         return Elenca(banco);
     if (posizioni.size() != 2)
         return UsoErrato(banco, "scan", "wants the name of a scan table");
-    const auto nome = NomeAmmesso(posizioni[1]);
+    const auto nome = NomeDaParola(posizioni[1]);
     if (!nome)
         return UsoErrato(banco, "scan", "\"" + posizioni[1] + "\" is no name for a scan table");
     if (posizioni[0] == "show")

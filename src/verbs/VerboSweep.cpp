@@ -53,8 +53,8 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty() || !scanChiesto)
         return UsoErrato(banco, "sweep",
                          argomenti.Errore().empty() ? "wants --scan NAME" : argomenti.Errore());
-    const auto nomeScan = NomeAmmesso(*scanChiesto);
-    const auto misura = NomeAmmesso(misuraChiesta);
+    const auto nomeScan = NomeDaParola(*scanChiesto);
+    const auto misura = NomeDaParola(misuraChiesta);
     if (!nomeScan || !misura)
         return UsoErrato(banco, "sweep",
                          "\"" + (nomeScan ? misuraChiesta : *scanChiesto) + "\" is no valid name");

@@ -48,6 +48,7 @@ TEST(InviaComando, PiecesAreJoinedAndDoNotMoveTheDeadline) {
         for (int i = 1; i < 10; ++i)
             b.peer.Rispondi("x", 0.1 * i);
     };
+    b.inizio = b.ambiente.ora;
     EXPECT_EQ(Invia(b.r), "Error");
     EXPECT_NEAR(b.Trascorsi(), 0.7, 1e-9);
 }

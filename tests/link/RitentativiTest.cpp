@@ -31,6 +31,7 @@ TEST(InviaImpostazione, FourTriesInSilenceThenTheBanner) {
 
     b.peer.RispondiInFila({"", "", "", "", "", "", "", "RBW=OK\r\n"});
     b.peer.scritti.clear();
+    b.inizio = b.ambiente.ora;
     InviaImpostazione(b.r, kFiltro, true);
     EXPECT_EQ(b.peer.scritti.size(), 8u);
     EXPECT_NEAR(b.Trascorsi(), 7 * 0.7, 1e-9);

@@ -26,9 +26,10 @@ TEST(ScanFFTTest, TheConditionsOneByOne) {
     const ScanLine buona{.Start = 0.009, .Stop = 0.15, .Detector = {1}};
     EXPECT_TRUE(ControllaScanFFT(buona));
     EXPECT_EQ(DetStepAutoDaRBW(3, buona), 0.00005);
-    EXPECT_EQ(DetStepAutoDaRBW(15, buona), 2.5e-06);
+    const ScanLine lunga{.Start = 30, .Stop = 1000};
+    EXPECT_EQ(DetStepAutoDaRBW(15, lunga), 2.5e-06);
     for (const int niente : {-1, 4, 11, 16})
-        EXPECT_EQ(DetStepAutoDaRBW(niente, buona), 0) << niente;
+        EXPECT_EQ(DetStepAutoDaRBW(niente, lunga), 0) << niente;
     struct {
         const char* perche;
         ScanLine riga;

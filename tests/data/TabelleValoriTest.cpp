@@ -87,6 +87,8 @@ TEST(ValoreLimite, ASegmentTooSteepForSinglePrecisionStaysWithinTheType) {
     const std::vector<Punto> punti = {{1e9f, -32768}, {1e9f + 64, 32767}};
     EXPECT_EQ(ValoreLimite(Tabella(punti, 1), 1e9f), -27432); // b has lost its last places
     EXPECT_EQ(ValoreLimite(Tabella(punti, 0), 1e9f), 32767);  // 37029 by the formula
+    // A slope beyond any number.
+    EXPECT_EQ(ValoreLimite(Tabella({{1e-45f, 100}, {3e-45f, 200}}, 1), 1e-45f), 100);
 }
 
 TEST(ValoreLimite, NoHintCanMisplaceTheSearch) {

@@ -7,7 +7,7 @@ namespace {
 
 struct CaricaSalvaTest : ProvaDati {
     RichiestaFile limite = RichiestaTabella(TableKind::Limite);
-    ScanTable scan;
+    ScanRecord scan;
 };
 
 TEST_F(CaricaSalvaTest, TitlesSayWhatIsAtHand) {
@@ -51,13 +51,6 @@ TEST_F(CaricaSalvaTest, RefusesWhatIsNoNameToSaveUnder) {
     EXPECT_EQ(CmdSave(s, limite, "Grenze \xC3\x84 10m"), "Limits\\Grenze \xC3\x84 10m.5SL");
 }
 
-TEST_F(CaricaSalvaTest, KeysThatNoNameMayHold) {
-    for (const char32_t tasto : U".,+[]\\/|=*^:;<>?\"\n")
-        EXPECT_FALSE(TastoAmmesso(tasto)) << static_cast<uint32_t>(tasto);
-    for (const char32_t tasto : {U'a', U' ', U'_', U'-', U'(', U'\u00B5'})
-        EXPECT_TRUE(TastoAmmesso(tasto));
-}
-
 TEST_F(CaricaSalvaTest, AsksBeforeAFileIsReplaced) {
     Metti("Limits/old.5SL", "x");
     EXPECT_EQ(CmdSave(s, limite, "OLD"), std::nullopt);
@@ -80,28 +73,19 @@ TEST_F(CaricaSalvaTest, DeletesOnRequestWhatNothingNames) {
 }
 
 TEST_F(CaricaSalvaTest, ANameInUseCannotBeDeleted) {
-    const RichiestaFile fattore = RichiestaTabella(TableKind::Fattore);
-    const RichiestaFile frequenze = RichiestaTabella(TableKind::Frequenze);
-    scan[0].Start = 1;
-    scan[0].Limit = "In Line";
-    scan[0].LimitDSD = "In DSD";
-    scan[0].FreqTable = "In Table";
-    scan[1].Limit = "Unused line";
-    s.setup.LimitName[9] = "In Panel";
-    s.setup.FactorName[6] = "In Factor";
-    EXPECT_TRUE(NomeInUso(s, limite, "IN LINE", scan));
-    EXPECT_TRUE(NomeInUso(s, limite, "in dsd", scan));
-    EXPECT_TRUE(NomeInUso(s, limite, "In Panel", scan));
-    EXPECT_TRUE(NomeInUso(s, fattore, "In Factor", scan));
-    EXPECT_TRUE(NomeInUso(s, frequenze, "In Table", scan));
-    EXPECT_FALSE(NomeInUso(s, limite, "Unused line", scan));
-    EXPECT_FALSE(NomeInUso(s, fattore, "In Line", scan));
+    scan.Righe[0].Start = 1;
+    scan.Righe[0].Limit = "In Line";
+    s.setup.FactorName[6] = "In Panel";
     Metti("Limits/in line.5SL", "x");
-    ambiente.risposte = {Risposta::Si};
+    Metti("Factors/in panel.5SC", "x");
+    ambiente.risposte = {Risposta::Si, Risposta::Ok, Risposta::Si};
     EXPECT_FALSE(CMBDelete(s, limite, "In Line", scan));
-    ASSERT_EQ(ambiente.riquadri.size(), 2u);
+    EXPECT_FALSE(CMBDelete(s, RichiestaTabella(TableKind::Fattore), "IN PANEL", scan));
+    ASSERT_EQ(ambiente.riquadri.size(), 4u);
     EXPECT_EQ(ambiente.riquadri[1].testo, "Cannot be deleted");
+    EXPECT_EQ(ambiente.riquadri[3].testo, "Cannot be deleted");
     EXPECT_TRUE(s.albero.Esiste("Limits\\In Line.5SL"));
+    EXPECT_TRUE(s.albero.Esiste("Factors\\In Panel.5SC"));
 }
 
 } // namespace

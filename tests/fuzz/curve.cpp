@@ -22,8 +22,8 @@ void Pretendi(bool vero) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
     LimFacRecord r = LeggiLimFac({dati, quanti});
-    const auto rewritten = ScriviRecord(r);
-    Pretendi(rewritten.size() == kByteLimFac);
+    const auto riscritto = ScriviRecord(r);
+    Pretendi(riscritto.size() == kByteLimFac);
     ControllaLimFac(r);
     Pretendi(!ControllaLimFac(r));
     const size_t punti = NumeroPunti(r);
@@ -32,8 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* dati, size_t quanti) {
         ValoreLimite(r, r.Freq[i]);
         ValoreFattore(r, r.Freq[i]);
     }
-    const auto joined = CreaElencoFreqLimDSD(r, LimFacRecord(r));
-    Pretendi(!joined || joined->size() >= 2);
+    const auto uniti = CreaElencoFreqLimDSD(r, LimFacRecord(r));
+    Pretendi(!uniti || uniti->size() >= 2);
     const ContenutoTabella c = DaLimFac(r, TableKind::Limite);
     Pretendi(c.righe.size() == punti);
     // What the editor stores again are the same points.
