@@ -4,9 +4,10 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <string>
 
+#include "base/Numeri.h"
+#include "base/Testo.h"
 #include "records/DescriviCampi.h"
 #include "records/EnvRecord.h"
 #include "records/PathRecord.h"
@@ -22,18 +23,26 @@ struct RigaTabella {
     std::string nome;
 };
 
+/// A field's offset, type and name, the name in backticks or absent: no row of another table.
+bool RigaDiCampo(const std::vector<std::string>& celle) {
+    if (celle.size() < 5 || !LeggiNumero(celle[1]))
+        return false;
+    const std::string nome = Rifila(celle[3]);
+    return nome.empty() || nome.starts_with('`');
+}
+
 /// The tables of the document, by the heading above each.
 std::map<std::string, std::vector<RigaTabella>> LeggiDocumento() {
     std::ifstream file(ORVANE_DOCS "/formats.md");
     std::map<std::string, std::vector<RigaTabella>> tabelle;
-    const std::regex forma(R"(\| (\d+) \| ([^|]*) \| (?:`(\w+)`)? ?\|.*)");
     std::string titolo;
     for (std::string riga; std::getline(file, riga);) {
-        std::smatch parti;
+        const auto celle = Dividi(riga, '|');
         if (riga.starts_with("#"))
             titolo = riga.substr(riga.find(' ') + 1);
-        else if (std::regex_match(riga, parti, forma))
-            tabelle[titolo].push_back({std::stoul(parti[1]), parti[2], parti[3]});
+        else if (RigaDiCampo(celle))
+            tabelle[titolo].push_back(
+                {std::stoul(celle[1]), Rifila(celle[2]), Sostituisci(Rifila(celle[3]), "`", "")});
     }
     return tabelle;
 }
