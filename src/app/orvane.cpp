@@ -115,7 +115,8 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
     bool interrotto = false;
     ambiente.alInterrompi = [&](int quante) {
         interrotto = true;
-        if (corsa.SweepInCorso && quante == 1)
+        // Only a stream can be stopped; a command that is being repeated has to be given up.
+        if (corsa.SweepInCorso && corsa.fase == FaseCorsa::Misura && quante == 1)
             ChiediStop(corsa);
         else
             stato.AbbandonaComandi = true;
