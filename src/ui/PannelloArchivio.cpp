@@ -212,9 +212,10 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
         return dettagli_->setText(tr("The header of this measure cannot be read."));
     const SetupRecord& setup = misura.header.Setup;
     QStringList righe;
-    righe << tr("%1 samples in %2 lines")
-                 .arg(misura.traccia.size())
-                 .arg(RigheInUso(misura.header.Scan.Righe));
+    const size_t linee = RigheInUso(misura.header.Scan.Righe);
+    const QString campioni = QString::number(misura.traccia.size());
+    righe << (linee == 1 ? tr("%1 samples in one line").arg(campioni)
+                         : tr("%1 samples in %2 lines").arg(campioni).arg(linee));
     if (misura.stopMhz > 0)
         righe << tr("%1 to %2 MHz")
                      .arg(Q(TestoDaNumero(misura.startMhz)), Q(TestoDaNumero(misura.stopMhz)));
