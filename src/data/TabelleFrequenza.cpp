@@ -24,11 +24,6 @@ std::string_view EstensioneFreqTab(FormaFreqTab forma) {
     return forma == FormaFreqTab::Semplice ? "5SF" : "FTM";
 }
 
-std::string PercorsoFreqTab(FormaFreqTab forma, std::string_view nome) {
-    return std::string(CartellaFreqTab(forma)) + std::string(nome) + "." +
-           std::string(EstensioneFreqTab(forma));
-}
-
 FrequencyTable LeggiFreqTab(FormaFreqTab forma, std::span<const uint8_t> dati) {
     FrequencyTable tabella;
     if (forma == FormaFreqTab::MastTable) {

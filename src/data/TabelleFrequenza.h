@@ -15,7 +15,6 @@ enum class FormaFreqTab { Semplice, MastTable };
 
 std::string_view CartellaFreqTab(FormaFreqTab forma);   ///< with a trailing backslash
 std::string_view EstensioneFreqTab(FormaFreqTab forma); ///< without its dot
-std::string PercorsoFreqTab(FormaFreqTab forma, std::string_view nome);
 
 /// A file's bytes as the 14-byte form, as far as they go. Not checked.
 FrequencyTable LeggiFreqTab(FormaFreqTab forma, std::span<const uint8_t> dati);

@@ -12,6 +12,11 @@
 namespace orvane {
 namespace {
 
+struct VoceQuery {
+    std::string_view query;
+    std::string_view descrizione;
+};
+
 constexpr std::array<VoceQuery, 17> kQuery = {{
     {"#?IDN*", "Reading FW"},
     {"#?BCD*", "Read signal analyzer"},
@@ -112,10 +117,6 @@ std::string TagliaSerialNumber(std::string_view testo) {
 }
 
 } // namespace
-
-std::span<const VoceQuery> TabellaQuery() {
-    return kQuery;
-}
 
 std::optional<FiltroInUso> LeggiRispostaRBW(std::string_view risposta) {
     const auto valore = Valore(risposta, "RBW");

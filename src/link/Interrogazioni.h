@@ -3,19 +3,12 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
 #include "link/Ricevitore.h"
 
 namespace orvane {
-
-struct VoceQuery {
-    std::string_view query;
-    std::string_view descrizione;
-};
-std::span<const VoceQuery> TabellaQuery();
 
 /// The filter in use: `RBW=AUTO <id>` or `RBW=MAN <id>`.
 struct FiltroInUso {

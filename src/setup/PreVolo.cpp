@@ -109,6 +109,13 @@ bool RisolviNomeMisura(PreVolo& p) {
     return !p.misura.empty();
 }
 
+struct VoceControllo {
+    std::string_view nome;
+    bool (*esegui)(PreVolo&);
+    std::string_view motivo; ///< what is said of a run that it stopped
+};
+
+// The chain, in order: later checks rely on what earlier ones have repaired.
 constexpr std::array kCatena = {
     VoceControllo{"table tidy", RiordinaTabella, "the scan table has no line in use"},
     VoceControllo{"ControllaFstartFstopScanTab", ControllaFstartFstopScanTab,
@@ -146,10 +153,6 @@ bool Riconosci(PreVolo& p) {
 }
 
 } // namespace
-
-std::span<const VoceControllo> CatenaControlli() {
-    return kCatena;
-}
 
 int ControllaPassoDellaRiga(const ScanLine& riga) {
     const auto s = static_cast<float>(riga.Step);

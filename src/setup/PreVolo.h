@@ -2,7 +2,6 @@
 // speaks for itself; later ones rely on the repairs of earlier ones.
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -32,14 +31,6 @@ struct PreVolo {
     std::string misura; ///< wished name; the last check may change it
     std::string motivo; ///< which check stopped the run
 };
-
-struct VoceControllo {
-    std::string_view nome;
-    bool (*esegui)(PreVolo&);
-    std::string_view motivo; ///< what is said of a run that it stopped
-};
-/// The chain, in order.
-std::span<const VoceControllo> CatenaControlli();
 
 /// Opens the link, ends what the receiver was doing, identifies it, and runs the chain. False: the
 /// run must not start; `motivo` says why, and the link is as the failure left it.

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "base/Interruttori.h"
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "base/Versione.h"
@@ -50,6 +51,7 @@ public:
     // C. to E. Lines, passes, data.
     bool PercorriRighe();
     bool RiscriviHeader();
+    void MostraDurata();
     // F. The one way out that is no normal end.
     void Fallimento();
     // G.
@@ -430,6 +432,14 @@ bool Svolgimento::RiscriviHeader() {
     return true;
 }
 
+/// With `/VISTIMESWEEP`: how long the run has taken.
+void Svolgimento::MostraDurata() {
+    if (Acceso(r_.ambiente.RigaComando(), interruttore::kVisTimeSweep))
+        r_.ambiente.Mostra(
+            {.testo = "Elapsed time " + TestoFisso(progresso_->Adesso().trascorsiS, 1) + " s",
+             .icona = Icona::Informazione});
+}
+
 void Svolgimento::Fallimento() {
     Fase(FaseCorsa::Guasto);
     if (linkVivo_ && !r_.stato.AbbandonaComandi)
@@ -460,7 +470,9 @@ EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura) {
     if (svolgimento.Controlli()) {
         const bool bene = svolgimento.PreparaMisura() && svolgimento.PercorriRighe() &&
                           svolgimento.RiscriviHeader();
-        if (!bene)
+        if (bene)
+            svolgimento.MostraDurata();
+        else
             svolgimento.Fallimento();
     }
     svolgimento.RipristinaCondizioniExitSweep();

@@ -173,6 +173,16 @@ TEST_F(CorsaTest, AStreamThatBringsFarTooManyStepsEndsTheRun) {
     EXPECT_EQ(banco.simulato.Comandi().back(), "#ASBK*");
 }
 
+TEST_F(CorsaTest, TellsItsDurationOnlyWhereTheCommandLineAsksForIt) {
+    ASSERT_EQ(Esegui("quiet"), EsitoCorsa::Compiuta);
+    EXPECT_TRUE(banco.ambiente.riquadri.empty());
+    banco.ambiente.riga = "/VISTIMESWEEP";
+    ASSERT_EQ(Esegui("told"), EsitoCorsa::Compiuta);
+    ASSERT_EQ(banco.ambiente.riquadri.size(), 1u);
+    EXPECT_TRUE(banco.ambiente.riquadri[0].testo.starts_with("Elapsed time "));
+    EXPECT_TRUE(banco.ambiente.riquadri[0].testo.ends_with(" s"));
+}
+
 TEST_F(CorsaTest, ASecondClickInARunIsTheStop) {
     banco.scan.Righe[0].Stop = 30;
     banco.vista.alPasso = [this] { ClickExecuteSweep(banco.corsa, "M"); };
