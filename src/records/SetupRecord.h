@@ -1,6 +1,7 @@
 // All measuring settings: the whole of an EAM file, and the second part of each KSH.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -47,16 +48,21 @@ struct SetupRecord {
     int16_t Mode = 0; ///< tab of `SSTabMode`; 5 is the Sweeps Archive
     int16_t DinamicaId = 0;
     int16_t RefLevel = 0; ///< dB
-    std::array<uint8_t, 2> Riserva2540{};
+    int16_t PulseLim = 0; ///< pulse limiter, 0 or 1
     double TGLevel = 0;
-    std::array<uint8_t, 2> Riserva2550{};
+    int16_t RFOut = 0; ///< generator output, 0 or 1
     double TGFreq = 0; ///< MHz
     int16_t TGOn = 0;
     std::array<std::string, 7> FactorName{};
     std::array<int16_t, 7> FactorOn{};
     int16_t SommaFact = 0;
-    int16_t UnitId = 0; ///< 0 to 7
-    std::array<uint8_t, 610> Riserva3000{};
+    int16_t UnitId = 0;        ///< 0 to 7
+    int16_t AncillaryKind = 0; ///< as stored; read it through `AncillaryDi`
+    int16_t AntennaGX2207 = 0; ///< rod antenna on the GX2207
+    int16_t FiltroHP150 = 0;   ///< its 150 kHz high-pass
+    int16_t AltaImpedenza = 0; ///< its high impedance input
+    int16_t InsLossOn = 0;     ///< Insertion Loss active
+    std::array<uint8_t, 600> Riserva3010{};
     int16_t OverwriteWarning = 0; ///< 0 off, -1 on
     int16_t OrderForDate = 0;     ///< menu marks, 0 off, -1 on
     int16_t SymbolOnPeaks = 0;
@@ -120,9 +126,9 @@ template <class Visita> constexpr void Campi(Visita& v, SetupRecord& r) {
     v.I16(r.Mode, "Mode");
     v.I16(r.DinamicaId, "DinamicaId");
     v.I16(r.RefLevel, "RefLevel");
-    v.Riserva(r.Riserva2540);
+    v.I16(r.PulseLim, "PulseLim");
     v.F64(r.TGLevel, "TGLevel");
-    v.Riserva(r.Riserva2550);
+    v.I16(r.RFOut, "RFOut");
     v.F64(r.TGFreq, "TGFreq");
     v.I16(r.TGOn, "TGOn");
     for (auto& x : r.FactorName)
@@ -131,7 +137,12 @@ template <class Visita> constexpr void Campi(Visita& v, SetupRecord& r) {
         v.I16(x, "FactorOn");
     v.I16(r.SommaFact, "SommaFact");
     v.I16(r.UnitId, "UnitId");
-    v.Riserva(r.Riserva3000);
+    v.I16(r.AncillaryKind, "AncillaryKind");
+    v.I16(r.AntennaGX2207, "AntennaGX2207");
+    v.I16(r.FiltroHP150, "FiltroHP150");
+    v.I16(r.AltaImpedenza, "AltaImpedenza");
+    v.I16(r.InsLossOn, "InsLossOn");
+    v.Riserva(r.Riserva3010);
     v.I16(r.OverwriteWarning, "OverwriteWarning");
     v.I16(r.OrderForDate, "OrderForDate");
     v.I16(r.SymbolOnPeaks, "SymbolOnPeaks");
@@ -155,5 +166,11 @@ template <class Visita> constexpr void Campi(Visita& v, SetupRecord& r) {
     v.Riserva(r.Spare, "Spare");
 }
 static_assert(DimensioneSuDisco<SetupRecord>() == 5094);
+
+inline constexpr int16_t kMaxAncillaryKind = 6;
+/// What is attached, 0 to 6, whatever a file holds.
+inline int AncillaryDi(const SetupRecord& setup) {
+    return std::clamp<int16_t>(setup.AncillaryKind, 0, kMaxAncillaryKind);
+}
 
 } // namespace orvane

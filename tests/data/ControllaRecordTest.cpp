@@ -129,8 +129,8 @@ TEST(ControllaSetupTest, IndicesFlagsAndNumbers) {
     r.ManualLevel = kNan;
     r.TGLevel = -std::numeric_limits<double>::infinity();
     r.RefLevel = -20;
-    r.Riserva3000.fill(0xFF);
-    const auto riserva = r.Riserva3000;
+    r.Riserva3010.fill(0xFF);
+    const auto riserva = r.Riserva3010;
     EXPECT_TRUE(ControllaSetup(r));
     EXPECT_EQ(r.UnitId, 7);
     EXPECT_EQ(r.TableUnitId, 0);
@@ -142,7 +142,7 @@ TEST(ControllaSetupTest, IndicesFlagsAndNumbers) {
     EXPECT_EQ(r.ManualLevel, 0);
     EXPECT_EQ(r.TGLevel, 0);
     EXPECT_EQ(r.RefLevel, -20);
-    EXPECT_EQ(r.Riserva3000, riserva);
+    EXPECT_EQ(r.Riserva3010, riserva);
     EXPECT_FALSE(ControllaSetup(r));
 }
 

@@ -99,7 +99,7 @@ TEST(FormatiTest, TheScanRecordIsTenLinesAndItsOwnFields) {
 
 TEST(DescriviCampiTest, TellsPlacesTypesAndValues) {
     SetupRecord setup;
-    setup.Riserva2540 = {1, 2};
+    setup.PulseLim = 0x0201;
     setup.TGLevel = -3.5;
     setup.LimitName[1] = "B";
     const auto campi = DescriviRecord(setup);

@@ -72,7 +72,7 @@ TEST_F(PanelsTest, AFullFileComesBackByteForByte) {
     s.env.ScanPanelPath = "Panels\\x.EST";
     s.env.SweepPath = "Sweep\\x\\x.KSH";
     s.setup = SetupDefault();
-    s.setup.Riserva3000.fill(0x5A);
+    s.setup.Riserva3010.fill(0x5A);
     s.setup.KeepTrace = -1;
     s.setup.MaxHold = 1;
     s.setup.GraphStart = 0.15;
