@@ -2,7 +2,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "setup/NumeroScalato.h"
+#include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -18,14 +18,6 @@ constexpr std::array<std::string_view, static_cast<size_t>(ColonnaScan::NumColon
 constexpr std::array<std::string_view, 4> kNomiLinee = {"N ", "L1", "L2", "L3"};
 constexpr std::array<std::string_view, 4> kNomiScatola = {"W", "X", "Y", "Z"};
 constexpr std::array<std::string_view, 2> kNomiAntenna = {"V ", "H "};
-
-struct UnitaStep {
-    double daMhz;
-    double fattore;
-    std::string_view testo;
-};
-constexpr std::array<UnitaStep, 3> kUnitaStep = {
-    {{1, 1, "MHz"}, {0.001, 1e3, "kHz"}, {0, 1e6, "Hz"}}};
 
 std::string TestoFreq(double mhz) {
     return mhz == 0 ? "" : TestoDaNumero(mhz);
@@ -48,10 +40,7 @@ std::string TestoStep(const ScanLine& riga) {
     }
     if (riga.AutoStep == 1)
         return "AUTO";
-    for (const UnitaStep& unita : kUnitaStep)
-        if (riga.Step >= unita.daMhz)
-            return TestoScalato(riga.Step, unita.fattore) + " " + std::string(unita.testo);
-    return TestoDaNumero(riga.Step) + " MHz";
+    return TestoPassoConUnita(riga.Step);
 }
 
 std::string TestoDetector(const ScanLine& riga) {

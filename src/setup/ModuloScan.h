@@ -107,7 +107,8 @@ std::optional<Riquadro> ScegliLimite(ModuloScan& modulo, CoppiaLimite coppia,
 std::optional<Riquadro> AccendiLimite(ModuloScan& modulo, CoppiaLimite coppia, bool acceso);
 /// `CBXFileStep`. A table that is not there is refused, and "NONE" takes its place.
 std::optional<Riquadro> ScegliFreqTable(ModuloScan& modulo, std::string_view nome);
-/// The same of the line as it was opened: to be shown once the window is up.
+/// The same of the name that the line has, where it steps by a table: once the window is up, and
+/// when `OPTStep` goes to 1.
 std::optional<Riquadro> ControllaFreqTable(ModuloScan& modulo);
 /// `TBStep`, in the unit that the window shows; and another unit for the same step.
 void ModificaTBStep(ModuloScan& modulo, std::string_view testo);

@@ -43,6 +43,6 @@ StimaSweep StimaTabella(const AlberoDati& albero, const ScanTable& tabella, int 
 /// "5 971 points × 2 lines · about 3 min 20 s"; the kind says what the passes are called.
 std::string TestoStima(const StimaSweep& stima, int ancillaryKind);
 /// "less than 1 s", "45 s", "3 min 20 s", "2 h 5 min"
-std::string TestoTempo(double secondi);
+std::string TestoTempoStimato(double secondi);
 
 } // namespace orvane
