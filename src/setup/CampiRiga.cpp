@@ -213,7 +213,7 @@ constexpr std::array kCampi = {
               kNumero},
     CampoRiga{"smart", "Smart", TestoFlag<&L::Smart>, LeggiSmart, kOnOff},
     CampoRiga{"detector", "Detector", TestoDetector, LeggiDetectorDiRiga,
-              "one to three of P, Q, R, A, N, C; two at most with Smart, one with a mast"},
+              "some of P, Q, R, A, N, C; two at most with Smart, one with a mast"},
     CampoRiga{"hold", "Hold Time [ms]", TestoNumero<&L::HoldTime>, LeggiHold, kNumero},
     CampoRiga{"peak-hold", "Peak Scan Hold Time [ms]", TestoNumero<&L::HoldTimeSD>,
               LeggiConRegola<ModificaHoldTimeSD>, kNumero},
@@ -242,16 +242,12 @@ std::span<const CampoRiga> TabellaCampiRiga() {
 
 bool ImpostaDetector(ScanLine& riga, const std::array<int16_t, kNumDetector>& detector,
                      int ancillaryKind) {
-    const ScanLine prima = riga;
-    riga.Detector.fill(0);
-    // Whatever the rules would clear on the way was too much.
-    for (size_t d = 0; d < kNumDetector; ++d)
-        if (detector[d] == 1)
-            CambiaDetector(riga, static_cast<DetectorKind>(d), true, ancillaryKind);
-    const bool tutti = riga.Detector == detector && !LettereDetector(riga).empty();
-    if (!tutti)
-        riga = prima;
-    return tutti;
+    const auto quanti = std::count(detector.begin(), detector.end(), int16_t{1});
+    const int massimo = ancillaryKind == kAncillaryMastTable ? 1 : riga.Smart == 1 ? 2 : 6;
+    if (quanti < 1 || quanti > massimo)
+        return false;
+    riga.Detector = detector;
+    return true;
 }
 
 int TrovaRbw(std::string_view testo) {

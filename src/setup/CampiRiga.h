@@ -24,8 +24,8 @@ struct CampoRiga {
 /// After the last one an automatic step is to be brought up to date.
 std::span<const CampoRiga> TabellaCampiRiga();
 
-/// All detectors at once, by the rules of `CambiaDetector`: false, and nothing changed, for none
-/// and for more than go together.
+/// All detectors at once. Where nobody clicks there is none to keep: a line takes up to six, as it
+/// does from a file, two with Smart, one with positioners. False, and nothing changed, for others.
 bool ImpostaDetector(ScanLine& riga, const std::array<int16_t, kNumDetector>& detector,
                      int ancillaryKind);
 /// Index of a filter by its text, blanks and case aside; -1 for none.

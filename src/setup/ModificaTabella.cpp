@@ -11,7 +11,6 @@ namespace orvane {
 namespace {
 
 constexpr int kMaxDetectorInsieme = 3;
-constexpr int kMastTable = 5;
 
 /// What `AggiornaRigaScanTab` fills into the empty cells of a new line.
 void RiempiRiga(ScanLine& riga, int ancillaryKind) {
@@ -65,7 +64,7 @@ void CambiaDetector(ScanLine& riga, DetectorKind detector, bool acceso, int anci
         return;
     // Smart is one of the group: with it two detectors fill it.
     const bool pieno = accesi + (riga.Smart == 1 ? 1 : 0) >= kMaxDetectorInsieme;
-    if (acceso && (ancillaryKind == kMastTable || (riga.Detector[quale] == 0 && pieno)))
+    if (acceso && (ancillaryKind == kAncillaryMastTable || (riga.Detector[quale] == 0 && pieno)))
         riga.Detector.fill(0);
     riga.Detector[quale] = acceso ? 1 : 0;
     AggiornaStepAuto(riga);

@@ -12,6 +12,7 @@
 
 namespace orvane {
 
+inline constexpr int kAncillaryMastTable = 5;
 inline constexpr float kMargineMax = 19;   ///< dB, either way
 inline constexpr int16_t kNumStepMax = 49; ///< between two entries of a frequency table
 inline constexpr size_t kPromptMax = 200;  ///< characters

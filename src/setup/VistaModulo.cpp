@@ -7,8 +7,6 @@
 namespace orvane {
 namespace {
 
-constexpr int kMastTable = 5;
-
 /// The columns that open the window, each with its frames; Hold Time opens those of Detector.
 struct CorniciDiColonna {
     ColonnaScan colonna;
@@ -42,9 +40,9 @@ bool MostraCornice(const ModuloScan& modulo, Cornice cornice) {
     case Cornice::FRMFrequenciesTable:
         return modulo.riga.StepMode == 1;
     case Cornice::FRMMargin:
-        return smart || modulo.ancillaryKind != kMastTable;
+        return smart || modulo.ancillaryKind != kAncillaryMastTable;
     case Cornice::FRMCustomLimits: // else the limit that keeps Smart out could not be changed
-        return smart || (modulo.ancillaryKind != kMastTable && LimiteVietaSmart(modulo));
+        return smart || (modulo.ancillaryKind != kAncillaryMastTable && LimiteVietaSmart(modulo));
     case Cornice::FRMHoldTimeSD:
     case Cornice::FRMCustomLimitsDSD:
         return smart;
@@ -107,7 +105,7 @@ std::string TitoloCornice(const ScanLine& riga, Cornice cornice) {
 StatoControllo StatoLimite(const ModuloScan& modulo, CoppiaLimite coppia, bool visibile) {
     const bool chiesto = modulo.riga.Smart == 1 && (coppia == CoppiaLimite::Prima ||
                                                     ControllaCondizioniDSDScanTab(modulo.riga));
-    const bool mastTable = modulo.ancillaryKind == kMastTable;
+    const bool mastTable = modulo.ancillaryKind == kAncillaryMastTable;
     return {.visibile = visibile,
             .abilitato = chiesto || coppia == CoppiaLimite::Prima,
             .avviso = mastTable || (chiesto && !LimiteScelto(modulo.riga, coppia))};
@@ -115,7 +113,7 @@ StatoControllo StatoLimite(const ModuloScan& modulo, CoppiaLimite coppia, bool v
 
 void ImpostaControlli(const ModuloScan& modulo, VistaModulo& vista) {
     const bool smart = modulo.riga.Smart == 1;
-    const bool mastTable = modulo.ancillaryKind == kMastTable;
+    const bool mastTable = modulo.ancillaryKind == kAncillaryMastTable;
     vista.OPTStep.visibile = modulo.colonna == ColonnaScan::Step;
     vista.TBStep = {.visibile = vista.Di(Cornice::FRMStep).visibile,
                     .abilitato = modulo.riga.AutoStep == 0};
@@ -153,8 +151,8 @@ AperturaCella ApriCellaScanTab(ColonnaScan colonna, size_t indice, int ancillary
     case ColonnaScan::PreSel:
         return AperturaCella::Elenco;
     case ColonnaScan::Ancillary: // positioners serve a table of one line
-        return ancillaryKind == kMastTable && indice > 0 ? AperturaCella::Ridisegna
-                                                         : AperturaCella::Finestra;
+        return ancillaryKind == kAncillaryMastTable && indice > 0 ? AperturaCella::Ridisegna
+                                                                  : AperturaCella::Finestra;
     case ColonnaScan::Step:
     case ColonnaScan::Detector:
     case ColonnaScan::HoldTime:
@@ -178,7 +176,7 @@ bool ApreCornice(ColonnaScan colonna, Cornice cornice) {
 
 VistaModulo VistaDelModulo(const ModuloScan& modulo) {
     VistaModulo vista;
-    const bool avvisoSmart = modulo.ancillaryKind == kMastTable && modulo.riga.Smart == 1;
+    const bool avvisoSmart = modulo.ancillaryKind == kAncillaryMastTable && modulo.riga.Smart == 1;
     for (size_t i = 0; i < kNumCornici; ++i) {
         const auto cornice = static_cast<Cornice>(i);
         vista.cornici[i] = {.visibile = ApreCornice(modulo.colonna, cornice) &&

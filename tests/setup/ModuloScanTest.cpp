@@ -143,7 +143,7 @@ TEST(RegoleRigaTest, FieldsAreHeldToTheirRanges) {
         {"start", "0", nullptr},        {"rbw", "1khzmil", "1 kHz Mil"},
         {"rbw", "----", nullptr},       {"min-att", "15", nullptr},
         {"min-att", "40", "40"},        {"smart", "maybe", nullptr},
-        {"detector", "PQRA", nullptr},  {"detector", "P,C-Avg", "PC"},
+        {"detector", "PQX", nullptr},   {"detector", "P,C-Avg", "PC"},
         {"lines", "l1, Z", "L1,L3"},    {"lines", "-", "-"},
         {"lines", "L4", nullptr},       {"antenna", "H", "H"},
         {"limit", "none", "NONE"},      {"limit", "Class B", "Class B"},

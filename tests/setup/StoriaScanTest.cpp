@@ -104,7 +104,7 @@ TEST(RigheScanTest, WhatASpreadsheetMayBring) {
                                         "30\tred\t0,15\tPQA\r\n"
                                         "\r\n"
                                         "30\tred\tmuch\tP\r\n"
-                                        "300\t\t30\tPQRANC\r\n",
+                                        "300\t\t30\tPQX\r\n",
                                         1);
     ASSERT_EQ(lette.righe.size(), 2u);
     EXPECT_EQ(TestoCella(lette.righe[0], ColonnaScan::Detector, 1), "P Q A ");
