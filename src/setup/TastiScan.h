@@ -1,4 +1,4 @@
-// What a key does in the edit helpers of the scan grid.
+// What a key does in the edit controls over the scan grid.
 #pragma once
 
 #include <cstddef>
