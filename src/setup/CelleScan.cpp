@@ -2,7 +2,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "setup/NumeroScalato.h"
+#include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -15,17 +15,9 @@ constexpr std::array<std::string_view, static_cast<size_t>(ColonnaScan::NumColon
     "",    "Start\n[MHz]", "Stop\n[MHz]", "Step",    "Detector",     "Hold Time",
     "RBW", "Min Att",      "Pre Amp",     "Pre Sel", "Prompt start", "Ancillary"};
 
-constexpr std::array<std::string_view, 4> kNomiLinee = {"N ", "L1", "L2", "L3"};
-constexpr std::array<std::string_view, 4> kNomiScatola = {"W", "X", "Y", "Z"};
-constexpr std::array<std::string_view, 2> kNomiAntenna = {"V ", "H "};
-
-struct UnitaStep {
-    double daMhz;
-    double fattore;
-    std::string_view testo;
-};
-constexpr std::array<UnitaStep, 3> kUnitaStep = {
-    {{1, 1, "MHz"}, {0.001, 1e3, "kHz"}, {0, 1e6, "Hz"}}};
+// A cell shows the one-letter names of lines and polarisations two wide.
+constexpr std::array<std::string_view, 4> kCelleLinee = {"N ", "L1", "L2", "L3"};
+constexpr std::array<std::string_view, 2> kCelleAntenna = {"V ", "H "};
 
 std::string TestoFreq(double mhz) {
     return mhz == 0 ? "" : TestoDaNumero(mhz);
@@ -48,10 +40,7 @@ std::string TestoStep(const ScanLine& riga) {
     }
     if (riga.AutoStep == 1)
         return "AUTO";
-    for (const UnitaStep& unita : kUnitaStep)
-        if (riga.Step >= unita.daMhz)
-            return TestoScalato(riga.Step, unita.fattore) + " " + std::string(unita.testo);
-    return TestoDaNumero(riga.Step) + " MHz";
+    return TestoPassoConUnita(riga.Step);
 }
 
 std::string TestoDetector(const ScanLine& riga) {
@@ -95,11 +84,11 @@ std::string TestoAncillary(const ScanLine& riga, int ancillaryKind) {
     case 1:
     case 2:
     case 6:
-        return NomiAccesi(riga.LineSwitch, kNomiLinee);
+        return NomiAccesi(riga.LineSwitch, kCelleLinee);
     case 3:
-        return NomiAccesi(riga.Antenna, kNomiAntenna);
+        return NomiAccesi(riga.Antenna, kCelleAntenna);
     case 4:
-        return NomiAccesi(riga.LineSwitch, kNomiScatola);
+        return NomiAccesi(riga.LineSwitch, kNomiUscite);
     case 5:
         return "Table - Mast";
     default:

@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "base/Numeri.h"
+#include "setup/RegoleRiga.h"
+#include "setup/SceltaBande.h"
 
 namespace orvane {
 namespace {
@@ -17,9 +19,13 @@ void RiempiRiga(ScanLine& riga, int ancillaryKind) {
     riga.Step = DetStepAutoDaRBW(riga.RbwId, riga);
 }
 
-size_t RigheDellaBanda(const VoceBanda& banda) {
-    return 1 + static_cast<size_t>(std::count_if(banda.seguenti.begin(), banda.seguenti.end(),
-                                                 [](int b) { return b >= 0; }));
+/// A line that was typed just now has no detector yet, and no other line is without.
+bool HaCelleVuote(const ScanLine& riga, int ancillaryKind) {
+    for (int c = static_cast<int>(ColonnaScan::Step); c <= static_cast<int>(ColonnaScan::Ancillary);
+         ++c)
+        if (TestoCella(riga, static_cast<ColonnaScan>(c), ancillaryKind).empty())
+            return true;
+    return false;
 }
 
 } // namespace
@@ -32,32 +38,36 @@ void ModificaCella(ScanTable& tabella, size_t indice, ColonnaScan colonna, std::
                    int id, int ancillaryKind) {
     if (indice >= tabella.size())
         return;
-    ScanLine& riga = tabella[indice];
-    const bool eraCompleta = RigaCompleta(riga);
-    ScriviCellaScanLine(riga, colonna, testo, id);
-    if (!eraCompleta && RigaCompleta(riga))
-        RiempiRiga(riga, ancillaryKind);
+    ScriviCellaScanLine(tabella[indice], colonna, testo, id);
+    AggiornaRigaScanTab(tabella, indice, ancillaryKind);
     CompattaScanTable(tabella);
+}
+
+size_t AggiornaRigaScanTab(ScanTable& tabella, size_t indice, int ancillaryKind) {
+    if (indice < tabella.size())
+        if (ScanLine& riga = tabella[indice];
+            RigaCompleta(riga) && HaCelleVuote(riga, ancillaryKind))
+            RiempiRiga(riga, ancillaryKind);
+    return static_cast<size_t>(std::count_if(tabella.begin(), tabella.end(), RigaCompleta));
 }
 
 void ModificaHoldTime(ScanLine& riga, std::string_view testo) {
     const double ms = std::min(std::abs(ValoreIniziale(testo)), kHoldTimeMax);
     riga.HoldTime = static_cast<float>(ms);
-    // The hold time decides whether the line runs as FFT, and that decides the automatic step.
-    if (riga.AutoStep == 1)
-        riga.Step = DetStepAutoDaRBW(riga.RbwId, riga);
+    AggiornaStepAuto(riga);
 }
 
-void CambiaDetector(ScanLine& riga, DetectorKind detector, bool acceso) {
+void CambiaDetector(ScanLine& riga, DetectorKind detector, bool acceso, int ancillaryKind) {
     const auto quale = static_cast<size_t>(detector);
     const auto accesi = std::count(riga.Detector.begin(), riga.Detector.end(), int16_t{1});
     if (!acceso && accesi <= 1)
         return;
-    if (acceso && riga.Detector[quale] == 0 && accesi >= kMaxDetectorInsieme)
+    // Smart is one of the group: with it two detectors fill it.
+    const bool pieno = accesi + (riga.Smart == 1 ? 1 : 0) >= kMaxDetectorInsieme;
+    if (acceso && (ancillaryKind == kAncillaryMastTable || (riga.Detector[quale] == 0 && pieno)))
         riga.Detector.fill(0);
     riga.Detector[quale] = acceso ? 1 : 0;
-    if (riga.AutoStep == 1)
-        riga.Step = DetStepAutoDaRBW(riga.RbwId, riga);
+    AggiornaStepAuto(riga);
 }
 
 void CancellaRiga(ScanTable& tabella, size_t indice) {
@@ -68,17 +78,8 @@ void CancellaRiga(ScanTable& tabella, size_t indice) {
 }
 
 bool AggiungiBanda(ScanTable& tabella, const VoceBanda& banda, int ancillaryKind) {
-    CompattaScanTable(tabella);
-    size_t qui = RigheInUso(tabella);
-    if (banda.startMhz == 0 || qui + RigheDellaBanda(banda) > tabella.size())
-        return false;
-    ImpostaBanda(tabella[qui] = {}, banda, ancillaryKind);
-    for (const int seguente : banda.seguenti) {
-        if (seguente >= 0)
-            ImpostaBanda(tabella[++qui] = {}, TabellaBande()[static_cast<size_t>(seguente)],
-                         ancillaryKind);
-    }
-    return true;
+    const auto indice = static_cast<int>(&banda - TabellaBande().data());
+    return InserisciBanda(tabella, tabella.size(), indice, ancillaryKind);
 }
 
 } // namespace orvane

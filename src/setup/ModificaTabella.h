@@ -21,7 +21,10 @@ void ModificaCella(ScanTable& tabella, size_t indice, ColonnaScan colonna, std::
 /// Absolute value of the number, at most 30000; "Lowest" and what is no number are 0.
 void ModificaHoldTime(ScanLine& riga, std::string_view testo);
 /// Switches a detector. The last one cannot be cleared; a fourth clears the others and stays alone.
-void CambiaDetector(ScanLine& riga, DetectorKind detector, bool acceso);
+/// Smart counts as one of them, so that a Smart line has two at most. With kind 5 one is on.
+void CambiaDetector(ScanLine& riga, DetectorKind detector, bool acceso, int ancillaryKind = 0);
+/// Fills the empty cells of a row that has both its frequencies; how many rows are filled then.
+size_t AggiornaRigaScanTab(ScanTable& tabella, size_t indice, int ancillaryKind);
 void CancellaRiga(ScanTable& tabella, size_t indice);
 /// Puts a band with those that follow it behind the lines in use; false, and nothing changed, where
 /// the table has no room for all of them.
