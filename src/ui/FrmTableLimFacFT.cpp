@@ -48,7 +48,7 @@ FrmTableLimFacFT::FrmTableLimFacFT(Console& console, TableKind kind, std::string
     CreaScorciatoie();
     MostraContenuto();
     TornaAllaGriglia();
-    griglia_->setCurrentIndex(griglia_->Modello().index(0, 0));
+    griglia_->VaiA(0, 0);
     timerAutoOpen_.setObjectName(QStringLiteral("TimerAutoOpenFT"));
     timerAutoOpen_.setSingleShot(true);
     connect(&timerAutoOpen_, &QTimer::timeout, this, [this] { CaricaDa(daCaricare_); });

@@ -21,7 +21,7 @@ void FrmTableLimFacFT::RimuoviScelte() {
     Applica(std::move(c));
     TornaAllaGriglia();
     if (!righe.empty())
-        griglia_->setCurrentIndex(griglia_->Modello().index(static_cast<int>(righe.front()), 0));
+        griglia_->VaiA(static_cast<int>(righe.front()), 0);
 }
 
 void FrmTableLimFacFT::SvuotaScelte() {
@@ -120,7 +120,7 @@ void FrmTableLimFacFT::CaricaDa(const std::string& percorso) {
     percorso_ = percorso;
     MostraContenuto();
     Messaggio(riparazioni.join(QStringLiteral("; ")));
-    griglia_->setCurrentIndex(griglia_->Modello().index(0, 0));
+    griglia_->VaiA(0, 0);
     TornaAllaGriglia();
 }
 
