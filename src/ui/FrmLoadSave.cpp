@@ -122,6 +122,9 @@ QWidget* FrmLoadSave::CreaAnteprima() {
     dettagli_->setObjectName(QStringLiteral("LBDettagli"));
     dettagli_->setWordWrap(true);
     quadro_ = new QuadroTabella(console_.scrivania.env, anteprima_);
+    QSizePolicy tieneIlPosto = quadro_->sizePolicy();
+    tieneIlPosto.setRetainSizeWhenHidden(true);
+    quadro_->setSizePolicy(tieneIlPosto);
     colonna->addWidget(titolo_);
     colonna->addWidget(dettagli_);
     colonna->addWidget(quadro_, 1);
@@ -217,12 +220,10 @@ void FrmLoadSave::Anteprima() {
         c = AnteprimaTabella(console_.scrivania, *kind_,
                              richiesta_.cartella + S(voce->text()) + "." + richiesta_.estensione);
     titolo_->setText(!c ? QString() : c->titolo.empty() ? voce->text() : Q(c->titolo));
-    dettagli_->setText(c ? tr("%n points", nullptr, static_cast<int>(c->righe.size()))
-                               .append(QStringLiteral("  ·  "))
-                               .append(Gamma(*c))
-                       : voce                ? tr("This file cannot be read")
-                       : lista_->count() > 0 ? tr("Nothing is chosen")
-                                             : tr("There are no files yet"));
+    dettagli_->setText(c       ? TestoPunti(c->righe.size()) + QStringLiteral("  ·  ") + Gamma(*c)
+                       : voce  ? tr("This file cannot be read")
+                       : nome_ ? tr("A new file")
+                               : tr("There are no files yet"));
     quadro_->setVisible(c.has_value());
     if (c)
         quadro_->Mostra(*c);
