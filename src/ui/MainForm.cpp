@@ -31,7 +31,8 @@ MainForm::MainForm(Scrivania& scrivania, ScanRecord& scan) : scrivania_(scrivani
     CreaMenu(*menuBar(), {.segno = [this](auto segno, bool si) { CambiaSegno(segno, si); },
                           .remoteLink = [this] { ApriFrmRemoteLink(); },
                           .esci = [this] { close(); },
-                          .guida = [this] { MostraGuida(); }});
+                          .guida = [this] { MostraGuida(); },
+                          .tabelle = [this](AzioneMenu azione) { ApriTabelle(azione); }});
     CreaFinestra();
     CreaScorciatoie();
     CollegaPannelli();

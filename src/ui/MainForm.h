@@ -12,6 +12,7 @@
 #include "ui/ColonnaComuni.h"
 #include "ui/GridScanTab.h"
 #include "ui/MainPict.h"
+#include "ui/MenuConsole.h"
 #include "ui/Moduli.h"
 #include "ui/PaginaRicevitore.h"
 #include "ui/PannelloArchivio.h"
@@ -89,6 +90,7 @@ private:
     void CambiaSegno(int16_t SetupRecord::*segno, bool si);
     void ApriFrmRemoteLink();
     void MostraGuida();
+    void ApriTabelle(AzioneMenu azione);
     QString DescrizioneLink() const;
     QString Unita() const;
 

@@ -9,7 +9,18 @@
 
 namespace orvane {
 
-enum class AzioneMenu { Nessuna, Segno, RemoteLink, Esci, Guida };
+enum class AzioneMenu {
+    Nessuna,
+    Segno,
+    RemoteLink,
+    Esci,
+    Guida,
+    Limiti,
+    Fattori,
+    TabFreq,
+    TabFreqMast,
+    Libreria
+};
 
 struct VoceMenu {
     const char* menu;  ///< which menu it is in
@@ -28,6 +39,7 @@ struct AzioniMenu {
     std::function<void()> remoteLink;
     std::function<void()> esci;
     std::function<void()> guida;
+    std::function<void(AzioneMenu)> tabelle; ///< `Limiti` to `Libreria`
 };
 
 void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
