@@ -18,6 +18,11 @@ constexpr VoceMenu kDopo(const char* menu, const char* nome, const char* testo) 
 constexpr VoceMenu kMarca(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kSegno, segno, nullptr, false};
 }
+/// A window that opens from the main window; `delModo` until a mode allows it.
+constexpr VoceMenu kFinestra(const char* menu, const char* nome, const char* testo,
+                             AzioneMenu azione, bool delModo) {
+    return {menu, nullptr, nome, testo, azione, nullptr, nullptr, delModo};
+}
 /// A mark whose effect belongs to what is not there yet.
 constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
@@ -25,9 +30,9 @@ constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t Set
 
 using S = SetupRecord;
 constexpr VoceMenu kMenu[] = {
-    kDopo("File", "MNUOpenPanel", "Open Panel…"),
-    kDopo("File", "MNUSavePanel", "Save Panel"),
-    kDopo("File", "MNUSaveAs", "Save Panel As…"),
+    kFinestra("File", "MNUOpenPanel", "Open Panel…", AzioneMenu::ApriPannello, true),
+    kFinestra("File", "MNUSavePanel", "Save Panel", AzioneMenu::SalvaPannello, true),
+    kFinestra("File", "MNUSaveAs", "Save Panel As…", AzioneMenu::SalvaPannelloCome, true),
     kSeparatore("File"),
     kDopo("File", "MNURetrieve", "Retrieve…"),
     kSeparatore("File"),
@@ -39,8 +44,8 @@ constexpr VoceMenu kMenu[] = {
     kDopo("Make", "MNUMakeFactors", "Conversion Factors…"),
     kDopo("Make", "MNUMakeTabFreq", "Frequency Table…"),
     kDopo("Make", "MNUMakeTabSubRange", "Sub Range Table…"),
-    kDopo("Report", "mnuHeaderTitle", "Header Title…"),
-    kDopo("Report", "mnuTestComment", "Test Comment…"),
+    kFinestra("Report", "mnuHeaderTitle", "Header Title…", AzioneMenu::Intestazione, true),
+    kFinestra("Report", "mnuTestComment", "Test Comment…", AzioneMenu::Commento, true),
     kSeparatore("Report"),
     {"Report", "MNUReport", "MNUReportTXT", "Text…", kNessuna, nullptr, nullptr, true},
     {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
@@ -59,6 +64,9 @@ constexpr VoceMenu kMenu[] = {
     kMarcaSpenta("MNUGX2207FFTSwept", "GX2207 FFT Swept", &S::GX2207FFTSwept),
     kMarcaSpenta("MNUZoomModeA", "Zoom Mode A", &S::ZoomModeA),
     kMarcaSpenta("MNUZoomModeB", "Zoom Mode B", &S::ZoomModeB),
+    kSeparatore("Options"),
+    kFinestra("Options", "MNUAspect", "Aspect…", AzioneMenu::Aspetto, false),
+    kFinestra("Options", "MNUColors", "Colours…", AzioneMenu::Colori, false),
     {"Help", nullptr, "MNUAbout", "About Orvane Console", AzioneMenu::Guida, nullptr, nullptr,
      false},
 };
@@ -95,6 +103,10 @@ void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
         return;
     case AzioneMenu::Guida:
         QObject::connect(azione, &QAction::triggered, azioni.guida);
+        return;
+    default:
+        QObject::connect(azione, &QAction::triggered,
+                         [f = azioni.finestra, quale = voce.azione] { f(quale); });
         return;
     }
 }
@@ -144,6 +156,12 @@ void DisabilitaVociModo(const QMenuBar& barra) {
     for (const VoceMenu& voce : kMenu)
         if (voce.delModo)
             Azione(barra, voce.nome)->setEnabled(false);
+}
+
+void AbilitaVociPannello(const QMenuBar& barra) {
+    for (const VoceMenu& voce : kMenu)
+        if (voce.delModo && voce.azione >= AzioneMenu::ApriPannello)
+            Azione(barra, voce.nome)->setEnabled(true);
 }
 
 } // namespace orvane

@@ -9,7 +9,21 @@
 
 namespace orvane {
 
-enum class AzioneMenu { Nessuna, Segno, RemoteLink, Esci, Guida };
+enum class AzioneMenu {
+    Nessuna,
+    Segno,
+    RemoteLink,
+    Esci,
+    Guida,
+    // Windows of the main window's own.
+    ApriPannello,
+    SalvaPannello,
+    SalvaPannelloCome,
+    Intestazione,
+    Commento,
+    Aspetto,
+    Colori
+};
 
 struct VoceMenu {
     const char* menu;  ///< which menu it is in
@@ -28,6 +42,7 @@ struct AzioniMenu {
     std::function<void()> remoteLink;
     std::function<void()> esci;
     std::function<void()> guida;
+    std::function<void(AzioneMenu)> finestra; ///< all others
 };
 
 void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
@@ -35,5 +50,7 @@ void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
 void AggiornaSegni(const QMenuBar& barra, const SetupRecord& setup);
 /// Switches off what a mode must enable.
 void DisabilitaVociModo(const QMenuBar& barra);
+/// Panels and texts, in the modes that let them be edited.
+void AbilitaVociPannello(const QMenuBar& barra);
 
 } // namespace orvane
