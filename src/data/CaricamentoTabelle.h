@@ -17,6 +17,9 @@ struct VistaCaricamento {
     virtual void NascondiAvanzamento() = 0;
 };
 
+/// The receiver numbers its positions from 1.
+inline constexpr int kMaxPosizioni = 99;
+
 enum class EsitoCaricamento {
     Memorizzato,
     Rifiutato,   ///< a box has said why; nothing was sent

@@ -176,17 +176,22 @@ std::optional<std::string> LeggiFileTesto(const std::filesystem::path& file) {
     return testo;
 }
 
-std::string TestoTabella(const ContenutoTabella& c, std::string_view header) {
-    std::string testo = TestoHeader(header) + InAnsi(c.titolo) + "\r\n";
-    const size_t colonne = c.kind == TableKind::FrequenzeMast ? kColonne.size() : 2;
-    for (size_t riga = 0; riga < c.righe.size(); ++riga) {
-        if (!RigaCompletaTabella(c.righe[riga]))
-            continue;
-        for (size_t i = 0; i < colonne; ++i)
-            testo += (i > 0 ? "\t" : "") + TestoCella(c, riga, kColonne[i]);
+std::string CopiaRighe(const ContenutoTabella& c, std::span<const size_t> righe) {
+    std::string testo;
+    for (const size_t riga : righe) {
+        for (int i = 0; i < NumeroColonneTabella(c.kind); ++i)
+            testo += (i > 0 ? "\t" : "") + TestoCella(c, riga, static_cast<ColonnaTabella>(i));
         testo += "\r\n";
     }
     return testo;
+}
+
+std::string TestoTabella(const ContenutoTabella& c, std::string_view header) {
+    std::vector<size_t> complete;
+    for (size_t riga = 0; riga < c.righe.size(); ++riga)
+        if (RigaCompletaTabella(c.righe[riga]))
+            complete.push_back(riga);
+    return TestoHeader(header) + InAnsi(c.titolo) + "\r\n" + CopiaRighe(c, complete);
 }
 
 bool SalvaComeTesto(const Scrivania& s, const std::filesystem::path& file,

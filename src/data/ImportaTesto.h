@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,9 @@ void AvvisaImporto(Ambiente& ambiente, const EsitoImporto& esito, TableKind kind
 
 /// Bytes of a text file of the host, as far as any table needs; empty when it cannot be read.
 std::optional<std::string> LeggiFileTesto(const std::filesystem::path& file);
+
+/// Rows as a spreadsheet takes them from the clipboard: a line each, columns divided by tabs.
+std::string CopiaRighe(const ContenutoTabella& c, std::span<const size_t> righe);
 
 /// Header, title, and a line a point, as bytes of the file.
 std::string TestoTabella(const ContenutoTabella& c, std::string_view header);

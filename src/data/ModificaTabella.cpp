@@ -36,10 +36,6 @@ const VoceKind& Voce(TableKind kind) {
     return kKind.at(static_cast<size_t>(kind));
 }
 
-bool LimiteOFattore(TableKind kind) {
-    return kind == TableKind::Limite || kind == TableKind::Fattore;
-}
-
 /// A frequency as the file will hold it: two that the file cannot tell apart are one.
 double Chiave(TableKind kind, double mhz) {
     return LimiteOFattore(kind) ? static_cast<double>(HzDaMhz(mhz)) : mhz;
@@ -188,6 +184,10 @@ std::string TestoPosizione(const std::optional<int16_t>& posizione) {
 
 } // namespace
 
+bool LimiteOFattore(TableKind kind) {
+    return kind == TableKind::Limite || kind == TableKind::Fattore;
+}
+
 std::string_view TitoloFinestraTabella(TableKind kind) {
     return Voce(kind).titolo;
 }
@@ -295,6 +295,10 @@ std::string TitoloColonnaTabella(const ContenutoTabella& c, ColonnaTabella colon
         break;
     }
     return conPosizioni ? "Table Deg" : "";
+}
+
+int NumeroColonneTabella(TableKind kind) {
+    return kind == TableKind::FrequenzeMast ? 4 : 2;
 }
 
 void RimuoviRighe(ContenutoTabella& c, size_t da, size_t quante) {

@@ -15,6 +15,7 @@ namespace orvane {
 enum class TableKind : int16_t { Limite, Fattore, Frequenze, FrequenzeMast };
 inline constexpr int kNumTableKind = 4;
 
+bool LimiteOFattore(TableKind kind);
 /// "Limits: ", "Factors: ", ...: how the caption of the window begins.
 std::string_view TitoloFinestraTabella(TableKind kind);
 /// Rows that the file of a table has room for. A limit or a factor has no level for its 202nd.
@@ -39,6 +40,8 @@ struct ContenutoTabella {
 };
 
 enum class ColonnaTabella { Frequenza, Livello, Mast, Table };
+/// How many of them a kind has.
+int NumeroColonneTabella(TableKind kind);
 
 enum class EsitoModifica {
     Fatta,

@@ -67,6 +67,7 @@ EditorColore::EditorColore(QWidget* padre)
     auto* griglia = new QGridLayout(this);
     griglia->setContentsMargins(0, 0, 0, 0);
     griglia->setHorizontalSpacing(12);
+    griglia->setVerticalSpacing(10);
     for (size_t i = 0; i < kParti.size(); ++i) {
         const QString didascalia = QLatin1String(kParti[i].didascalia);
         cursori_[i] = Nomina(new QSlider(Qt::Horizontal, this), QLatin1String(kParti[i].nome),
@@ -93,6 +94,7 @@ EditorColore::EditorColore(QWidget* padre)
     campione_->setToolTip(tr("Before, and now"));
     griglia->addWidget(didascalia, 3, 0);
     auto* fila = new QHBoxLayout;
+    fila->setSpacing(10);
     fila->addWidget(testo_, 1);
     fila->addWidget(campione_, 1);
     griglia->addLayout(fila, 3, 1, 1, 2);

@@ -110,8 +110,11 @@ QWidget* FrmAspect::CreaModulo(const QString& stileFisso) {
 }
 
 void FrmAspect::AggiungiRiga(QFormLayout& modulo, const RigaAspetto& riga) {
-    if (riga.gruppo)
-        modulo.addRow(CreaTitoletto(tr(riga.gruppo), modulo.parentWidget()));
+    if (riga.gruppo) {
+        auto* titolo = CreaTitoletto(tr(riga.gruppo), modulo.parentWidget());
+        titolo->setContentsMargins(0, modulo.rowCount() > 0 ? 14 : 0, 0, 2);
+        modulo.addRow(titolo);
+    }
     QLabel* valore = nullptr;
     QWidget* oggetto = nullptr;
     if (riga.genere == GenereRiga::Cursore) {

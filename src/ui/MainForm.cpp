@@ -31,6 +31,7 @@ MainForm::MainForm(Scrivania& scrivania, ScanRecord& scan) : scrivania_(scrivani
                           .remoteLink = [this] { ApriFrmRemoteLink(); },
                           .esci = [this] { close(); },
                           .guida = [this] { MostraGuida(); },
+                          .tabelle = [this](AzioneMenu azione) { ApriTabelle(azione); },
                           .finestra = [this](AzioneMenu azione) { ApriFinestra(azione); }});
     CreaFinestra();
     CreaScorciatoie();

@@ -94,6 +94,7 @@ private:
     void CambiaSegno(int16_t SetupRecord::*segno, bool si);
     void ApriFrmRemoteLink();
     void MostraGuida();
+    void ApriTabelle(AzioneMenu azione);
     void ApriFinestra(AzioneMenu azione);
     void AbilitaVociFerme(bool ferma);
     void ApriFrmAspect();

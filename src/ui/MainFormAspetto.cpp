@@ -11,6 +11,7 @@
 #include "data/Panels.h"
 #include "ui/FrmAspect.h"
 #include "ui/FrmColors.h"
+#include "ui/FrmLoadSave.h"
 #include "ui/FrmTesto.h"
 #include "ui/MainForm.h"
 #include "ui/Tema.h"
@@ -64,6 +65,18 @@ void MainForm::AbilitaVociFerme(bool ferma) {
     for (const char* nome : kVociFerme)
         if (auto* voce = menuBar()->findChild<QAction*>(QLatin1String(nome)))
             voce->setEnabled(ferma);
+}
+
+/// The load and save window; empty where the user turned back.
+std::optional<std::string> MainForm::ScegliFile(const RichiestaFile& richiesta, bool salva,
+                                                const QString& titolo, const std::string& nome) {
+    const auto modo = salva ? FrmLoadSave::Modo::Salva : FrmLoadSave::Modo::Carica;
+    QWidget* sopra = QApplication::activeModalWidget();
+    FrmLoadSave finestra(*console_, richiesta, modo, titolo, sopra ? sopra : this);
+    finestra.ImpostaNome(Q(nome));
+    if (finestra.exec() != QDialog::Accepted || finestra.Percorso().empty())
+        return std::nullopt;
+    return finestra.Percorso();
 }
 
 void MainForm::ApriFrmAspect() {
@@ -192,10 +205,4 @@ void MainForm::ApriCommento() {
               CaricaTesto(scrivania_, percorso));
 }
 
-} // namespace orvane
-namespace orvane {
-std::optional<std::string> MainForm::ScegliFile(const RichiestaFile&, bool, const QString&,
-                                                const std::string&) {
-    return std::nullopt;
-}
 } // namespace orvane

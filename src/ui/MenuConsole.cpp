@@ -15,6 +15,9 @@ constexpr VoceMenu kSeparatore(const char* menu) {
 constexpr VoceMenu kDopo(const char* menu, const char* nome, const char* testo) {
     return {menu, nullptr, nome, testo, kNessuna, nullptr, nullptr, true};
 }
+constexpr VoceMenu kTabelle(const char* nome, const char* testo, AzioneMenu azione) {
+    return {"Make", nullptr, nome, testo, azione, nullptr, nullptr, false};
+}
 constexpr VoceMenu kMarca(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kSegno, segno, nullptr, false};
 }
@@ -40,10 +43,13 @@ constexpr VoceMenu kMenu[] = {
     kDopo("File", "MNUSsaveClipboard", "Copy Image to Clipboard"),
     kSeparatore("File"),
     {"File", nullptr, "CMBExit", "Exit", AzioneMenu::Esci, nullptr, "Ctrl+Q", false},
-    kDopo("Make", "MNUMakeLimits", "Limits…"),
-    kDopo("Make", "MNUMakeFactors", "Conversion Factors…"),
-    kDopo("Make", "MNUMakeTabFreq", "Frequency Table…"),
+    kTabelle("MNUMakeLimits", "Limits…", AzioneMenu::Limiti),
+    kTabelle("MNUMakeFactors", "Conversion Factors…", AzioneMenu::Fattori),
+    kTabelle("MNUMakeTabFreq", "Frequency Table…", AzioneMenu::TabFreq),
+    kTabelle("MNUMakeTabFreqMast", "Frequency Mast Table…", AzioneMenu::TabFreqMast),
     kDopo("Make", "MNUMakeTabSubRange", "Sub Range Table…"),
+    kSeparatore("Make"),
+    kTabelle("MNUInstallLimits", "Install Limit Library…", AzioneMenu::Libreria),
     kFinestra("Report", "mnuHeaderTitle", "Header Title…", AzioneMenu::Intestazione, true),
     kFinestra("Report", "mnuTestComment", "Test Comment…", AzioneMenu::Commento, true),
     kSeparatore("Report"),
@@ -103,6 +109,14 @@ void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
         return;
     case AzioneMenu::Guida:
         QObject::connect(azione, &QAction::triggered, azioni.guida);
+        return;
+    case AzioneMenu::Limiti:
+    case AzioneMenu::Fattori:
+    case AzioneMenu::TabFreq:
+    case AzioneMenu::TabFreqMast:
+    case AzioneMenu::Libreria:
+        QObject::connect(azione, &QAction::triggered,
+                         [f = azioni.tabelle, quale = voce.azione] { f(quale); });
         return;
     default:
         QObject::connect(azione, &QAction::triggered,

@@ -15,6 +15,11 @@ enum class AzioneMenu {
     RemoteLink,
     Esci,
     Guida,
+    Limiti,
+    Fattori,
+    TabFreq,
+    TabFreqMast,
+    Libreria,
     // Windows of the main window's own.
     ApriPannello,
     SalvaPannello,
@@ -42,6 +47,7 @@ struct AzioniMenu {
     std::function<void()> remoteLink;
     std::function<void()> esci;
     std::function<void()> guida;
+    std::function<void(AzioneMenu)> tabelle;  ///< `Limiti` to `Libreria`
     std::function<void(AzioneMenu)> finestra; ///< all others
 };
 

@@ -13,8 +13,6 @@
 namespace orvane {
 namespace {
 
-constexpr double kSlotMassimo = 99;
-
 /// Nothing to watch while a few rows go out.
 struct VistaMuta : VistaCaricamento {
     void ImpostaAvanzamento(size_t, size_t) override {}
@@ -60,7 +58,7 @@ bool Identifica(Ricevitore& r) {
 EsitoVerbo MemorizzaNelRicevitore(Banco& banco, TableKind kind, const std::string& nome,
                                   const Argomenti& argomenti) {
     const auto numero = LeggiNumero(argomenti.Opzione("slot").value_or(""));
-    if (!numero || *numero < 1 || *numero > kSlotMassimo || *numero != std::floor(*numero))
+    if (!numero || *numero < 1 || *numero > kMaxPosizioni || *numero != std::floor(*numero))
         return UsoErrato(banco, VerboDiKind(kind), "store wants --slot N, from 1 on");
     const auto c = CaricaContenuto(banco, kind, nome);
     if (!c)

@@ -7,7 +7,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "data/ConversioneTabella.h"
+#include "data/FileTabelle.h"
 #include "data/ImportaTesto.h"
 #include "data/Interpolazione.h"
 #include "data/LibreriaLimiti.h"
@@ -18,14 +18,6 @@
 
 namespace orvane {
 namespace {
-
-bool LimiteOFattore(TableKind kind) {
-    return kind == TableKind::Limite || kind == TableKind::Fattore;
-}
-
-int SlotDiKind(TableKind kind) {
-    return kind == TableKind::Limite ? kPrimoLimite : kPrimoFattore;
-}
 
 /// What was repaired while loading goes to the user once.
 void DiAvvisi(Banco& banco) {
@@ -55,15 +47,6 @@ bool CaricaInSlot(Banco& banco, TabelleLimFac& tabelle, TableKind kind, const st
         CaricaLimFac(banco.scrivania, tabelle, PercorsoTabella(kind, nome), SlotDiKind(kind));
     DiAvvisi(banco);
     return caricata;
-}
-
-bool SalvaContenuto(Banco& banco, const ContenutoTabella& c, const std::string& percorso) {
-    if (!LimiteOFattore(c.kind))
-        return SalvaFreqTab(banco.scrivania, FormaDiKind(c.kind), percorso, InFrequencyTable(c));
-    TabelleLimFac tabelle;
-    const int slot = SlotDiKind(c.kind);
-    tabelle.slot[static_cast<size_t>(slot)] = InLimFac(c);
-    return SalvaLimFac(banco.scrivania, tabelle, percorso, slot);
 }
 
 EsitoVerbo Elenca(Banco& banco, TableKind kind) {
@@ -207,7 +190,7 @@ EsitoVerbo Importa(Banco& banco, TableKind kind, const std::string& nome, const 
     const auto percorso = CmdSave(banco.scrivania, RichiestaTabella(kind), nome);
     if (!percorso)
         return kRifiutato;
-    if (!SalvaContenuto(banco, c, *percorso))
+    if (!SalvaTabella(banco.scrivania, c, *percorso))
         return kGuastoFile;
     if (!banco.json)
         banco.dati << ControllaRigaCompFreqTab(c) << " points in " << *percorso << "\n";
@@ -276,18 +259,11 @@ std::string_view VerboDiKind(TableKind kind) {
 
 std::optional<ContenutoTabella> CaricaContenuto(Banco& banco, TableKind kind,
                                                 const std::string& nome) {
-    if (LimiteOFattore(kind)) {
-        TabelleLimFac tabelle;
-        if (!CaricaInSlot(banco, tabelle, kind, nome))
-            return std::nullopt;
-        return DaLimFac(tabelle.slot[static_cast<size_t>(SlotDiKind(kind))], kind);
-    }
-    FrequencyTable tabella;
-    const bool caricata =
-        TabellaPresente(banco, kind, nome) &&
-        CaricaFreqTab(banco.scrivania, FormaDiKind(kind), PercorsoTabella(kind, nome), tabella);
+    if (!TabellaPresente(banco, kind, nome))
+        return std::nullopt;
+    const auto c = CaricaTabella(banco.scrivania, {.kind = kind}, PercorsoTabella(kind, nome));
     DiAvvisi(banco);
-    return caricata ? std::optional(DaFrequencyTable(tabella, kind)) : std::nullopt;
+    return c;
 }
 
 EsitoVerbo VerboLimit(Banco& banco, Parole parole) {

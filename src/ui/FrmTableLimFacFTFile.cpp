@@ -1,0 +1,189 @@
+// What goes in and out of the table editor: files, clipboard, receiver.
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+
+#include "data/CaricaSalva.h"
+#include "data/FileTabelle.h"
+#include "data/NomiDisco.h"
+#include "ui/FrmLoadSave.h"
+#include "ui/FrmTableLimFacFT.h"
+#include "ui/Testi.h"
+
+namespace orvane {
+
+void FrmTableLimFacFT::RimuoviScelte() {
+    Conferma();
+    const std::vector<size_t> righe = griglia_->RigheScelte();
+    ContenutoTabella c = Copia();
+    for (auto riga = righe.rbegin(); riga != righe.rend(); ++riga)
+        RimuoviRighe(c, *riga, 1);
+    Applica(std::move(c));
+    TornaAllaGriglia();
+    if (!righe.empty())
+        griglia_->setCurrentIndex(griglia_->Modello().index(static_cast<int>(righe.front()), 0));
+}
+
+void FrmTableLimFacFT::SvuotaScelte() {
+    QModelIndexList celle = griglia_->selectionModel()->selectedIndexes();
+    // From the last back: a row without frequency moves behind the others.
+    std::sort(celle.begin(), celle.end(), [](const auto& a, const auto& b) { return b < a; });
+    ContenutoTabella c = Copia();
+    for (const QModelIndex& cella : celle)
+        if (auto riga = static_cast<size_t>(cella.row()); riga < c.righe.size())
+            ScriviCella(c, riga, static_cast<ColonnaTabella>(cella.column()), {});
+    Applica(std::move(c));
+}
+
+void FrmTableLimFacFT::CopiaScelte() {
+    QApplication::clipboard()->setText(
+        Q(CopiaRighe(modifica_.Contenuto(), griglia_->RigheScelte())));
+}
+
+void FrmTableLimFacFT::Incolla() {
+    const QModelIndex qui = griglia_->currentIndex();
+    ContenutoTabella c = Copia();
+    const EsitoImporto esito = IncollaColonne(
+        c, S(QApplication::clipboard()->text()), static_cast<size_t>(std::max(0, qui.row())),
+        static_cast<ColonnaTabella>(std::max(0, qui.column())));
+    RaccontaImporto(std::move(c), esito);
+}
+
+void FrmTableLimFacFT::RaccontaImporto(ContenutoTabella c, const EsitoImporto& esito) {
+    Applica(std::move(c));
+    QString parole = tr("%1 lines taken").arg(esito.aggiunti);
+    if (esito.doppi > 0)
+        parole += tr(", %1 already present").arg(esito.doppi);
+    Messaggio(parole);
+    AvvisaImporto(console_.scrivania.ambiente, esito, modifica_.Contenuto().kind);
+}
+
+void FrmTableLimFacFT::ImportaTesto() {
+    Conferma();
+    const RichiestaFile richiesta = RichiestaTabella(modifica_.Contenuto().kind);
+    console_.scrivania.albero.AssicuraCartella(richiesta.cartella);
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Open from Text"),
+        Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella))),
+        tr("Text files (*.TXT *.txt *.csv);;All files (*)"));
+    if (!file.isEmpty())
+        ImportaFile(PathDaUtf8(S(file)));
+}
+
+void FrmTableLimFacFT::ImportaFile(const std::filesystem::path& file) {
+    const auto testo = LeggiFileTesto(file);
+    if (!testo) {
+        console_.scrivania.ambiente.Mostra(
+            {.testo = "Cannot open file " + Utf8DaPath(file), .icona = Icona::Esclamazione});
+        return;
+    }
+    ContenutoTabella c = Copia();
+    const EsitoImporto esito = orvane::ImportaTesto(c, *testo);
+    RaccontaImporto(std::move(c), esito);
+}
+
+void FrmTableLimFacFT::SalvaTesto() {
+    Conferma();
+    const RichiestaFile richiesta = RichiestaTabella(modifica_.Contenuto().kind);
+    const QString proposta = Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella) /
+                                          PathDaUtf8(S(NomeTabella()) + ".TXT")));
+    const QString file = QFileDialog::getSaveFileName(this, tr("Save as Text"), proposta,
+                                                      tr("Text files (*.TXT *.txt)"));
+    if (!file.isEmpty() &&
+        SalvaComeTesto(console_.scrivania, PathDaUtf8(S(file)), modifica_.Contenuto()))
+        Messaggio(tr("Written to %1").arg(file));
+}
+
+void FrmTableLimFacFT::Carica() {
+    if (!LasciaTabella())
+        return;
+    const TableKind kind = modifica_.Contenuto().kind;
+    const RichiestaFile richiesta = RichiestaTabella(kind);
+    FrmLoadSave finestra(console_, richiesta, FrmLoadSave::Modo::Carica,
+                         Q(TitoloCaricaSalva(richiesta, false)), this);
+    finestra.MostraAnteprime(kind);
+    if (finestra.exec() == QDialog::Accepted)
+        CaricaDa(finestra.Percorso());
+}
+
+void FrmTableLimFacFT::CaricaDa(const std::string& percorso) {
+    Scrivania& s = console_.scrivania;
+    const size_t avvisi = s.avvisi.size();
+    const auto c = CaricaTabella(s, modifica_.Contenuto(), percorso);
+    QStringList riparazioni;
+    for (size_t i = avvisi; i < s.avvisi.size(); ++i)
+        riparazioni << Q(s.avvisi[i]);
+    s.avvisi.resize(avvisi);
+    if (!c)
+        return;
+    modifica_ = ModificaTabella(*c);
+    percorso_ = percorso;
+    MostraContenuto();
+    Messaggio(riparazioni.join(QStringLiteral("; ")));
+    griglia_->setCurrentIndex(griglia_->Modello().index(0, 0));
+    TornaAllaGriglia();
+}
+
+/// False when the user did not save after all.
+bool FrmTableLimFacFT::Salva(bool continua) {
+    Conferma();
+    const ContenutoTabella& c = modifica_.Contenuto();
+    const RichiestaFile richiesta = RichiestaTabella(c.kind);
+    FrmLoadSave finestra(console_, richiesta, FrmLoadSave::Modo::Salva,
+                         Q(TitoloCaricaSalva(richiesta, true)), this);
+    finestra.MostraAnteprime(c.kind);
+    finestra.ImpostaNome(percorso_.empty() ? QString() : NomeTabella());
+    if (continua)
+        finestra.ImpostaContinua();
+    if (finestra.exec() != QDialog::Accepted ||
+        !SalvaTabella(console_.scrivania, c, finestra.Percorso()))
+        return false;
+    percorso_ = finestra.Percorso();
+    modifica_.SegnaSalvato();
+    MostraContenuto();
+    Messaggio(tr("Saved"));
+    Q_EMIT Salvata(Q(percorso_));
+    return true;
+}
+
+/// Asks about rows that would be lost. Closing a box loses nothing: only a plain word does.
+bool FrmTableLimFacFT::LasciaTabella() {
+    Conferma();
+    if (!modifica_.DaSalvare())
+        return true;
+    const auto chiedi = [this](const std::string& testo) {
+        return console_.scrivania.ambiente.Mostra(
+                   {.testo = testo, .icona = Icona::Domanda, .pulsanti = Pulsanti::SiNo}) ==
+               Risposta::Si;
+    };
+    if (chiedi("The table has been changed.\rDo you want to save it?"))
+        return Salva(false);
+    return chiedi("Leave without saving?\rThe changes are lost.");
+}
+
+void FrmTableLimFacFT::CaricaNelRicevitore() {
+    Conferma();
+    Ambiente& ambiente = console_.scrivania.ambiente;
+    if (const std::string motivo = LinkOccupato(console_); !motivo.empty()) {
+        ambiente.Mostra({.testo = motivo, .icona = Icona::Esclamazione});
+        return;
+    }
+    if (modifica_.DaSalvare() &&
+        ambiente.Mostra({.testo = "The table has been changed.\r"
+                                  "Do you want to save it first?",
+                         .icona = Icona::Domanda,
+                         .pulsanti = Pulsanti::SiNo}) == Risposta::Si &&
+        !Salva(true))
+        return;
+    FrmLoadSave finestra(console_, modifica_.Contenuto(),
+                         percorso_.empty() ? QString() : NomeTabella(), this);
+    if (finestra.exec() == QDialog::Accepted)
+        Messaggio(tr("Stored in the receiver"));
+}
+
+void FrmTableLimFacFT::reject() {
+    if (LasciaTabella())
+        QDialog::reject();
+}
+
+} // namespace orvane
