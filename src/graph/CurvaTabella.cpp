@@ -75,6 +75,7 @@ void DisegnaRiga(Superficie& superficie, const ScalaGrafico& scala, const Riquad
         return;
     Penna sottile = penna;
     sottile.tratto = Tratto::Tratteggiato;
+    sottile.larghezza = 1;
     superficie.Linea({*x, scala.basso}, {*x, scala.alto}, sottile);
     if (riga.livelloCent)
         Segna(superficie, scala, dove, {*x, LivelloMostrato(c, *riga.livelloCent)},

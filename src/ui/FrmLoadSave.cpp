@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <QValidator>
 
@@ -25,6 +26,19 @@ public:
     }
 };
 
+/// Rows with some air.
+class DelegatoFile : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex& i) const override {
+        return {QStyledItemDelegate::sizeHint(o, i).width(), o.fontMetrics.height() + 8};
+    }
+};
+
+QString InMhz(double mhz) {
+    return QString::number(mhz, 'g', 6) + QStringLiteral(" MHz");
+}
+
 QString Gamma(const ContenutoTabella& c) {
     std::optional<double> da;
     std::optional<double> a;
@@ -32,7 +46,7 @@ QString Gamma(const ContenutoTabella& c) {
         da = da ? da : riga.freqMhz;
         a = riga.freqMhz ? riga.freqMhz : a;
     }
-    return da ? QStringLiteral("%1 to %2").arg(TestoFrequenza(*da), TestoFrequenza(*a)) : QString();
+    return da ? QStringLiteral("%1 to %2").arg(InMhz(*da), InMhz(*a)) : QString();
 }
 
 } // namespace
@@ -54,6 +68,7 @@ FrmLoadSave::FrmLoadSave(Console& console, const RichiestaFile& richiesta, Modo 
         nome_ = Nomina(new QLineEdit(this), QStringLiteral("TBSave"), tr("Name"),
                        tr("None of  . , + [ ] \\ / | = * ^ : ; < > ? \""));
         nome_->setValidator(new ValidatoreNome(nome_));
+        connect(nome_, &QLineEdit::textEdited, this, &FrmLoadSave::SegnaUguale);
         auto* riga = new QHBoxLayout;
         riga->setSpacing(12);
         riga->addWidget(CreaDidascalia(tr("Name"), this));
@@ -75,12 +90,13 @@ FrmLoadSave::FrmLoadSave(Console& console, const ContenutoTabella& tabella, cons
     colonna->setContentsMargins(20, 18, 20, 16);
     store_ = new PannelloStore(console, tabella, nome, this);
     colonna->addWidget(store_);
-    connect(store_, &PannelloStore::Memorizzata, this, &QDialog::accept);
+    connect(store_, &PannelloStore::Memorizzata, this, [this] { done(QDialog::Accepted); });
     connect(store_, &PannelloStore::Chiudi, this, &FrmLoadSave::reject);
 }
 
 QWidget* FrmLoadSave::CreaElenco() {
     lista_ = Nomina(new QListWidget(this), QStringLiteral("FileList"), tr("Files"));
+    lista_->setItemDelegate(new DelegatoFile(lista_));
     lista_->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     lista_->setMinimumHeight(fontMetrics().height() * 12);
     connect(lista_, &QListWidget::currentTextChanged, this, &FrmLoadSave::Scegli);
@@ -106,6 +122,9 @@ QWidget* FrmLoadSave::CreaAnteprima() {
     dettagli_->setObjectName(QStringLiteral("LBDettagli"));
     dettagli_->setWordWrap(true);
     quadro_ = new QuadroTabella(console_.scrivania.env, anteprima_);
+    QSizePolicy tieneIlPosto = quadro_->sizePolicy();
+    tieneIlPosto.setRetainSizeWhenHidden(true);
+    quadro_->setSizePolicy(tieneIlPosto);
     colonna->addWidget(titolo_);
     colonna->addWidget(dettagli_);
     colonna->addWidget(quadro_, 1);
@@ -145,8 +164,16 @@ void FrmLoadSave::ImpostaNome(const QString& nome) {
         nome_->setText(nome);
         nome_->selectAll();
     }
-    for (QListWidgetItem* voce : lista_->findItems(nome, Qt::MatchFixedString))
-        lista_->setCurrentItem(voce);
+    SegnaUguale(nome);
+}
+
+/// The file that a name would replace is the one shown.
+void FrmLoadSave::SegnaUguale(const QString& nome) {
+    const QSignalBlocker zitta(lista_);
+    const auto uguali = lista_->findItems(nome, Qt::MatchFixedString);
+    lista_->setCurrentItem(uguali.isEmpty() ? nullptr : uguali.constFirst());
+    cancella_->setEnabled(!uguali.isEmpty());
+    Anteprima();
 }
 
 void FrmLoadSave::ImpostaContinua() {
@@ -193,12 +220,10 @@ void FrmLoadSave::Anteprima() {
         c = AnteprimaTabella(console_.scrivania, *kind_,
                              richiesta_.cartella + S(voce->text()) + "." + richiesta_.estensione);
     titolo_->setText(!c ? QString() : c->titolo.empty() ? voce->text() : Q(c->titolo));
-    dettagli_->setText(c ? tr("%n points", nullptr, static_cast<int>(c->righe.size()))
-                               .append(QStringLiteral("  ·  "))
-                               .append(Gamma(*c))
-                       : voce                ? tr("This file cannot be read")
-                       : lista_->count() > 0 ? tr("Nothing is chosen")
-                                             : tr("There are no files yet"));
+    dettagli_->setText(c       ? TestoPunti(c->righe.size()) + QStringLiteral("  ·  ") + Gamma(*c)
+                       : voce  ? tr("This file cannot be read")
+                       : nome_ ? tr("A new file")
+                               : tr("There are no files yet"));
     quadro_->setVisible(c.has_value());
     if (c)
         quadro_->Mostra(*c);

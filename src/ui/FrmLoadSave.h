@@ -47,6 +47,7 @@ private:
     QLayout* CreaPulsanti();
     void Elenca();
     void Scegli(const QString& nome);
+    void SegnaUguale(const QString& nome);
     void Cancella();
     void Anteprima();
     QString Nome() const;

@@ -1,6 +1,7 @@
 #include "ui/FrmTableLimFacFT.h"
 
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -17,7 +18,7 @@
 namespace orvane {
 namespace {
 
-/// The unit that was used last; a factor's number is a plain dB.
+/// In the unit that was used last.
 ContenutoTabella TabellaNuova(TableKind kind, const SetupRecord& setup) {
     return {.kind = kind, .unitId = setup.TableUnitId};
 }
@@ -48,14 +49,15 @@ FrmTableLimFacFT::FrmTableLimFacFT(Console& console, TableKind kind, std::string
     CreaScorciatoie();
     MostraContenuto();
     TornaAllaGriglia();
-    griglia_->setCurrentIndex(griglia_->Modello().index(0, 0));
+    griglia_->VaiA(0, 0);
     timerAutoOpen_.setObjectName(QStringLiteral("TimerAutoOpenFT"));
     timerAutoOpen_.setSingleShot(true);
     connect(&timerAutoOpen_, &QTimer::timeout, this, [this] { CaricaDa(daCaricare_); });
     if (!daCaricare_.empty())
         timerAutoOpen_.start(0);
     const int m = fontMetrics().averageCharWidth();
-    resize(m * 150, fontMetrics().height() * 36);
+    const QSize posto = screen()->availableSize() * 0.94;
+    resize(QSize(m * 150, fontMetrics().height() * 36).boundedTo(posto));
 }
 
 QLayout* FrmTableLimFacFT::CreaBarraFile() {
@@ -243,9 +245,9 @@ void FrmTableLimFacFT::MostraQuadro() {
 /// Behind the count of the points.
 void FrmTableLimFacFT::Messaggio(const QString& testo) {
     const ContenutoTabella& c = modifica_.Contenuto();
-    const auto complete = static_cast<int>(ControllaRigaCompFreqTab(c));
-    const int altre = static_cast<int>(c.righe.size()) - complete;
-    QStringList pezzi{complete == 1 ? tr("1 point") : tr("%1 points").arg(complete)};
+    const size_t complete = ControllaRigaCompFreqTab(c);
+    const size_t altre = c.righe.size() - complete;
+    QStringList pezzi{TestoPunti(complete)};
     if (altre > 0)
         pezzi << (altre == 1 ? tr("1 incomplete row is not saved")
                              : tr("%1 incomplete rows are not saved").arg(altre));

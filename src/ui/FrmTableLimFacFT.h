@@ -20,6 +20,8 @@
 
 namespace orvane {
 
+class FrmLoadSave;
+
 class FrmTableLimFacFT : public QDialog {
     Q_OBJECT
 public:
@@ -65,6 +67,8 @@ private:
     void Incolla();
     void RaccontaImporto(ContenutoTabella c, const EsitoImporto& esito);
 
+    /// True when the user has not cancelled.
+    bool Apri(FrmLoadSave& finestra);
     bool LasciaTabella();
     void Carica();
     void CaricaDa(const std::string& percorso);

@@ -21,7 +21,7 @@ void FrmTableLimFacFT::RimuoviScelte() {
     Applica(std::move(c));
     TornaAllaGriglia();
     if (!righe.empty())
-        griglia_->setCurrentIndex(griglia_->Modello().index(static_cast<int>(righe.front()), 0));
+        griglia_->VaiA(static_cast<int>(righe.front()), 0);
 }
 
 void FrmTableLimFacFT::SvuotaScelte() {
@@ -94,6 +94,14 @@ void FrmTableLimFacFT::SalvaTesto() {
         Messaggio(tr("Written to %1").arg(file));
 }
 
+bool FrmTableLimFacFT::Apri(FrmLoadSave& finestra) {
+    const bool accettata = finestra.exec() == QDialog::Accepted;
+    // A box that closed with the dialog leaves some window managers without a window to go to.
+    activateWindow();
+    TornaAllaGriglia();
+    return accettata;
+}
+
 void FrmTableLimFacFT::Carica() {
     if (!LasciaTabella())
         return;
@@ -102,7 +110,7 @@ void FrmTableLimFacFT::Carica() {
     FrmLoadSave finestra(console_, richiesta, FrmLoadSave::Modo::Carica,
                          Q(TitoloCaricaSalva(richiesta, false)), this);
     finestra.MostraAnteprime(kind);
-    if (finestra.exec() == QDialog::Accepted)
+    if (Apri(finestra))
         CaricaDa(finestra.Percorso());
 }
 
@@ -120,7 +128,7 @@ void FrmTableLimFacFT::CaricaDa(const std::string& percorso) {
     percorso_ = percorso;
     MostraContenuto();
     Messaggio(riparazioni.join(QStringLiteral("; ")));
-    griglia_->setCurrentIndex(griglia_->Modello().index(0, 0));
+    griglia_->VaiA(0, 0);
     TornaAllaGriglia();
 }
 
@@ -135,8 +143,7 @@ bool FrmTableLimFacFT::Salva(bool continua) {
     finestra.ImpostaNome(percorso_.empty() ? QString() : NomeTabella());
     if (continua)
         finestra.ImpostaContinua();
-    if (finestra.exec() != QDialog::Accepted ||
-        !SalvaTabella(console_.scrivania, c, finestra.Percorso()))
+    if (!Apri(finestra) || !SalvaTabella(console_.scrivania, c, finestra.Percorso()))
         return false;
     percorso_ = finestra.Percorso();
     modifica_.SegnaSalvato();
@@ -177,7 +184,7 @@ void FrmTableLimFacFT::CaricaNelRicevitore() {
         return;
     FrmLoadSave finestra(console_, modifica_.Contenuto(),
                          percorso_.empty() ? QString() : NomeTabella(), this);
-    if (finestra.exec() == QDialog::Accepted)
+    if (Apri(finestra))
         Messaggio(tr("Stored in the receiver"));
 }
 

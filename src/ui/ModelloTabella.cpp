@@ -64,19 +64,22 @@ bool ModelloTabella::setData(const QModelIndex& indice, const QVariant& valore, 
     if (ruolo != Qt::EditRole || !indice.isValid())
         return false;
     ContenutoTabella c = Contenuto();
+    const bool nuova =
+        indice.row() == static_cast<int>(c.righe.size()) || indice.row() == rigaNuova_;
     auto riga = static_cast<size_t>(indice.row());
     const EsitoModifica esito =
         ScriviCella(c, riga, static_cast<ColonnaTabella>(indice.column()), S(valore.toString()));
     modifica_.Applica(std::move(c));
     scritta_ = Scritta{static_cast<int>(riga), esito == EsitoModifica::Fatta};
-    Aggiorna();
     Q_EMIT Modificata();
+    rigaNuova_ = nuova && scritta_->accettata ? scritta_->riga : -1;
     if (esito != EsitoModifica::Fatta)
         Q_EMIT Rifiutata(static_cast<int>(esito));
     return true;
 }
 
 void ModelloTabella::Aggiorna() {
+    rigaNuova_ = -1;
     const size_t inUso = Contenuto().righe.size();
     const int volute = static_cast<int>(std::min(inUso + 1, CapienzaTabella(Contenuto().kind)));
     if (volute > righe_) {

@@ -32,6 +32,9 @@ public:
         bool accettata = true;
     };
     std::optional<Scritta> PrendiScritta() { return std::exchange(scritta_, std::nullopt); }
+    /// The row that was typed last into the empty one at the end, wherever it stands now; -1 once
+    /// something else has been changed.
+    int RigaNuova() const { return rigaNuova_; }
 
 Q_SIGNALS:
     /// A cell was committed.
@@ -42,6 +45,7 @@ Q_SIGNALS:
 private:
     ModificaTabella& modifica_;
     int righe_ = 0;
+    int rigaNuova_ = -1;
     std::optional<Scritta> scritta_;
 };
 

@@ -23,8 +23,7 @@ PannelloStore::PannelloStore(Console& console, ContenutoTabella tabella, const Q
     QSizePolicy tieneIlPosto = avanzamento_->sizePolicy();
     tieneIlPosto.setRetainSizeWhenHidden(true);
     avanzamento_->setSizePolicy(tieneIlPosto);
-    esito_ = CreaDidascalia(
-        tr("%n points", nullptr, static_cast<int>(ControllaRigaCompFreqTab(tabella_))), this);
+    esito_ = CreaDidascalia(TestoPunti(ControllaRigaCompFreqTab(tabella_)), this);
     esito_->setObjectName(QStringLiteral("LBEsito"));
     colonna->addWidget(avanzamento_);
     colonna->addWidget(esito_);

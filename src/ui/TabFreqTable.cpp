@@ -134,17 +134,29 @@ std::vector<size_t> TabFreqTable::RigheScelte() const {
     return scelte;
 }
 
-/// From the place that the committed row has now; a refused cell stays the current one.
+/// From the place that the committed row has now; a refused cell stays the current one, and behind
+/// a new row comes the next new one, not the row that happens to follow.
 void TabFreqTable::Avanza(int passo) {
     const auto scritta = modello_->PrendiScritta();
-    const int riga = scritta ? scritta->riga : currentIndex().row();
-    const int colonne = modello_->columnCount();
-    const int posto =
-        riga * colonne + currentIndex().column() + (scritta && !scritta->accettata ? 0 : passo);
-    const QModelIndex cella = modello_->index(posto / colonne, posto % colonne);
+    if (scritta && !scritta->accettata)
+        passo = 0;
+    int riga = scritta ? scritta->riga : currentIndex().row();
+    int colonna = currentIndex().column() + passo;
+    if (colonna == modello_->columnCount()) {
+        colonna = 0;
+        riga = riga == modello_->RigaNuova() ? modello_->rowCount() - 1 : riga + 1;
+    } else if (colonna < 0) {
+        colonna = modello_->columnCount() - 1;
+        --riga;
+    }
     setFocus();
-    if (posto >= 0 && cella.isValid())
-        setCurrentIndex(cella);
+    VaiA(riga, colonna);
+}
+
+void TabFreqTable::VaiA(int riga, int colonna) {
+    // The view itself would add to the selection while Ctrl is held.
+    if (const QModelIndex cella = modello_->index(riga, colonna); cella.isValid())
+        selectionModel()->setCurrentIndex(cella, QItemSelectionModel::ClearAndSelect);
 }
 
 void TabFreqTable::keyPressEvent(QKeyEvent* evento) {

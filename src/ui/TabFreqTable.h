@@ -42,6 +42,8 @@ public:
     ModelloTabella& Modello() { return *modello_; }
     /// Commits the cell that is open.
     void ChiudiCella();
+    /// This cell becomes the current one, and alone selected.
+    void VaiA(int riga, int colonna);
     /// Rows with a selected cell that hold a point, rising; without a selection the current one.
     std::vector<size_t> RigheScelte() const;
 

@@ -16,6 +16,10 @@ QString TestoDurata(double secondi) {
                                .arg(resto.rightJustified(5, QLatin1Char('0')));
 }
 
+QString TestoPunti(size_t quanti) {
+    return quanti == 1 ? QStringLiteral("1 point") : QStringLiteral("%1 points").arg(quanti);
+}
+
 QString TestoFrequenza(double mhz) {
     const int decimali = mhz < 0.01 ? 6 : mhz < 1 ? 5 : mhz < 100 ? 4 : 3;
     return Q(TestoFisso(mhz, decimali)) + QStringLiteral(" MHz");

@@ -16,6 +16,8 @@ inline std::string S(const QString& testo) {
 }
 /// Seconds as "2:04", hours in front where there are any.
 QString TestoDurata(double secondi);
+/// "1 point", "4 points".
+QString TestoPunti(size_t quanti);
 /// A frequency as a reader wants it: "0.512 MHz".
 QString TestoFrequenza(double mhz);
 
