@@ -17,7 +17,7 @@ struct Aspetto {
     int stile = 0;              ///< a `StileAspetto`
     int testoGrafico = 100;     ///< per cent, numbers and readings in the picture
     int testoTabelle = 100;     ///< per cent, scan tables
-    int spessoreTracce = 12;    ///< tenths of a pixel
+    int spessoreTracce = 10;    ///< tenths of a pixel
     int linee = 0;              ///< a `LineeVisibili`
     int opacitaGriglia = 35;    ///< per cent, on the screen
     int lisce = 1;              ///< 1: edges of traces are smoothed

@@ -1,7 +1,6 @@
 #include "ui/DisegnoQuadro.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
@@ -59,7 +58,7 @@ void DisegnaGrigliaQuadro(QPainter& p, const QSizeF& misura, const ModoQuadro& m
 }
 
 Penna PennaTraccia(const ModoQuadro& modo, int32_t colore) {
-    const double larga = std::round(modo.aspetto.spessoreTracce / 10.0 * modo.rapporto);
+    const double larga = modo.aspetto.spessoreTracce / 10.0 * modo.rapporto;
     return {.colore = colore, .larghezza = std::max(1.0, larga)};
 }
 

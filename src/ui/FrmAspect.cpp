@@ -45,8 +45,9 @@ constexpr RigaAspetto kRighe[] = {
      &Aspetto::altezzaPiede, kCursore, "%", 1, false},
     {"Picture", "SLDTextGraph", "Text of the picture", "Size of numbers and readings",
      &Aspetto::testoGrafico, kCursore, "%", 5, false},
-    {nullptr, "SLDTraceWidth", "Trace width", "Width of traces and limits",
-     &Aspetto::spessoreTracce, kCursore, "px", 1, true},
+    {nullptr, "SLDTraceWidth", "Trace width",
+     "Width of traces; never less than a pixel of the screen", &Aspetto::spessoreTracce, kCursore,
+     "px", 5, true},
     {nullptr, "CHKSmooth", "Smooth traces", "Edges of traces are blended with the ground",
      &Aspetto::lisce, GenereRiga::Casella, nullptr, 1, false},
     {nullptr, "CBXGridLines", "Grid lines", "Which lines of the grid are drawn", &Aspetto::linee,
@@ -122,6 +123,7 @@ void FrmAspect::AggiungiRiga(QFormLayout& modulo, const RigaAspetto& riga) {
         valore->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("00 letters")));
         oggetto = CreaCursore(riga, valore);
         auto* fila = new QHBoxLayout;
+        fila->setSpacing(12);
         fila->addWidget(oggetto, 1);
         fila->addWidget(valore);
         auto* didascalia = new QLabel(tr(riga.didascalia), modulo.parentWidget());

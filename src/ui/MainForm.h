@@ -75,6 +75,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
 
 private:
     void CreaFinestra();

@@ -34,6 +34,11 @@ void Apri(QDialog* finestra) {
     finestra->open();
 }
 
+bool StesseMisure(const Aspetto& a, const Aspetto& b) {
+    return a.larghezzaArchivio == b.larghezzaArchivio && a.larghezzaComuni == b.larghezzaComuni &&
+           a.altezzaPiede == b.altezzaPiede;
+}
+
 int Percento(int parte, int tutto) {
     return tutto > 0 ? (200 * parte + tutto) / (2 * tutto) : 0;
 }
@@ -86,6 +91,7 @@ void MainForm::ApriFrmAspect() {
 }
 
 void MainForm::ApriFrmColors() {
+    scrivania_.avvisi.clear();
     auto* finestra = new FrmColors(
         scrivania_,
         [this](bool salva) {
@@ -109,13 +115,18 @@ void MainForm::ApplicaAspetto() {
     if (aspetto_.testoTabelle != prima.testoTabelle)
         for (auto* griglia : findChildren<GridScanTab*>())
             griglia->ScalaTesto(aspetto_.testoTabelle);
-    if (aspetto_.larghezzaArchivio != prima.larghezzaArchivio ||
-        aspetto_.larghezzaComuni != prima.larghezzaComuni ||
-        aspetto_.altezzaPiede != prima.altezzaPiede)
+    if (isVisible() && !StesseMisure(aspetto_, prima))
         DisponiPannelli();
     if (aspetto_.stile != prima.stile && stileFisso_.isEmpty())
         ApplicaTema(*static_cast<QApplication*>(QApplication::instance()),
                     static_cast<StileChiesto>(aspetto_.stile));
+}
+
+/// Only now is it known how much room there is.
+void MainForm::showEvent(QShowEvent* evento) {
+    QMainWindow::showEvent(evento);
+    if (!evento->spontaneous() && !StesseMisure(aspetto_, {}))
+        QTimer::singleShot(0, this, &MainForm::DisponiPannelli);
 }
 
 void MainForm::DisponiPannelli() {
@@ -162,6 +173,7 @@ void MainForm::ApriPannello() {
         return;
     if (!scrivania_.albero.Esiste(*percorso))
         return stato_->MostraMessaggio(tr("No panel %1").arg(Q(EstraiNomeFile(*percorso))));
+    scrivania_.avvisi.clear();
     CaricaPannelloCome(scrivania_, *percorso);
     MostraPannello();
 }
@@ -188,6 +200,7 @@ void MainForm::MostraPannello() {
         MostraAsseTabella();
     MostraTitolo(TitoloFinestra(*console_));
     stato_->MostraMessaggio(tr("Panel: %1").arg(Q(EstraiNomeFile(scrivania_.env.SetupPanelPath))));
+    MostraAvvisi(scrivania_.avvisi);
 }
 
 void MainForm::ApriTesto(const std::string& percorso, const QString& titolo,
