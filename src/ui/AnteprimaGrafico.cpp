@@ -7,6 +7,7 @@
 #include "data/Panels.h"
 #include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
+#include "ui/Tema.h"
 
 namespace orvane {
 namespace {
@@ -95,6 +96,8 @@ void AnteprimaGrafico::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const double rapporto = devicePixelRatioF();
     const QSizeF misura = QSizeF(size()) * rapporto;
+    // Whatever part of a pixel is left at the edges.
+    p.fillRect(rect(), stampa_ ? QColor(Qt::white) : Tinta(palette(), Ruolo::Finestra));
     p.scale(1 / rapporto, 1 / rapporto);
     const ModoQuadro modo{.env = env_,
                           .aspetto = LeggiAspetto(env_),

@@ -28,6 +28,7 @@ FrmTesto::FrmTesto(const Scrivania& scrivania, const std::string& percorso, cons
     QFont carattere = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     carattere.setPointSizeF(font().pointSizeF());
     testo_->setFont(carattere);
+    testo_->setFrameShape(QFrame::NoFrame);
     testo_->setTabChangesFocus(true);
     testo_->setLineWrapMode(QPlainTextEdit::NoWrap);
     testo_->setPlainText(Q(testo));
@@ -58,6 +59,7 @@ void FrmTesto::MostraNota() {
             break;
         }
     nota_->setText(note.join(QLatin1Char(' ')));
+    nota_->setVisible(!note.isEmpty());
 }
 
 void FrmTesto::accept() {
