@@ -97,6 +97,7 @@ FrmLoadSave::FrmLoadSave(Console& console, const ContenutoTabella& tabella, cons
 QWidget* FrmLoadSave::CreaElenco() {
     lista_ = Nomina(new QListWidget(this), QStringLiteral("FileList"), tr("Files"));
     lista_->setItemDelegate(new DelegatoFile(lista_));
+    lista_->setFrameShape(QFrame::NoFrame);
     lista_->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     lista_->setMinimumHeight(fontMetrics().height() * 12);
     connect(lista_, &QListWidget::currentTextChanged, this, &FrmLoadSave::Scegli);

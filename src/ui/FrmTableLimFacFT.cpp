@@ -3,13 +3,10 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include "base/Percorsi.h"
-#include "base/Testo.h"
-#include "data/Panels.h"
 #include "records/LimFacRecord.h"
 #include "records/Unita.h"
 #include "ui/Moduli.h"
@@ -214,11 +211,6 @@ void FrmTableLimFacFT::CollegaGriglia() {
     connect(griglia_, &TabFreqTable::RimuoviScelte, this, &FrmTableLimFacFT::RimuoviScelte);
 }
 
-void FrmTableLimFacFT::Applica(ContenutoTabella c) {
-    modifica_.Applica(std::move(c));
-    MostraContenuto();
-}
-
 void FrmTableLimFacFT::MostraContenuto() {
     const ContenutoTabella& c = modifica_.Contenuto();
     griglia_->Modello().Aggiorna();
@@ -262,40 +254,6 @@ QString FrmTableLimFacFT::NomeTabella() const {
 
 void FrmTableLimFacFT::TornaAllaGriglia() {
     griglia_->setFocus();
-}
-
-void FrmTableLimFacFT::Conferma() {
-    griglia_->ChiudiCella();
-    if (titolo_)
-        CambiaTitolo();
-}
-
-void FrmTableLimFacFT::CambiaTitolo() {
-    ContenutoTabella c = Copia();
-    c.titolo = Rifila(S(titolo_->text()));
-    if (c != modifica_.Contenuto())
-        Applica(std::move(c));
-}
-
-void FrmTableLimFacFT::CambiaUnita(int unita) {
-    Conferma();
-    ContenutoTabella c = Copia();
-    c.unitId = static_cast<int16_t>(unita);
-    Applica(std::move(c));
-    console_.scrivania.setup.TableUnitId = static_cast<int16_t>(unita);
-    SalvaPanelEAM(console_.scrivania, kPannelloEAM);
-}
-
-void FrmTableLimFacFT::Annulla() {
-    Conferma();
-    if (modifica_.Annulla())
-        MostraContenuto();
-}
-
-void FrmTableLimFacFT::Ripristina() {
-    Conferma();
-    if (modifica_.Ripristina())
-        MostraContenuto();
 }
 
 } // namespace orvane

@@ -1,6 +1,4 @@
-// What goes in and out of the table editor: files, clipboard, receiver.
-#include <QApplication>
-#include <QClipboard>
+// What goes in and out of the table editor: files, text, receiver.
 #include <QFileDialog>
 
 #include "data/CaricaSalva.h"
@@ -12,48 +10,11 @@
 
 namespace orvane {
 
-void FrmTableLimFacFT::RimuoviScelte() {
-    Conferma();
-    const std::vector<size_t> righe = griglia_->RigheScelte();
-    ContenutoTabella c = Copia();
-    for (auto riga = righe.rbegin(); riga != righe.rend(); ++riga)
-        RimuoviRighe(c, *riga, 1);
-    Applica(std::move(c));
-    TornaAllaGriglia();
-    if (!righe.empty())
-        griglia_->VaiA(static_cast<int>(righe.front()), 0);
-}
-
-void FrmTableLimFacFT::SvuotaScelte() {
-    QModelIndexList celle = griglia_->selectionModel()->selectedIndexes();
-    // From the last back: a row without frequency moves behind the others.
-    std::sort(celle.begin(), celle.end(), [](const auto& a, const auto& b) { return b < a; });
-    ContenutoTabella c = Copia();
-    for (const QModelIndex& cella : celle)
-        if (auto riga = static_cast<size_t>(cella.row()); riga < c.righe.size())
-            ScriviCella(c, riga, static_cast<ColonnaTabella>(cella.column()), {});
-    Applica(std::move(c));
-}
-
-void FrmTableLimFacFT::CopiaScelte() {
-    QApplication::clipboard()->setText(
-        Q(CopiaRighe(modifica_.Contenuto(), griglia_->RigheScelte())));
-}
-
-void FrmTableLimFacFT::Incolla() {
-    const QModelIndex qui = griglia_->currentIndex();
-    ContenutoTabella c = Copia();
-    const EsitoImporto esito = IncollaColonne(
-        c, S(QApplication::clipboard()->text()), static_cast<size_t>(std::max(0, qui.row())),
-        static_cast<ColonnaTabella>(std::max(0, qui.column())));
-    RaccontaImporto(std::move(c), esito);
-}
-
 void FrmTableLimFacFT::RaccontaImporto(ContenutoTabella c, const EsitoImporto& esito) {
     Applica(std::move(c));
-    QString parole = tr("%1 lines taken").arg(esito.aggiunti);
+    QString parole = tr("Taken: %1").arg(esito.aggiunti);
     if (esito.doppi > 0)
-        parole += tr(", %1 already present").arg(esito.doppi);
+        parole += tr(", already present: %1").arg(esito.doppi);
     Messaggio(parole);
     AvvisaImporto(console_.scrivania.ambiente, esito, modifica_.Contenuto().kind);
 }

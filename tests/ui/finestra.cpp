@@ -123,7 +123,7 @@ void Finestra::LeSchedeCambianoModo() {
 
 void Finestra::VociDelModoSpente() {
     Banco banco;
-    for (const char* nome : {"MNUMakeLimits", "MNUSaveImage", "MNUReportPDF", "MNUWaterfall"})
+    for (const char* nome : {"MNUMakeTabSubRange", "MNUSaveImage", "MNUReportPDF", "MNUWaterfall"})
         QVERIFY2(!banco.Voce(nome)->isEnabled(), nome);
     for (const char* nome : {"MNUOverwriteWarning", "MNURemoteLink", "CMBExit"})
         QVERIFY2(banco.Voce(nome)->isEnabled(), nome);
