@@ -98,6 +98,10 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
 
     Postazione postazione(ambiente, opzioni.dati, collegamento.VettoriPorta());
+    if (opzioni.stile != StileChiesto::Sistema)
+        postazione.finestra.FissaStile(opzioni.stile == StileChiesto::Scuro
+                                           ? QStringLiteral("dark")
+                                           : QStringLiteral("light"));
     postazione.Carica();
     if (const auto motivo = collegamento.Applica(opzioni.link, postazione.porta); !motivo.empty())
         return Rifiuta(motivo);

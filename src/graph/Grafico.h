@@ -9,6 +9,7 @@
 #include "graph/Colonne.h"
 #include "graph/Scala.h"
 #include "graph/Superficie.h"
+#include "records/Aspetto.h"
 #include "records/EnvRecord.h"
 
 namespace orvane {
@@ -20,6 +21,7 @@ struct TintaGrafico {
     bool PrintColors =
         false; ///< the print set of the grid's colours, always solid, two pixels wide
     double altezzaTesto = 11; ///< pixels
+    LineeVisibili linee = LineeVisibili::Tutte;
 };
 
 /// Where the grid lies in the picture, in pixels from its top left.

@@ -97,18 +97,31 @@ std::vector<Tacca> TaccheAsse(const ScalaGrafico& scala) {
     return tacche;
 }
 
-std::vector<LineaGriglia> LineeGriglia(const ScalaGrafico& scala) {
-    std::vector<LineaGriglia> linee = {
+std::vector<LineaGriglia> LineeCornice(const ScalaGrafico& scala) {
+    return {
         Orizzontale(scala, scala.basso, GenereLinea::Sub),
         Orizzontale(scala, scala.alto, GenereLinea::Sub),
         Verticale(scala, 0, GenereLinea::Sub),
         Verticale(scala, scala.larghezzaPixel, GenereLinea::Sub),
     };
+}
+
+std::vector<LineaGriglia> LineeInterne(const ScalaGrafico& scala) {
+    std::vector<LineaGriglia> linee;
     for (const Tacca& tacca : TaccheAsse(scala))
         linee.push_back(Verticale(scala, FreqToX(scala, tacca.freqMhz),
                                   tacca.decade ? GenereLinea::Principale : GenereLinea::Sub));
     for (const LivelloGriglia& livello : LivelliGriglia(scala, kPassoPunteggiate))
         linee.push_back(Orizzontale(scala, livello.mostrato, GenereLivello(livello.base)));
+    return linee;
+}
+
+std::vector<LineaGriglia> LineeGriglia(const ScalaGrafico& scala, LineeVisibili visibili) {
+    std::vector<LineaGriglia> linee = LineeCornice(scala);
+    if (visibili != LineeVisibili::Nessuna)
+        for (const LineaGriglia& linea : LineeInterne(scala))
+            if (visibili == LineeVisibili::Tutte || linea.genere == GenereLinea::Principale)
+                linee.push_back(linea);
     std::stable_sort(linee.begin(), linee.end(),
                      [](const auto& a, const auto& b) { return a.genere < b.genere; });
     return linee;
@@ -189,7 +202,7 @@ void Grid(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGrigl
     superficie.Rettangolo({0, 0}, fine, tinta.sfondo, 1);
     if (!ImpostaCoordinate(superficie, scala, dove))
         return;
-    for (const LineaGriglia& linea : LineeGriglia(scala))
+    for (const LineaGriglia& linea : LineeGriglia(scala, tinta.linee))
         superficie.Linea(linea.da, linea.a, PennaLinea(env, linea.genere, tinta.PrintColors));
 }
 

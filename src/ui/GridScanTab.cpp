@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -31,18 +32,25 @@ GridScanTab::GridScanTab(ScanTable& tabella, bool modificabile, QWidget* padre)
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 14);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(30);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    QFont carattere = horizontalHeader()->font();
-    carattere.setPointSizeF(carattere.pointSizeF() * 0.85);
-    carattere.setWeight(QFont::DemiBold);
-    horizontalHeader()->setFont(carattere);
+    ScalaTesto(100);
     connect(this, &QTableView::clicked, this, &GridScanTab::ApriCellaScanTab);
     connect(static_cast<DelegatoScan*>(itemDelegate()), &DelegatoScan::Confermata, this,
             &GridScanTab::Avanza, Qt::QueuedConnection);
+}
+
+void GridScanTab::ScalaTesto(int percento) {
+    QFont carattere = QApplication::font();
+    carattere.setPointSizeF(carattere.pointSizeF() * percento / 100);
+    setFont(carattere);
+    verticalHeader()->setDefaultSectionSize(QFontMetrics(carattere).height() + 14);
+    carattere.setPointSizeF(carattere.pointSizeF() * 0.85);
+    carattere.setWeight(QFont::DemiBold);
+    horizontalHeader()->setFont(carattere);
+    DisponiColonne();
 }
 
 void GridScanTab::ApriCellaScanTab(const QModelIndex& cella) {
@@ -110,6 +118,10 @@ void GridScanTab::keyPressEvent(QKeyEvent* evento) {
 
 void GridScanTab::resizeEvent(QResizeEvent* evento) {
     QTableView::resizeEvent(evento);
+    DisponiColonne();
+}
+
+void GridScanTab::DisponiColonne() {
     const int largo = std::max(viewport()->width(), fontMetrics().averageCharWidth() * 96);
     int somma = 0;
     for (const int quota : kQuote)

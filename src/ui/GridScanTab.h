@@ -13,6 +13,8 @@ public:
     GridScanTab(ScanTable& tabella, bool modificabile, QWidget* padre);
 
     ModelloScan& Modello() { return *modello_; }
+    /// Size of the text, in per cent of the application's.
+    void ScalaTesto(int percento);
     /// Opens the list of detectors over a cell.
     void ApriDetector(const QModelIndex& cella);
 
@@ -23,6 +25,7 @@ protected:
 private:
     void ApriCellaScanTab(const QModelIndex& cella);
     void Avanza();
+    void DisponiColonne();
 
     ModelloScan* modello_;
 };

@@ -13,7 +13,6 @@
 #include "link/Protocollo.h"
 #include "ui/FrmRemoteLink.h"
 #include "ui/InitForm.h"
-#include "ui/MenuConsole.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
 
@@ -32,7 +31,8 @@ MainForm::MainForm(Scrivania& scrivania, ScanRecord& scan) : scrivania_(scrivani
                           .remoteLink = [this] { ApriFrmRemoteLink(); },
                           .esci = [this] { close(); },
                           .guida = [this] { MostraGuida(); },
-                          .tabelle = [this](AzioneMenu azione) { ApriTabelle(azione); }});
+                          .tabelle = [this](AzioneMenu azione) { ApriTabelle(azione); },
+                          .finestra = [this](AzioneMenu azione) { ApriFinestra(azione); }});
     CreaFinestra();
     CreaScorciatoie();
     CollegaPannelli();
@@ -89,6 +89,7 @@ QWidget* MainForm::CreaBarraModi() {
 
 QWidget* MainForm::CreaCentro() {
     auto* centro = new QSplitter(Qt::Horizontal, this);
+    centro->setObjectName(QStringLiteral("SplitCentro"));
     centro->setChildrenCollapsible(false);
     archivio_ = new PannelloArchivio(scrivania_, centro);
     auto* mezzo = new QWidget(centro);
@@ -167,6 +168,11 @@ void MainForm::CollegaPannelli() {
     connect(sweep_, &PannelloSweep::TabellaCambiata, this, &MainForm::MostraAsseTabella);
     connect(comuni_, &ColonnaComuni::ScalaCambiata, quadro_, &MainPict::DrawGrid);
     connect(archivio_, &PannelloArchivio::DetectorCambiato, this, &MainForm::DisegnaMisura);
+    for (const auto* divisore : findChildren<QSplitter*>())
+        connect(divisore, &QSplitter::splitterMoved, &attesaMisure_, qOverload<>(&QTimer::start));
+    attesaMisure_.setSingleShot(true);
+    attesaMisure_.setInterval(400);
+    connect(&attesaMisure_, &QTimer::timeout, this, &MainForm::SalvaMisurePannelli);
     attesa_.setSingleShot(true);
     attesa_.setInterval(60);
     connect(archivio_, &PannelloArchivio::MisuraScelta, &attesa_, qOverload<>(&QTimer::start));
@@ -187,7 +193,7 @@ void MainForm::Carica() {
     AggiornaSegni(*menuBar(), scrivania_.setup);
     comuni_->Carica();
     sweep_->Carica();
-    quadro_->DrawGrid();
+    ApplicaAspetto();
     AggiornaEtichette();
 }
 

@@ -9,6 +9,8 @@
 
 #include "console/Archivio.h"
 #include "console/Console.h"
+#include "data/CaricaSalva.h"
+#include "records/Aspetto.h"
 #include "ui/ColonnaComuni.h"
 #include "ui/GridScanTab.h"
 #include "ui/MainPict.h"
@@ -29,6 +31,8 @@ public:
 
     /// To be called once, before anything is shown.
     void Collega(Console& console, CatalogoPorte& catalogo);
+    /// The style of this session, "light" or "dark", whatever the record says.
+    void FissaStile(const QString& stile) { stileFisso_ = stile; }
     /// Shows the loaded records.
     void Carica();
     /// What was repaired at the start, told once the window stands.
@@ -71,6 +75,7 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
 
 private:
     void CreaFinestra();
@@ -91,6 +96,22 @@ private:
     void ApriFrmRemoteLink();
     void MostraGuida();
     void ApriTabelle(AzioneMenu azione);
+    void ApriFinestra(AzioneMenu azione);
+    void AbilitaVociFerme(bool ferma);
+    void ApriFrmAspect();
+    void ApriFrmColors();
+    void ApplicaAspetto();
+    void DisponiPannelli();
+    void SalvaMisurePannelli();
+    bool PannelliLiberi();
+    void ApriPannello();
+    void SalvaPannello(bool chiedi);
+    void MostraPannello();
+    std::optional<std::string> ScegliFile(const RichiestaFile& richiesta, bool salva,
+                                          const QString& titolo, const std::string& nome);
+    void ApriTesto(const std::string& percorso, const QString& titolo,
+                   const std::optional<std::string>& testo);
+    void ApriCommento();
     QString DescrizioneLink() const;
     QString Unita() const;
 
@@ -116,8 +137,11 @@ private:
     ColonnaComuni* comuni_ = nullptr;
     RigaStato* stato_ = nullptr;
     QTimer timerTask_;
-    QTimer attesa_; ///< gathers quick moves through the archive list
+    QTimer attesaMisure_; ///< gathers the moves of a border between panels
+    QTimer attesa_;       ///< gathers quick moves through the archive list
 
+    Aspetto aspetto_; ///< as the window shows it
+    QString stileFisso_;
     MisuraAperta misura_;
     ScanTable righeAperte_{}; ///< lines of the open measure, as the foot of the archive shows them
     double stopRigaMhz_ = 0;  ///< where the last line drawn has ended

@@ -5,7 +5,6 @@
 #include "base/Percorsi.h"
 #include "graph/Scala.h"
 #include "ui/MainForm.h"
-#include "ui/MenuConsole.h"
 #include "ui/Testi.h"
 
 namespace orvane {
@@ -57,6 +56,7 @@ void MainForm::MostraPannelli(bool archivio, bool sweep, bool vivo) {
 
 void MainForm::EntraArchivio() {
     MostraPannelli(true, false, false);
+    AbilitaVociPannello(*menuBar());
     quadro_->ImpostaInvito(tr("No measure is open"));
     if (archivio_->ElencaArchivio() == 0)
         return ApriMisuraScelta({});
@@ -67,6 +67,7 @@ void MainForm::EntraArchivio() {
 
 void MainForm::EntraSweep() {
     MostraPannelli(false, true, false);
+    AbilitaVociPannello(*menuBar());
     misura_ = {};
     quadro_->MostraDetector({true, true, true, true, true, true});
     quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));

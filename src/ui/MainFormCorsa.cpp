@@ -54,6 +54,7 @@ void MainForm::MostraFase(FaseCorsa fase) {
     schede_->setEnabled(ferma);
     if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
         voce->setEnabled(ferma);
+    AbilitaVociFerme(ferma);
     if (fase == FaseCorsa::Arresto)
         stato_->MostraMessaggio(tr("Stopping"));
     AggiornaEtichette();

@@ -9,6 +9,7 @@
 
 #include "base/Numeri.h"
 #include "platform/qt/SuperficieQt.h"
+#include "records/ColoriGrafico.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
 
@@ -16,17 +17,9 @@ namespace orvane {
 namespace {
 
 constexpr int kRidisegnoMs = 40;
-constexpr double kOpacitaGriglia = 0.35;
 /// The axis of a picture that has nothing to show.
 constexpr double kStartVuoto = 0.15;
 constexpr double kStopVuoto = 30;
-
-int32_t Colore(const QColor& c) {
-    return Rgb(c.red(), c.green(), c.blue());
-}
-QColor Colore(int32_t c) {
-    return {c & 0xFF, c >> 8 & 0xFF, c >> 16 & 0xFF};
-}
 
 struct RigaLettura {
     QString testo;
@@ -81,12 +74,15 @@ double MainPict::LivelloA(double y) const {
     return (scala_.alto - parte * (scala_.alto - scala_.basso)) / 100;
 }
 
-TintaGrafico MainPict::TinteGrafico() const {
-    const QFontMetricsF metrica(font());
-    return {.sfondo = Colore(Tinta(palette(), Ruolo::Grafico)),
-            .scritte = Colore(Tinta(palette(), Ruolo::Tenue)),
-            .PrintColors = false,
-            .altezzaTesto = metrica.height() * 0.72 * Rapporto()};
+ModoQuadro MainPict::Modo() const {
+    return {
+        .env = env_, .aspetto = LeggiAspetto(env_), .tavolozza = palette(), .rapporto = Rapporto()};
+}
+
+QFont MainPict::CarattereLettura() const {
+    QFont carattere = font();
+    carattere.setPointSizeF(carattere.pointSizeF() * LeggiAspetto(env_).testoGrafico / 100);
+    return carattere;
 }
 
 void MainPict::PreparaScala() {
@@ -98,7 +94,7 @@ void MainPict::PreparaScala() {
     QPainter p(&sfondo_);
     p.setFont(font());
     SuperficieQt superficie(p, punti.width(), punti.height());
-    griglia_ = DisponiGriglia(superficie, TinteGrafico());
+    griglia_ = DisponiGriglia(superficie, TinteQuadro(Modo(), font()));
     scala_ =
         SetScaleGraph(setup_, deposito_.Start(), deposito_.Stop(), true, griglia_.larghezza, 0);
     deposito_.ImpostaLarghezza(std::max(1, static_cast<int>(griglia_.larghezza)));
@@ -106,32 +102,25 @@ void MainPict::PreparaScala() {
 
 void MainPict::DisegnaSfondo() {
     PreparaScala();
-    sfondo_.fill(Tinta(palette(), Ruolo::Finestra));
     QPainter p(&sfondo_);
     p.setFont(font());
-    p.fillRect(QRectF(griglia_.sinistra, griglia_.alto, griglia_.larghezza, griglia_.altezza),
-               Tinta(palette(), Ruolo::Grafico));
-    SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
-    const TintaGrafico tinte = TinteGrafico();
-    // The grid's colours come from the panel, for light and dark alike: thinned, so that the traces
-    // stand out on either ground.
-    p.setOpacity(kOpacitaGriglia);
-    Grid(superficie, scala_, griglia_, env_, tinte);
-    p.setOpacity(1);
+    const ModoQuadro modo = Modo();
     const int unita = std::clamp<int>(setup_.UnitId, 0, 7);
-    GridLabel(superficie, scala_, griglia_, tinte, TabellaUnitaGrafico()[size_t(unita)].testo);
+    DisegnaGrigliaQuadro(p, sfondo_.size(), modo, TinteQuadro(modo, font()), scala_, griglia_,
+                         TabellaUnitaGrafico()[size_t(unita)].testo);
     sfondoValido_ = true;
 }
 
 void MainPict::DisegnaTracce(QPainter& p) {
     SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
-    const double spessore = std::max(1.0, std::round(1.2 * Rapporto()));
+    const ModoQuadro modo = Modo();
+    p.setRenderHint(QPainter::Antialiasing, modo.aspetto.lisce != 0);
     // Peak lies highest: it is drawn first, so that it hides none of the others.
     for (size_t d = 0; d < kNumDetector; ++d) {
         const auto detector = static_cast<DetectorKind>(d);
         if (const ColonneTraccia* traccia = deposito_.Traccia(detector); traccia && mostrati_[d])
             DisegnaTraccia(superficie, scala_, griglia_, *traccia,
-                           {.colore = ColoreTraccia(env_, detector), .larghezza = spessore});
+                           PennaTraccia(modo, ColoreTraccia(env_, detector)));
     }
 }
 
@@ -139,7 +128,8 @@ void MainPict::DisegnaLettura(QPainter& p) {
     if (puntataX_ < 0 || deposito_.Vuoto())
         return;
     const double mhz = XToFreq(scala_, puntataX_);
-    std::vector<RigaLettura> righe = {{TestoFrequenza(mhz), Tinta(palette(), Ruolo::Testo)}};
+    std::vector<RigaLettura> righe = {
+        {TestoFrequenza(mhz), ColoreQt(env_.GraphColors[colore::kLettura])}};
     for (size_t d = 0; d < kNumDetector; ++d) {
         const auto livello = deposito_.Livello(static_cast<DetectorKind>(d), mhz);
         if (!livello || !mostrati_[d])
@@ -147,9 +137,10 @@ void MainPict::DisegnaLettura(QPainter& p) {
         const double valore = *livello / 100.0 + scala_.UnitOffset;
         righe.push_back({QStringLiteral("%1   %2").arg(QLatin1String(kNomiDetector[d]),
                                                        Q(TestoFisso(valore, 2))),
-                         Colore(ColoreTraccia(env_, static_cast<DetectorKind>(d)))});
+                         ColoreQt(ColoreTraccia(env_, static_cast<DetectorKind>(d)))});
     }
-    const QFontMetricsF metrica(font());
+    p.setFont(CarattereLettura());
+    const QFontMetricsF metrica(p.font());
     const double passo = std::ceil(metrica.height() * 1.25);
     double largo = 0;
     for (const auto& riga : righe)

@@ -14,6 +14,7 @@
 #include "records/EnvRecord.h"
 #include "records/SetupRecord.h"
 #include "ui/DepositoTracce.h"
+#include "ui/DisegnoQuadro.h"
 
 namespace orvane {
 
@@ -29,7 +30,7 @@ public:
     void Aggiungi(double freqMhz, const SampleRecord& campione);
     /// Which detectors are drawn.
     void MostraDetector(const std::array<bool, kNumDetector>& quali);
-    /// `DrawGrid`: after a change of unit, dynamics or reference.
+    /// `DrawGrid`: after a change of unit, dynamics, reference, colours or aspect.
     void DrawGrid();
     /// What stands in the middle while there is no trace.
     void ImpostaInvito(const QString& testo);
@@ -53,7 +54,8 @@ protected:
     void leaveEvent(QEvent* evento) override;
 
 private:
-    TintaGrafico TinteGrafico() const;
+    ModoQuadro Modo() const;
+    QFont CarattereLettura() const;
     void PreparaScala();
     void DisegnaSfondo();
     void DisegnaTracce(QPainter& p);

@@ -21,6 +21,11 @@ constexpr VoceMenu kTabelle(const char* nome, const char* testo, AzioneMenu azio
 constexpr VoceMenu kMarca(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kSegno, segno, nullptr, false};
 }
+/// A window that opens from the main window; `delModo` until a mode allows it.
+constexpr VoceMenu kFinestra(const char* menu, const char* nome, const char* testo,
+                             AzioneMenu azione, bool delModo) {
+    return {menu, nullptr, nome, testo, azione, nullptr, nullptr, delModo};
+}
 /// A mark whose effect belongs to what is not there yet.
 constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
@@ -28,9 +33,9 @@ constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t Set
 
 using S = SetupRecord;
 constexpr VoceMenu kMenu[] = {
-    kDopo("File", "MNUOpenPanel", "Open Panel…"),
-    kDopo("File", "MNUSavePanel", "Save Panel"),
-    kDopo("File", "MNUSaveAs", "Save Panel As…"),
+    kFinestra("File", "MNUOpenPanel", "Open Panel…", AzioneMenu::ApriPannello, true),
+    kFinestra("File", "MNUSavePanel", "Save Panel", AzioneMenu::SalvaPannello, true),
+    kFinestra("File", "MNUSaveAs", "Save Panel As…", AzioneMenu::SalvaPannelloCome, true),
     kSeparatore("File"),
     kDopo("File", "MNURetrieve", "Retrieve…"),
     kSeparatore("File"),
@@ -45,8 +50,8 @@ constexpr VoceMenu kMenu[] = {
     kDopo("Make", "MNUMakeTabSubRange", "Sub Range Table…"),
     kSeparatore("Make"),
     kTabelle("MNUInstallLimits", "Install Limit Library…", AzioneMenu::Libreria),
-    kDopo("Report", "mnuHeaderTitle", "Header Title…"),
-    kDopo("Report", "mnuTestComment", "Test Comment…"),
+    kFinestra("Report", "mnuHeaderTitle", "Header Title…", AzioneMenu::Intestazione, true),
+    kFinestra("Report", "mnuTestComment", "Test Comment…", AzioneMenu::Commento, true),
     kSeparatore("Report"),
     {"Report", "MNUReport", "MNUReportTXT", "Text…", kNessuna, nullptr, nullptr, true},
     {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
@@ -65,6 +70,9 @@ constexpr VoceMenu kMenu[] = {
     kMarcaSpenta("MNUGX2207FFTSwept", "GX2207 FFT Swept", &S::GX2207FFTSwept),
     kMarcaSpenta("MNUZoomModeA", "Zoom Mode A", &S::ZoomModeA),
     kMarcaSpenta("MNUZoomModeB", "Zoom Mode B", &S::ZoomModeB),
+    kSeparatore("Options"),
+    kFinestra("Options", "MNUAspect", "Aspect…", AzioneMenu::Aspetto, false),
+    kFinestra("Options", "MNUColors", "Colours…", AzioneMenu::Colori, false),
     {"Help", nullptr, "MNUAbout", "About Orvane Console", AzioneMenu::Guida, nullptr, nullptr,
      false},
 };
@@ -109,6 +117,10 @@ void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
     case AzioneMenu::Libreria:
         QObject::connect(azione, &QAction::triggered,
                          [f = azioni.tabelle, quale = voce.azione] { f(quale); });
+        return;
+    default:
+        QObject::connect(azione, &QAction::triggered,
+                         [f = azioni.finestra, quale = voce.azione] { f(quale); });
         return;
     }
 }
@@ -158,6 +170,12 @@ void DisabilitaVociModo(const QMenuBar& barra) {
     for (const VoceMenu& voce : kMenu)
         if (voce.delModo)
             Azione(barra, voce.nome)->setEnabled(false);
+}
+
+void AbilitaVociPannello(const QMenuBar& barra) {
+    for (const VoceMenu& voce : kMenu)
+        if (voce.delModo && voce.azione >= AzioneMenu::ApriPannello)
+            Azione(barra, voce.nome)->setEnabled(true);
 }
 
 } // namespace orvane

@@ -19,7 +19,15 @@ enum class AzioneMenu {
     Fattori,
     TabFreq,
     TabFreqMast,
-    Libreria
+    Libreria,
+    // Windows of the main window's own.
+    ApriPannello,
+    SalvaPannello,
+    SalvaPannelloCome,
+    Intestazione,
+    Commento,
+    Aspetto,
+    Colori
 };
 
 struct VoceMenu {
@@ -39,7 +47,8 @@ struct AzioniMenu {
     std::function<void()> remoteLink;
     std::function<void()> esci;
     std::function<void()> guida;
-    std::function<void(AzioneMenu)> tabelle; ///< `Limiti` to `Libreria`
+    std::function<void(AzioneMenu)> tabelle;  ///< `Limiti` to `Libreria`
+    std::function<void(AzioneMenu)> finestra; ///< all others
 };
 
 void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
@@ -47,5 +56,7 @@ void CreaMenu(QMenuBar& barra, const AzioniMenu& azioni);
 void AggiornaSegni(const QMenuBar& barra, const SetupRecord& setup);
 /// Switches off what a mode must enable.
 void DisabilitaVociModo(const QMenuBar& barra);
+/// Panels and texts, in the modes that let them be edited.
+void AbilitaVociPannello(const QMenuBar& barra);
 
 } // namespace orvane

@@ -146,6 +146,21 @@ void Avanzamento(QPainter& p, const QStyleOptionProgressBar& o) {
     Arrotondato(p, pieno, Tinta(o.palette, Ruolo::Accento), QColor(), alto / 2);
 }
 
+/// Across only: a groove, filled up to a round grip.
+void Cursore(QPainter& p, const QStyleOptionSlider& o, const QRectF& presa) {
+    constexpr double kAlto = 4;
+    const double lato = qMin(presa.width(), presa.height());
+    QRectF grana(0, 0, lato, lato);
+    grana.moveCenter(presa.center());
+    const QRectF solco(o.rect.x(), grana.center().y() - kAlto / 2, o.rect.width(), kAlto);
+    Arrotondato(p, solco, Tinta(o.palette, Ruolo::BordoCampo), QColor(), kAlto / 2);
+    const QColor colore = Tinta(o.palette, Acceso(o) ? Ruolo::Accento : Ruolo::Spento);
+    QRectF pieno = solco;
+    pieno.setRight(grana.center().x());
+    Arrotondato(p, pieno, colore, QColor(), kAlto / 2);
+    Arrotondato(p, grana, colore, Fuoco(o) ? Tinta(o.palette, Ruolo::Testo) : QColor(), lato / 2);
+}
+
 } // namespace
 
 StileConsole::StileConsole() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -231,6 +246,9 @@ void StileConsole::drawComplexControl(ComplexControl controllo, const QStyleOpti
         return Freccia(*p, subControlRect(controllo, o, SC_ComboBoxArrow, oggetto),
                        Tinta(o->palette, ruolo));
     }
+    if (const auto* cursore = qstyleoption_cast<const QStyleOptionSlider*>(o);
+        controllo == CC_Slider && cursore && cursore->orientation == Qt::Horizontal)
+        return Cursore(*p, *cursore, subControlRect(controllo, o, SC_SliderHandle, oggetto));
     if (controllo == CC_ScrollBar) {
         p->fillRect(o->rect, Tinta(o->palette, Ruolo::Finestra));
         const QRect presa = subControlRect(controllo, o, SC_ScrollBarSlider, oggetto);

@@ -12,6 +12,10 @@
 namespace orvane {
 namespace {
 
+/// Of a label: the role that it speaks in. Of the application: whether the system's look is dark.
+constexpr const char* kProprietaTesto = "ruoloTesto";
+constexpr const char* kProprietaSistema = "sistemaScuro";
+
 struct VoceTinta {
     Ruolo ruolo;
     QRgb chiara;
@@ -83,9 +87,21 @@ QPalette Tavolozza(bool scura) {
 }
 
 /// Qt 6.4 does not tell the system's colour scheme; the palette that it starts with does.
-bool Scuro(const QApplication& applicazione, StileChiesto stile) {
-    return stile == StileChiesto::Sistema ? TavolozzaScura(applicazione.palette())
-                                          : stile == StileChiesto::Scuro;
+bool SistemaScuro(QApplication& applicazione) {
+    if (!applicazione.property(kProprietaSistema).isValid())
+        applicazione.setProperty(kProprietaSistema, TavolozzaScura(applicazione.palette()));
+    return applicazione.property(kProprietaSistema).toBool();
+}
+
+bool Scuro(QApplication& applicazione, StileChiesto stile) {
+    const bool sistema = SistemaScuro(applicazione);
+    return stile == StileChiesto::Sistema ? sistema : stile == StileChiesto::Scuro;
+}
+
+void RidipingiRuoli() {
+    for (QWidget* oggetto : QApplication::allWidgets())
+        if (const QVariant ruolo = oggetto->property(kProprietaTesto); ruolo.isValid())
+            ImpostaRuoloTesto(*oggetto, static_cast<Ruolo>(ruolo.toInt()));
 }
 
 void ImpostaCarattere(QApplication& applicazione) {
@@ -113,16 +129,22 @@ bool TavolozzaScura(const QPalette& tavolozza) {
 
 void ApplicaTema(QApplication& applicazione, StileChiesto stile) {
     const bool scuro = Scuro(applicazione, stile);
-    applicazione.setStyle(new StileConsole);
+    if (!dynamic_cast<StileConsole*>(QApplication::style())) {
+        applicazione.setStyle(new StileConsole);
+        ImpostaCarattere(applicazione);
+    }
     applicazione.setPalette(Tavolozza(scuro));
     QToolTip::setPalette(Tavolozza(scuro));
-    ImpostaCarattere(applicazione);
+    RidipingiRuoli();
 }
 
 void ImpostaRuoloTesto(QWidget& oggetto, Ruolo ruolo) {
-    QPalette tavolozza = oggetto.palette();
-    tavolozza.setColor(QPalette::WindowText, Tinta(tavolozza, ruolo));
-    tavolozza.setColor(QPalette::Text, Tinta(tavolozza, ruolo));
+    oggetto.setProperty(kProprietaTesto, static_cast<int>(ruolo));
+    // The parts that are not the role's stay free to follow the application.
+    const QPalette fondo = QApplication::palette();
+    QPalette tavolozza;
+    tavolozza.setColor(QPalette::WindowText, Tinta(fondo, ruolo));
+    tavolozza.setColor(QPalette::Text, Tinta(fondo, ruolo));
     oggetto.setPalette(tavolozza);
 }
 

@@ -37,7 +37,7 @@ QColor Tinta(const QPalette& tavolozza, Ruolo ruolo);
 bool TavolozzaScura(const QPalette& tavolozza);
 
 enum class StileChiesto { Sistema, Chiaro, Scuro };
-/// Style, palette and font of the whole application.
+/// Style, palette and font of the whole application; may be called again, with windows open.
 void ApplicaTema(QApplication& applicazione, StileChiesto stile);
 
 /// Makes a label speak in the colour of a role, whichever style is on.

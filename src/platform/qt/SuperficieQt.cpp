@@ -26,6 +26,9 @@ __attribute__((target("avx"))) void AzzeraMetaAlte() {
 }
 #endif
 
+/// Points of a wide line that are stroked at once.
+constexpr size_t kPezzoSpezzata = 16;
+
 QPen PennaQt(const Penna& penna) {
     QPen qt(ColoreQt(penna.colore), std::max(penna.larghezza, 0.0));
     qt.setCapStyle(Qt::FlatCap);
@@ -172,7 +175,13 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
         pixel.push_back(Pixel(p));
     painter_.setPen(PennaQt(penna));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawPolyline(pixel.data(), static_cast<int>(pixel.size()));
+    // Qt strokes a wide line as one shape, at a cost that grows with the square of its points. The
+    // pieces share a segment, so that the joint between them is round too.
+    const bool larga = penna.larghezza * orizzontale_.scala > 1 && penna.tratto == Tratto::Pieno;
+    const size_t pezzo = larga ? kPezzoSpezzata : pixel.size();
+    for (size_t i = 0; i + 1 < pixel.size(); i += pezzo)
+        painter_.drawPolyline(pixel.data() + i,
+                              static_cast<int>(std::min(pezzo + 2, pixel.size() - i)));
 }
 
 QRectF SuperficieQt::RettangoloPixel(Punto angolo, Punto opposto) const {
