@@ -93,6 +93,8 @@ void ColonnaComuni::Carica() {
 }
 
 void ColonnaComuni::Segui(const ReceiverModel& modello, Modalita scheda) {
+    if (modello == modello_ && scheda == scheda_)
+        return;
     modello_ = modello;
     scheda_ = scheda;
     if (scheda == Modalita::Analyzer || scheda == Modalita::Manual)
