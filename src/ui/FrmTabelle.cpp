@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kNessuno = "NONE";
 constexpr size_t kMinimoVisibili = 2;
-constexpr StatoControllo kSenzaTabella = {false, "Choose a table first"};
+constexpr const char* kSenzaTabella = "Choose a table first";
 
 bool Vuoto(const std::string& nome) {
     return nome.empty() || UgualiSenzaMaiuscole(nome, kNessuno);
@@ -109,13 +109,14 @@ void FrmTabelle::CaricaRiga(size_t slot, const QStringList& nomi) {
     const size_t quale = RigaDelNome(voci, Nome(slot));
     RiempiLista(*riga.lista, voci, quale);
     const bool manca = static_cast<qsizetype>(quale) >= nomi.size();
+    riga.lista->Segna(manca);
     riga.lista->setToolTip(manca       ? tr("%1 is not on disk").arg(Q(Nome(slot)))
                            : quale > 0 ? Q(Nome(slot))
                                        : tr(genere_.aiuto));
     const QSignalBlocker zitta(riga.acceso);
     riga.acceso->setChecked(Acceso(slot) != 0 && quale > 0);
     riga.acceso->setEnabled(quale > 0);
-    riga.acceso->setToolTip(quale > 0 ? QString() : Q(kSenzaTabella.perche));
+    riga.acceso->setToolTip(quale > 0 ? QString() : tr(kSenzaTabella));
 }
 
 void FrmTabelle::Carica() {

@@ -35,7 +35,7 @@ public:
 private:
     struct Riga {
         QCheckBox* acceso = nullptr;
-        QComboBox* lista = nullptr;
+        ListaColonna* lista = nullptr;
     };
     void CreaRiga(size_t slot);
     void CreaSomma();

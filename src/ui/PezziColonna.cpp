@@ -1,7 +1,10 @@
 #include "ui/PezziColonna.h"
 
+#include <QStylePainter>
+
 #include "link/ElencoAtt.h"
 #include "ui/Moduli.h"
+#include "ui/Tema.h"
 #include "ui/Testi.h"
 
 namespace orvane {
@@ -10,6 +13,10 @@ namespace {
 // A widget that is a row, and the tool tip of a control that is enabled.
 constexpr const char* kRiga = "riga";
 constexpr const char* kAiuto = "aiuto";
+// Of the column's width.
+constexpr int kParti = 20;
+constexpr int kPartiDidascalia = 9;
+constexpr int kPartiCasella = 4;
 
 QWidget* RigaDi(QWidget* controllo) {
     QWidget* padre = controllo->parentWidget();
@@ -17,6 +24,27 @@ QWidget* RigaDi(QWidget* controllo) {
 }
 
 } // namespace
+
+void ListaColonna::Segna(bool manca) {
+    manca_ = manca;
+    update();
+}
+
+void ListaColonna::paintEvent(QPaintEvent*) {
+    QStylePainter p(this);
+    QStyleOptionComboBox o;
+    initStyleOption(&o);
+    p.drawComplexControl(QStyle::CC_ComboBox, o);
+    const int largo =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &o, QStyle::SC_ComboBoxEditField, this)
+            .width();
+    o.currentText = fontMetrics().elidedText(o.currentText, Qt::ElideRight, largo - 2);
+    if (manca_ && isEnabled())
+        for (const auto ruolo : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+            o.palette.setColor(ruolo, Tinta(palette(), Ruolo::Errore));
+    p.drawControl(QStyle::CE_ComboBoxLabel, o);
+}
 
 GruppoColonna::GruppoColonna(const QString& nome, const QString& titolo, QWidget* padre)
     : QWidget(padre), colonna_(new QVBoxLayout(this)) {
@@ -29,16 +57,20 @@ GruppoColonna::GruppoColonna(const QString& nome, const QString& titolo, QWidget
 void GruppoColonna::AggiungiRiga(const QString& didascalia, QWidget* controllo) {
     auto* etichetta = new QLabel(didascalia, this);
     etichetta->setBuddy(controllo);
-    AggiungiRiga(etichetta, controllo);
+    AggiungiRiga(etichetta, controllo, kPartiDidascalia);
 }
 
-void GruppoColonna::AggiungiRiga(QWidget* didascalia, QWidget* controllo) {
+void GruppoColonna::AggiungiRiga(QCheckBox* casella, QWidget* controllo) {
+    AggiungiRiga(casella, controllo, kPartiCasella);
+}
+
+void GruppoColonna::AggiungiRiga(QWidget* sinistra, QWidget* destra, int parti) {
     auto* pezzo = new QWidget(this);
     pezzo->setProperty(kRiga, true);
     auto* riga = new QHBoxLayout(pezzo);
     riga->setContentsMargins(0, 0, 0, 0);
-    riga->addWidget(didascalia, 9);
-    riga->addWidget(controllo, 11);
+    riga->addWidget(sinistra, parti);
+    riga->addWidget(destra, kParti - parti);
     colonna_->addWidget(pezzo);
 }
 
@@ -57,9 +89,9 @@ QComboBox* GruppoColonna::AggiungiLista(const char* nome, const QString& testo,
     return lista;
 }
 
-QComboBox* GruppoColonna::CreaLista(const QString& nome, const QString& accessibile,
-                                    const QString& aiuto) {
-    auto* lista = Nomina(new QComboBox(this), nome, accessibile, aiuto);
+ListaColonna* GruppoColonna::CreaLista(const QString& nome, const QString& accessibile,
+                                       const QString& aiuto) {
+    auto* lista = Nomina(new ListaColonna(this), nome, accessibile, aiuto);
     lista->setProperty(kAiuto, aiuto);
     lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lista->setMinimumContentsLength(9);

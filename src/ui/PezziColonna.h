@@ -19,6 +19,20 @@ struct ScritturaComuni {
     std::function<void(ParComune)> scritto;
 };
 
+/// A list whose text ends in an ellipsis where it does not fit; in the colour of a fault where what
+/// it names is not there.
+class ListaColonna : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+    void Segna(bool manca);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    bool manca_ = false;
+};
+
 /// A group with its heading; its rows go into the layout.
 class GruppoColonna : public QWidget {
     Q_OBJECT
@@ -28,14 +42,16 @@ public:
 protected:
     /// A caption with its control, halves of the column.
     void AggiungiRiga(const QString& didascalia, QWidget* controllo);
-    /// A control in the caption's place too, such as a box that switches the other.
-    void AggiungiRiga(QWidget* didascalia, QWidget* controllo);
+    /// A box in the caption's place, which leaves the control more room.
+    void AggiungiRiga(QCheckBox* casella, QWidget* controllo);
     QCheckBox* AggiungiCasella(const char* nome, const QString& testo, const QString& aiuto);
     QComboBox* AggiungiLista(const char* nome, const QString& testo, const QString& aiuto);
     /// A list that stands in no row yet.
-    QComboBox* CreaLista(const QString& nome, const QString& accessibile, const QString& aiuto);
+    ListaColonna* CreaLista(const QString& nome, const QString& accessibile, const QString& aiuto);
 
 private:
+    void AggiungiRiga(QWidget* sinistra, QWidget* destra, int parti);
+
     QVBoxLayout* colonna_;
 };
 
