@@ -149,16 +149,22 @@ constexpr VoceInvio kOrdine[] = {
     {ParComune::RFOut, [](ComuniVivi& c, Modalita) { InviaGruppoGeneratore(c); }},
 };
 
+/// Frequencies of a record that was never used are limited without a question.
 void LimitaFrequenze(ComuniVivi& c, Modalita modalita) {
     SetupRecord& setup = c.setup;
-    if (Manual(modalita)) {
-        const auto mhz = DeterminaLimFreqMaK3X3360(c, setup.FreqMa);
-        setup.FreqMa = mhz.value_or(setup.FreqMa);
-        return;
+    const ModelCaps& caps = c.r.caps[Manual(modalita) ? 1 : 0];
+    if (Manual(modalita) && setup.FreqMa == 0) {
+        setup.FreqMa = caps.FMinMa;
+    } else if (Manual(modalita)) {
+        setup.FreqMa = DeterminaLimFreqMaK3X3360(c, setup.FreqMa).value_or(setup.FreqMa);
+    } else {
+        const CampoFrequenza ora = {setup.GraphStart, setup.GraphStop};
+        const CampoFrequenza tutto = {caps.FMinAn, caps.FMaxAn};
+        const CampoFrequenza campo =
+            ora.stopMhz == 0 ? tutto : DeterminaLimFStartFStopAnK3X(c, ora).value_or(ora);
+        setup.GraphStart = campo.startMhz;
+        setup.GraphStop = campo.stopMhz;
     }
-    const auto campo = DeterminaLimFStartFStopAnK3X(c, {setup.GraphStart, setup.GraphStop});
-    setup.GraphStart = campo ? campo->startMhz : setup.GraphStart;
-    setup.GraphStop = campo ? campo->stopMhz : setup.GraphStop;
 }
 
 } // namespace

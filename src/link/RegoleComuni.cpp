@@ -93,8 +93,9 @@ RegoleComuni DeterminaRegoleComuni(const SetupRecord& setup, const ReceiverModel
     AbilitaDisabilitaPSPAPLK3X(regole, modello);
     AbilitaDisabilitaPSPAPL3360(regole, modello);
     regole.filtri = ElencoBW(modello, caso.filtri);
-    regole.rigaFiltro = RigaFiltroCoupled(setup, modello, caso.filtri)
-                            .value_or(RigaFiltro(regole.filtri, setup.BWIFText, setup.BWIFId));
+    const auto coupled = RigaFiltroCoupled(setup, modello, caso.filtri);
+    regole.filtroCoupled = coupled.has_value();
+    regole.rigaFiltro = coupled.value_or(RigaFiltro(regole.filtri, setup.BWIFText, setup.BWIFId));
     regole.generatore = ControllaImpGen(modello, caso.scheda);
     const bool antenna = setup.AntennaGX2207 != 0;
     regole.attenuatori = ElencoAtt(modello, antenna);

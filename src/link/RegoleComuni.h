@@ -59,6 +59,7 @@ struct CasoComuni {
 struct RegoleComuni {
     ListaFiltri filtri = {};
     size_t rigaFiltro = 0;
+    bool filtroCoupled = false;        ///< it follows the span
     std::vector<int> attenuatori = {}; ///< dB, `kAttAuto` first
     size_t rigaAtt = 0;
     std::span<const int> minAtt = {}; ///< dB

@@ -43,7 +43,8 @@ void FrmFrontEnd::CreaListe() {
         SetupRecord& setup = scrittura_.scrivania.setup;
         setup.BWIFId = static_cast<int16_t>(riga);
         setup.BWIFText = regole_.filtri[static_cast<size_t>(riga)].nome;
-        setup.Coupled = 0; // chosen by hand, it no longer follows the span
+        if (regole_.filtroCoupled) // chosen by hand, it no longer follows the span
+            setup.Coupled = 0;
         scrittura_.scritto(ParComune::BWIF);
     });
     connect(attenuatore_, &QComboBox::activated, this, [this](int riga) {

@@ -163,6 +163,24 @@ TEST(LimitiFrequenza, OkSwitchesTheReceiverAndMeetsItAnew) {
     EXPECT_EQ(b.vista.detti, (Testi{"switch", "scala"}));
 }
 
+TEST(RegoleComuni, WithAReceiverBehindThem) {
+    BancoComuni b({}, {{"#?APS*", "APS=ON\r\n"}});
+    b.setup.GraphStart = 0.15;
+    b.setup.GraphStop = 9000;
+    b.setup.Coupled = 1;
+    EXPECT_TRUE(ControllaParComuni(b.c, {.scheda = Analyzer}).filtroCoupled);
+    EXPECT_EQ(b.peer.scritti, Testi{"#?APS*"});
+    EXPECT_EQ(b.setup.PreSel, 1);
+    EXPECT_EQ(b.setup.GraphStop, 30.1);
+    EXPECT_EQ(b.setup.BWIFText, "300 kHz"); // of a span of 29.95 MHz
+    EXPECT_EQ(b.vista.detti, Testi{"comuni"});
+
+    BancoComuni nuovo(kAlto);
+    ControllaParComuni(nuovo.c, {.scheda = Manual, .filtri = {.modalita = Manual}});
+    EXPECT_EQ(nuovo.setup.FreqMa, 28);
+    EXPECT_EQ(nuovo.Riquadri(), Testi{});
+}
+
 TEST(ImpLocali, EverySettingGoesOutInItsOrder) {
     BancoComuni b({});
     b.setup.GraphStart = 0.15;
