@@ -92,7 +92,8 @@ ScalaGrafico SetScaleGraph(const SetupRecord& setup, double startMhz, double sto
     s.larghezzaPixel = larghezzaPixel;
     s.RangeDB = DinamicaCent(setup.DinamicaId) - kMarginiCent;
     s.TopLevel = s.RangeDB + setup.RefLevel * kCentPerDb + refOffset - DinamicaCent(0);
-    s.AttLevel = setup.Attenuator * kCentPerDb;
+    // An attenuator on AUTO is stored as -1 and moves nothing.
+    s.AttLevel = std::max<int>(setup.Attenuator, 0) * kCentPerDb;
     const float offset = ImpostaUnita(setup.UnitId);
     s.UnitOffset = static_cast<double>(offset);
     ImpostaLimitiScala(offset, s.ScaleTop, s.ScaleFloor);

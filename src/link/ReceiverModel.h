@@ -31,6 +31,8 @@ struct ReceiverModel {
     std::string SerialNumber;
     float FMinLink = -1; ///< MHz; -1 before it is read
     float FMaxLink = -1; ///< MHz
+
+    bool operator==(const ReceiverModel&) const = default;
 };
 
 /// Limits of one live mode. Frequencies in MHz.

@@ -38,7 +38,7 @@ struct SetupRecord {
     std::string BWIFText;
     int16_t BWIFId = 0;
     int16_t MinAtt = 0;
-    int16_t Attenuator = 0; ///< dB
+    int16_t Attenuator = 0; ///< dB; -1 for AUTO
     int16_t PreSel = 0;
     int16_t PreAmp = 0;
     std::array<int16_t, 4> DetectorAn{};
