@@ -49,8 +49,9 @@ Segnalazioni ControllaFstartFstopScanTab(const ContestoControlli& c, bool chiede
 /// 0 for any other.
 int DetIDMacLocRBWScanTab(const ReceiverModel& modello, double startMhz, double stopMhz,
                           int idReceiver = 1, int idLocal = 2);
-/// The first line whose filter, or detectors with it, the receiver does not have; codes 1 to 6. The
-/// mark is on the RBW cell, with a Mast-Table and its pre-scan detectors on the Ancillary cell.
+/// The first line whose filter, or detectors with it, the receiver does not have: marked on the RBW
+/// cell, with codes 1 to 6. A line counts by its own range where one instrument has them all; else
+/// the start of the first line decides for the whole table.
 Segnalazioni ControllaRBWScanTab(const ContestoControlli& c);
 
 /// Lines that have frequencies in common: one question; touching spans have none.
@@ -73,11 +74,12 @@ void LimitaPassi(ScanTable& tabella);
 /// Which hardware must be switched on or off by hand ahead of a line; empty for none.
 std::optional<UnitaRichiesta> UnitaPerRiga(const ReceiverModel& modello, double startMhz,
                                            double stopMhz);
-/// Shows the marks of a finding in the grid.
+/// Shows which cells of a line are marked on Start and Stop; none clears them.
 using SegnaCelle = std::function<void(const std::vector<CellaErrata>&)>;
-/// Asks for the unit that line `indice` of `tabella` needs, opens the link again, identifies anew,
-/// and asks again while the unit does not fit. False: the user cancelled, and `AbbandonaComandi` is
-/// set. Nothing is shown or sent where the unit in charge fits.
+/// Asks for the unit that line `indice` of `c.tabella` needs, opens the link again, identifies
+/// anew, and asks again while the unit does not fit. `c` looks at the model of `r`. False: the run
+/// ends; `AbbandonaComandi` is set where no unit was found. Nothing is shown or sent where the unit
+/// in charge fits.
 bool ControlloRigaPerRigaST(Ricevitore& r, const ContestoControlli& c, size_t indice,
                             const SegnaCelle& segna);
 
