@@ -318,7 +318,7 @@ class ProvaSweep(ProvaStrada):
 
     def test_sovrascrive(self):
         """With the warning off the old traces give way, all of them."""
-        self.Tabella("T", BREVE, BREVE)
+        self.Tabella("T", BREVE, "--start 2 --stop 3 --step 0.01")
         setup = SetupRecord(3)
         Campo(setup, 3610, "h", 0)
         (self.dati / "Panels" / "Untitled.EAM").write_bytes(setup)
