@@ -50,6 +50,11 @@ EsitoLimiteSD GiudicaCoppia(const LimFacRecord& limite, const LimFacRecord& limi
     return Giudica(punti->size(), kMinFrequenze);
 }
 
+EsitoLimiteSD GiudicaLimite(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
+    return limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
+                     : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
+}
+
 std::string TestoEsito(EsitoLimiteSD esito) {
     switch (esito) {
     case EsitoLimiteSD::NonCombinabile:
@@ -63,6 +68,12 @@ std::string TestoEsito(EsitoLimiteSD esito) {
         break;
     }
     return {};
+}
+
+Riquadro Obiezione(EsitoLimiteSD esito) {
+    if (esito == EsitoLimiteSD::Buono)
+        return {};
+    return {.testo = TestoEsito(esito), .icona = Icona::Esclamazione};
 }
 
 } // namespace
@@ -95,12 +106,15 @@ std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& li
     return punti;
 }
 
+Riquadro ObiezioneLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
+    return Obiezione(GiudicaLimite(limite, limiteDSD));
+}
+
 EsitoLimiteSD ControlloNMaxPuntiLimSD(Ambiente& ambiente, const LimFacRecord& limite,
                                       const LimFacRecord* limiteDSD) {
-    const EsitoLimiteSD esito = limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
-                                          : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
+    const EsitoLimiteSD esito = GiudicaLimite(limite, limiteDSD);
     if (esito != EsitoLimiteSD::Buono)
-        ambiente.Mostra({.testo = TestoEsito(esito), .icona = Icona::Esclamazione});
+        ambiente.Mostra(Obiezione(esito));
     return esito;
 }
 

@@ -28,8 +28,10 @@ std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& li
 
 enum class EsitoLimiteSD { Buono, NonCombinabile, TroppiPunti, PocheFrequenze };
 
-/// Whether the receiver can take the limit of a Smart line, or with `limiteDSD` the two joined;
-/// where it cannot, a box has said so.
+/// Why the receiver cannot take the limit of a Smart line, or with `limiteDSD` the two joined;
+/// without text where it can.
+Riquadro ObiezioneLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD = nullptr);
+/// Whether it can; where not, a box has said so.
 EsitoLimiteSD ControlloNMaxPuntiLimSD(Ambiente& ambiente, const LimFacRecord& limite,
                                       const LimFacRecord* limiteDSD = nullptr);
 
