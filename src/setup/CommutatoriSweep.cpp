@@ -5,6 +5,7 @@
 #include <span>
 
 #include "base/Numeri.h"
+#include "setup/RegoleScan.h"
 
 namespace orvane {
 namespace {
@@ -47,6 +48,10 @@ bool Esegui(Ricevitore& r, Commutazione commutazione, std::string& testo) {
 }
 
 } // namespace
+
+void SelLineParaSweep(ScanTable& tabella, const SetupRecord& setup) {
+    CorreggiLineScanTab(tabella, AncillaryDi(setup), setup.InsLossOn != 0);
+}
 
 std::vector<PassataSweep> PassateDellaRiga(const ScanLine& riga, int ancillaryKind) {
     std::vector<PassataSweep> passate;

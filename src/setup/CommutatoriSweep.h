@@ -8,8 +8,12 @@
 
 #include "link/Comandi.h"
 #include "records/ScanRecord.h"
+#include "records/SetupRecord.h"
 
 namespace orvane {
+
+/// Brings the selections of all lines in line with what is attached, without a question.
+void SelLineParaSweep(ScanTable& tabella, const SetupRecord& setup);
 
 /// One pass of a line: through a line of a network, with a polarisation, or plain.
 struct PassataSweep {

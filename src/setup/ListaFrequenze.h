@@ -20,7 +20,7 @@ std::vector<double> CreaElencoFreqTab(const FrequencyTable& tabella, const ScanL
 std::string PercorsoFreqTab(std::string_view nome);
 
 /// Frequency of step k of a line by the table that lies in the data tree; empty behind the last.
-/// Remembers the line that it was last asked for.
+/// For one reading of a table: it remembers the line that it was last asked for, by its place.
 std::function<std::optional<double>(const ScanLine&, size_t)>
 FrequenzeDaTabella(const AlberoDati& albero);
 

@@ -6,6 +6,8 @@
 #include "data/Panels.h"
 #include "link/Identificazione.h"
 #include "setup/ComandiScan.h"
+#include "setup/CommutatoriSweep.h"
+#include "setup/RegoleScan.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
 #include "verbs/Json.h"
@@ -67,11 +69,10 @@ bool Riconosci(Ricevitore& r) {
 }
 
 /// The table as the checks would leave it.
-void Riordina(ScanTable& tabella) {
+void Riordina(ScanTable& tabella, const SetupRecord& setup) {
     CompattaScanTable(tabella);
-    for (size_t i = 0; i < RigheInUso(tabella); ++i)
-        if (tabella[i].AutoStep == 1)
-            tabella[i].Step = DetStepAutoDaRBW(tabella[i].RbwId, tabella[i]);
+    RicalcolaPassiAuto(tabella);
+    SelLineParaSweep(tabella, setup);
 }
 
 EsitoVerbo Racconta(Banco& banco, const ScanTable& tabella) {
@@ -101,7 +102,7 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole) {
     if (!CaricaPanelEST(banco.scrivania, percorso, scan))
         return kGuastoFile;
     ControllaScan(scan);
-    Riordina(scan.Righe);
+    Riordina(scan.Righe, banco.scrivania.setup);
     if (!Riconosci(banco.ricevitore))
         return Guasto(banco, EsitoDelLink(banco),
                       banco.interrotto ? "stopped" : "no receiver answered");
