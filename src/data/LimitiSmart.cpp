@@ -50,32 +50,6 @@ EsitoLimiteSD GiudicaCoppia(const LimFacRecord& limite, const LimFacRecord& limi
     return Giudica(punti->size(), kMinFrequenze);
 }
 
-EsitoLimiteSD GiudicaLimite(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
-    return limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
-                     : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
-}
-
-std::string TestoEsito(EsitoLimiteSD esito) {
-    switch (esito) {
-    case EsitoLimiteSD::NonCombinabile:
-        return "Cannot combine the limit";
-    case EsitoLimiteSD::TroppiPunti:
-        return "Too many points in the limit\rMax " +
-               TestoIntero(static_cast<long long>(kMaxPuntiLimite)) + " points";
-    case EsitoLimiteSD::PocheFrequenze:
-        return "Too few limit frequencies\rMin 2 different frequencies";
-    case EsitoLimiteSD::Buono:
-        break;
-    }
-    return {};
-}
-
-Riquadro Obiezione(EsitoLimiteSD esito) {
-    if (esito == EsitoLimiteSD::Buono)
-        return {};
-    return {.testo = TestoEsito(esito), .icona = Icona::Esclamazione};
-}
-
 } // namespace
 
 std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& limite,
@@ -106,15 +80,31 @@ std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& li
     return punti;
 }
 
-Riquadro ObiezioneLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
-    return Obiezione(GiudicaLimite(limite, limiteDSD));
+EsitoLimiteSD GiudicaLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
+    return limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
+                     : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
+}
+
+std::string TestoLimiteSD(EsitoLimiteSD esito) {
+    switch (esito) {
+    case EsitoLimiteSD::NonCombinabile:
+        return "Cannot combine the limit";
+    case EsitoLimiteSD::TroppiPunti:
+        return "Too many points in the limit\rMax " +
+               TestoIntero(static_cast<long long>(kMaxPuntiLimite)) + " points";
+    case EsitoLimiteSD::PocheFrequenze:
+        return "Too few limit frequencies\rMin 2 different frequencies";
+    case EsitoLimiteSD::Buono:
+        break;
+    }
+    return {};
 }
 
 EsitoLimiteSD ControlloNMaxPuntiLimSD(Ambiente& ambiente, const LimFacRecord& limite,
                                       const LimFacRecord* limiteDSD) {
-    const EsitoLimiteSD esito = GiudicaLimite(limite, limiteDSD);
+    const EsitoLimiteSD esito = GiudicaLimiteSD(limite, limiteDSD);
     if (esito != EsitoLimiteSD::Buono)
-        ambiente.Mostra(Obiezione(esito));
+        ambiente.Mostra({.testo = TestoLimiteSD(esito), .icona = Icona::Esclamazione});
     return esito;
 }
 

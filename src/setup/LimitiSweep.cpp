@@ -1,13 +1,12 @@
 #include "setup/LimitiSweep.h"
 
-#include <algorithm>
-
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "data/CaricamentoTabelle.h"
 #include "data/Interpolazione.h"
 #include "data/LimitiSmart.h"
 #include "setup/Controlli.h"
+#include "setup/Segnala.h"
 
 namespace orvane {
 namespace {
@@ -35,17 +34,11 @@ std::vector<ComandoPronto> RigheDoppie(const std::vector<PuntoDSD>& punti) {
 
 } // namespace
 
-bool EDoppioSmart(const ScanLine& riga) {
-    constexpr auto kDueDetector = 2;
-    return riga.Smart == 1 && riga.LimitDSDOn == 1 &&
-           std::count(riga.Detector.begin(), riga.Detector.end(), 1) == kDueDetector;
-}
-
 std::optional<NomiLimite> DetImpostazioneLimite(const ScanLine& riga, const LimiteRicevitore& ha) {
     if (riga.Smart != 1 || riga.LimitOn != 1)
         return std::nullopt;
     NomiLimite nomi{.limite = Rifila(riga.Limit)};
-    if (EDoppioSmart(riga))
+    if (prevolo::RigaDoppioSmart(riga) && riga.LimitDSDOn == 1)
         nomi.dsd = Rifila(riga.LimitDSD);
     return nomi == ha.nomi ? std::nullopt : std::optional(nomi);
 }
@@ -61,12 +54,13 @@ LimiteComposto ComponiLimite(const AlberoDati& albero, const NomiLimite& nomi) {
     const LimitTable limite = LimiteDaNome(albero, nomi.limite);
     const bool doppio = !nomi.dsd.empty();
     const LimitTable dsd = doppio ? LimiteDaNome(albero, nomi.dsd) : LimitTable{};
-    LimiteComposto composto;
-    composto.obiezione = ObiezioneLimiteSD(limite, doppio ? &dsd : nullptr);
-    if (!composto.obiezione.testo.empty())
-        return composto;
-    composto.comandi =
-        doppio ? RigheDoppie(*CreaElencoFreqLimDSD(limite, dsd)) : RigheSingole(limite);
+    const EsitoLimiteSD esito = GiudicaLimiteSD(limite, doppio ? &dsd : nullptr);
+    if (esito != EsitoLimiteSD::Buono)
+        return {.comandi = {},
+                .obiezione = {.testo = TestoLimiteSD(esito), .icona = Icona::Esclamazione}};
+    LimiteComposto composto{.comandi = doppio ? RigheDoppie(*CreaElencoFreqLimDSD(limite, dsd))
+                                              : RigheSingole(limite),
+                            .obiezione = {}};
     composto.comandi.push_back({Impostazione::FineLimite, nomi.limite});
     return composto;
 }

@@ -24,8 +24,6 @@ struct LimiteRicevitore {
     std::optional<float> margine; ///< dB; empty while it may have any
 };
 
-/// Smart with two detectors, each with a limit of its own.
-bool EDoppioSmart(const ScanLine& riga);
 /// The limit of a line where the receiver has another; empty for lines without Smart or limit.
 std::optional<NomiLimite> DetImpostazioneLimite(const ScanLine& riga, const LimiteRicevitore& ha);
 /// The margin of a Smart line where the receiver has, or may have, another.
