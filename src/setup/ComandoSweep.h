@@ -1,17 +1,16 @@
 // From a scan line to what the receiver is told before it runs.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "data/Scrivania.h"
 #include "link/Comandi.h"
+#include "link/Dinamica.h"
 #include "link/ReceiverModel.h"
 #include "records/FreqTableRecord.h"
 #include "records/ScanRecord.h"
-#include "records/SetupRecord.h"
 
 namespace orvane {
 
@@ -49,15 +48,5 @@ ComandoSweep DeterminaComandoSweep(Ricevitore& r, Scrivania& s, const ScanLine& 
 /// What the receiver is told ahead of the first line, in order.
 std::vector<ComandoPronto> ComponiImpostazioniCorsa(const ReceiverModel& modello,
                                                     const SetupRecord& setup);
-
-/// What `#SDIS` carries: dynamics at most 120, reference 65 to 145.
-struct Dinamica {
-    int dinamica = 0;
-    int riferimento = 0;
-};
-Dinamica CalcolaDinamica(const ReceiverModel& modello, const SetupRecord& setup);
-/// dB of the vertical range by `DinamicaId`; an index beyond the list is the last one.
-inline constexpr std::array<int, 7> kDinamicaTable = {80, 100, 120, 140, 160, 180, 200};
-int DinamicaDb(int dinamicaId);
 
 } // namespace orvane

@@ -38,7 +38,7 @@ std::optional<NomiLimite> DetImpostazioneLimite(const ScanLine& riga, const Limi
     if (riga.Smart != 1 || riga.LimitOn != 1)
         return std::nullopt;
     NomiLimite nomi{.limite = Rifila(riga.Limit)};
-    if (prevolo::RigaDoppioSmart(riga) && riga.LimitDSDOn == 1)
+    if (RigaDoppioSmart(riga) && riga.LimitDSDOn == 1)
         nomi.dsd = Rifila(riga.LimitDSD);
     return nomi == ha.nomi ? std::nullopt : std::optional(nomi);
 }
