@@ -27,18 +27,6 @@ int ValoreAlPunto(FactorTable& fattore, float freqHz) {
     return ValoreFattore(fattore, freqHz);
 }
 
-/// Why the receiver cannot take a joint table; without text where it can, or where there is none.
-Riquadro ObiezioneAiFattori(std::span<const FactorTable> fattori, size_t punti) {
-    if (fattori.empty())
-        return {};
-    if (punti > kMaxPuntiFattore)
-        return Avviso("Too many frequencies\rMax " + TestoIntero(kMaxPuntiFattore) +
-                      " frequencies");
-    if (punti < kMinFrequenze)
-        return Avviso("Too few factor frequencies\rMin 2 different frequencies");
-    return {};
-}
-
 /// One row of the upload: three short tries.
 bool InviaRiga(Ricevitore& r, const ComandoPronto& pronto) {
     const ReceiverCommand comando = Componi(pronto.quale, pronto.argomenti);
@@ -97,6 +85,17 @@ std::vector<ComandoPronto> ComponiCFSweep(std::span<const PuntoFattore> punti) {
     if (!comandi.empty())
         comandi.push_back({Impostazione::FineFattore, std::string(kNomeFattoreSweep)});
     return comandi;
+}
+
+Riquadro ObiezioneAiFattori(std::span<const FactorTable> fattori, size_t punti) {
+    if (fattori.empty())
+        return {};
+    if (punti > kMaxPuntiFattore)
+        return Avviso("Too many frequencies\rMax " + TestoIntero(kMaxPuntiFattore) +
+                      " frequencies");
+    if (punti < kMinFrequenze)
+        return Avviso("Too few factor frequencies\rMin 2 different frequencies");
+    return {};
 }
 
 Segnalazioni ControllaCFSweep(const ContestoControlli& contesto) {

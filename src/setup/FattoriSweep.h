@@ -28,6 +28,9 @@ std::vector<PuntoFattore> UnisciFattori(std::span<const FactorTable> fattori);
 /// The rows of the joint table and the name that closes it; nothing for a table without points.
 std::vector<ComandoPronto> ComponiCFSweep(std::span<const PuntoFattore> punti);
 
+/// Why the receiver cannot take a joint table of `punti` points; without text where it can, and
+/// where no factor is in use.
+Riquadro ObiezioneAiFattori(std::span<const FactorTable> fattori, size_t punti);
 /// Whether the receiver can take the joint table. Finds nothing where no factor is in use.
 Segnalazioni ControllaCFSweep(const ContestoControlli& contesto);
 

@@ -66,14 +66,21 @@ bool SettaGX2207Swept(Ricevitore& r) {
     return Setta(r, Impostazione::Swept);
 }
 
-bool ControllaGX2207FFTSwept(Ricevitore& r, const ScanTable& tabella) {
-    if (r.modello.TipoFrontEnd != kFrontEndFFT)
-        return true;
+std::optional<Impostazione> ModoGX2207(const ReceiverModel& modello, const ScanTable& tabella) {
+    if (modello.TipoFrontEnd != kFrontEndFFT)
+        return std::nullopt;
     const bool conFFT = std::any_of(tabella.begin(), tabella.end(), [](const ScanLine& riga) {
         return riga.Start != 0 && ControllaScanFFT(riga);
     });
+    return conFFT ? Impostazione::FFT : Impostazione::Swept;
+}
+
+bool ControllaGX2207FFTSwept(Ricevitore& r, const ScanTable& tabella) {
+    const auto modo = ModoGX2207(r.modello, tabella);
+    if (!modo)
+        return true;
     // No query tells in which of the two the unit is: it is told each time.
-    if (!(conFFT ? SettaGX2207FFT(r) : SettaGX2207Swept(r)))
+    if (!Setta(r, *modo))
         return false;
     LeggiModello(r, Modalita::Sweep, 1);
     return !r.stato.AbbandonaComandi;

@@ -1,6 +1,7 @@
 // The front-end of the GX2207 kind brought to what a sweep needs.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "data/Scrivania.h"
@@ -14,6 +15,8 @@ namespace orvane {
 bool SettaGX2207FFT(Ricevitore& r);
 bool SettaGX2207Swept(Ricevitore& r);
 
+/// What a front-end of kind 3 is to be told for this table; empty for every other receiver.
+std::optional<Impostazione> ModoGX2207(const ReceiverModel& modello, const ScanTable& tabella);
 /// FFT operation where a line in use is an FFT scan, else swept operation; the receiver is then
 /// identified anew. Does nothing unless the front-end is of kind 3. False as above.
 bool ControllaGX2207FFTSwept(Ricevitore& r, const ScanTable& tabella);

@@ -6,9 +6,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kMinimoMhz = 0.00001;
-constexpr double kMinimoFrontEndMhz = 0.009;
-constexpr double kMassimoRicevitoreMhz = 30;
+constexpr GammaMhz kGammaFrontEnd = {0.009, kGammaRicevitore.massimo};
 constexpr double kInizioRadiatoMhz = 30;
 
 // By `UnitaEstensione`. The first one that holds a span is the one that it needs.
@@ -30,8 +28,8 @@ GammaMhz GammaDelModello(const ReceiverModel& modello) {
 }
 
 bool InGammaRicevitore(const ReceiverModel& modello, const ScanLine& riga) {
-    const double minimo = modello.TipoFrontEnd >= 1 ? kMinimoFrontEndMhz : kMinimoMhz;
-    return GammaMhz{minimo, kMassimoRicevitoreMhz}.Contiene(riga.Start, riga.Stop);
+    const GammaMhz& gamma = modello.TipoFrontEnd >= 1 ? kGammaFrontEnd : kGammaRicevitore;
+    return gamma.Contiene(riga.Start, riga.Stop);
 }
 
 /// One unit has to sweep the whole of a span.

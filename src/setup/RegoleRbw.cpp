@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kRicevitore = 1;
 constexpr int kRadiata = 2;
-constexpr GammaMhz kGammaRicevitore = {0.00001, 30};
 constexpr double kConfineAB = 0.15; // MHz
 constexpr double kFineQPeak = 1000;
 

@@ -19,6 +19,8 @@ struct GammaMhz {
         return startMhz >= minimo && stopMhz <= massimo;
     }
 };
+/// What the receiver sweeps without a front-end and without an extension unit.
+inline constexpr GammaMhz kGammaRicevitore = {0.00001, 30};
 /// `FreqLinkStart` to `FreqLinkStop`: what the link has told, else the radiated range of the model.
 /// Of a receiver with extension units it is what all of them reach together; a front-end has none.
 GammaMhz GammaRadiata(const ReceiverModel& modello);

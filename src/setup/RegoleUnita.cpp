@@ -6,8 +6,6 @@
 namespace orvane {
 namespace {
 
-constexpr GammaMhz kRicevitore = {0.00001, 30};
-
 constexpr int kNessuna = -1;
 
 /// What is switched on ahead of a radiated line, by the unit in charge and the end of the span.
@@ -52,9 +50,9 @@ std::optional<UnitaRichiesta> UnitaPerRiga(const ReceiverModel& modello, double 
                                            double stopMhz) {
     if (!HaUnitaAMano(modello))
         return std::nullopt;
-    if (kRicevitore.Contiene(startMhz, stopMhz)) {
+    if (kGammaRicevitore.Contiene(startMhz, stopMhz)) {
         if (modello.EstensioneAttiva)
-            return UnitaRichiesta::SoloRicevitore;
+            return SoloRicevitore;
         return std::nullopt;
     }
     const int inCarica = modello.EstensioneAttiva ? modello.UnitaEstensione : kNessuna;

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "link/ElencoAtt.h"
 #include "link/ReceiverModel.h"
 #include "records/ScanRecord.h"
 
@@ -22,7 +23,6 @@ struct VoceRbw {
 inline constexpr int kNumRbw = 16;
 /// By `RbwId`. The code of "9 kHz" depends on the model: `DeterminaIDRbwSweep`.
 const std::array<VoceRbw, kNumRbw>& TabellaRbw();
-inline constexpr std::array<int, 6> kMinAttDb = {0, 10, 20, 30, 40, 50};
 
 /// A band of the picker; `seguenti` are the bands of the further rows that it inserts.
 struct VoceBanda {

@@ -1,16 +1,14 @@
 // `SSTabComuni`: the column of settings at the right of the picture.
 #pragma once
 
-#include <functional>
-
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
+#include <QFileSystemWatcher>
 #include <QScrollArea>
 
-#include "data/Scrivania.h"
-
-class QVBoxLayout;
+#include "ui/FrmAncillary.h"
+#include "ui/FrmFrontEnd.h"
+#include "ui/FrmGenerator.h"
+#include "ui/FrmLivello.h"
+#include "ui/FrmTabelle.h"
 
 namespace orvane {
 
@@ -21,30 +19,39 @@ public:
 
     /// Shows the record as it is.
     void Carica();
+    /// Follows the receiver that was met last, and the tab; the live mode is the last one entered.
+    void Segui(const ReceiverModel& modello, Modalita scheda);
     /// While a run is on, what the receiver was told stays as it is.
     void Abilita(bool si);
 
 Q_SIGNALS:
     /// The scale of the picture is another one.
     void ScalaCambiata();
+    /// The lines of the scan table have other line switches to choose from.
+    void AncillaryCambiato();
+    /// The user has changed a setting: a `ParComune`. The panel is saved.
+    void Cambiato(orvane::ParComune quale);
 
 private:
-    void CreaFrontEnd(QVBoxLayout& colonna);
-    void CreaLivello(QVBoxLayout& colonna);
-    void CreaTabelle(QVBoxLayout& colonna);
-    void CreaGeneratore(QVBoxLayout& colonna);
-    void RiempiRiferimento();
-    void ScriviLivelloTG();
-    void SalvaERidisegna();
+    void Scritto(ParComune quale);
+    void CaricaTabelle();
+    void Sorveglia();
+    RegoleComuni Regole();
 
     Scrivania& scrivania_;
+    ScritturaComuni scrittura_;
+    ReceiverModel modello_;
+    Modalita scheda_ = Modalita::SweepsArchive;
+    Modalita modoVivo_ = Modalita::Analyzer;
+    bool inCorsa_ = false;
+    QFileSystemWatcher file_; ///< tables that come and go
     QWidget* interno_;
-    QComboBox* attenuatore_ = nullptr;
-    QComboBox* unita_ = nullptr;
-    QComboBox* riferimento_ = nullptr;
-    QComboBox* dinamica_ = nullptr;
-    QCheckBox* tracking_ = nullptr;
-    QLineEdit* livelloTG_ = nullptr;
+    FrmFrontEnd* frontEnd_;
+    FrmLivello* livello_;
+    FrmTabelle* limiti_;
+    FrmTabelle* fattori_;
+    FrmAncillary* ancillary_;
+    FrmGenerator* generatore_;
 };
 
 } // namespace orvane

@@ -165,6 +165,7 @@ void MainForm::CollegaPannelli() {
     connect(sweep_, &PannelloSweep::Esegui, this, &MainForm::Esegui);
     connect(sweep_, &PannelloSweep::TabellaCambiata, this, &MainForm::MostraAsseTabella);
     connect(comuni_, &ColonnaComuni::ScalaCambiata, quadro_, &MainPict::DrawGrid);
+    connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::AggiornaGriglia);
     connect(archivio_, &PannelloArchivio::DetectorCambiato, this, &MainForm::DisegnaMisura);
     attesa_.setSingleShot(true);
     attesa_.setInterval(60);

@@ -153,6 +153,7 @@ void MainForm::AggiornaEtichette() {
     chipLink_->Mostra(archivio ? QString() : DescrizioneLink());
     chipBatteria_->Mostra(archivio || batteria_.empty() ? QString()
                                                         : tr("Battery %1").arg(Q(batteria_)));
+    comuni_->Segui(r.modello, console_->stato.modalita);
     if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
         voce->setText(tr("Remote Link… (%1)").arg(DescrizioneLink()));
 }

@@ -23,6 +23,8 @@ constexpr std::array kVerbi = {
     VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
               "the run of a scan table, with progress on standard error; Ctrl-C is Stop",
               VerboSweep},
+    VoceVerbo{"command", "--scan NAME",
+              "what a scan table makes the console send, without sending it", VerboCommand},
     VoceVerbo{"archive", "", "the measures, with date and lines", VerboArchive},
     VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},

@@ -121,28 +121,5 @@ TEST(ComandoSweepTest, TheNineKilohertzFilterHasTwoCodes) {
     EXPECT_EQ(DeterminaIDRbwSweep({}, 16, 1), 0);
 }
 
-TEST(ComandoSweepTest, DynamicsAndReferenceLevel) {
-    struct {
-        bool estensione;
-        int16_t dinamicaId, livello, preAmp, preSel;
-        int dinamica, riferimento;
-    } const casi[] = {{true, 6, 100, 1, 0, 120, 145}, {true, 6, 101, 1, 0, 120, 145},
-                      {true, 1, 80, 0, 1, 100, 115},  {false, 0, 40, 0, 1, 80, 65},
-                      {false, 2, 90, 1, 1, 120, 100}, {false, 3, 90, 1, 0, 120, 110},
-                      {false, 99, 90, 0, 0, 120, 90}, {false, -1, -300, 0, 0, 80, 65}};
-    for (const auto& caso : casi) {
-        SetupRecord setup;
-        setup.DinamicaId = caso.dinamicaId;
-        setup.RefLevel = caso.livello;
-        setup.PreAmp = caso.preAmp;
-        setup.PreSel = caso.preSel;
-        const Dinamica d = CalcolaDinamica(caso.estensione ? Estesa(0) : ReceiverModel(), setup);
-        EXPECT_EQ(d.dinamica, caso.dinamica);
-        EXPECT_EQ(d.riferimento, caso.riferimento);
-    }
-    EXPECT_EQ(DinamicaDb(6), 200);
-    EXPECT_EQ(DinamicaDb(7), 200);
-}
-
 } // namespace
 } // namespace orvane

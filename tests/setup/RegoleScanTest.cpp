@@ -10,6 +10,7 @@ namespace {
 using namespace prova;
 using Celle = std::vector<CellaErrata>;
 using enum ColonnaScan;
+using enum DetectorKind;
 
 ReceiverModel K3X() {
     return {.HaK3XK6X = true, .ModoK3X = 1};
@@ -44,6 +45,14 @@ struct Tavolo {
     std::string_view rigaComando{};
 };
 
+/// Both frequency cells of some lines.
+Celle Frequenze(std::initializer_list<size_t> righe) {
+    Celle celle;
+    for (const size_t riga : righe)
+        celle.insert(celle.end(), {{riga, Start}, {riga, Stop}});
+    return celle;
+}
+
 ScanLine Span(double start, double stop) {
     return {.Start = start, .Stop = stop, .Detector = {1}};
 }
@@ -61,82 +70,67 @@ TEST(RegoleScan, AnEmptyTablePassesEveryRule) {
     }
 }
 
-TEST(RegoleScan, TheSelectionsOfALineSuitWhatIsAttached) {
+enum class Esame { Passa, Trovato, Segnato };
+
+/// Flags as digits: "0110" of the lines, then "11" of the polarisations.
+ScanLine ConFlag(const std::string& flag) {
+    ScanLine riga = Span(0.15, 30);
+    for (size_t i = 0; i < 4; ++i)
+        riga.LineSwitch[i] = flag[i] == '1';
+    for (size_t i = 0; i < 2; ++i)
+        riga.Antenna[i] = flag[5 + i] == '1';
+    return riga;
+}
+
+TEST(RegoleScan, TheSelectionsOfALineSuitWhatIsAttachedOrAreRepaired) {
+    using enum Esame;
     struct {
         const char* caso;
         int16_t kind;
-        std::array<int16_t, 4> linee;
-        std::array<int16_t, 2> antenna;
-        bool insLoss;
-        bool bene;
-        bool segno;
+        int16_t insLoss;
+        const char* flag;
+        Esame esame;
+        const char* dopo; ///< the repair
     } const casi[] = {
-        {"nothing attached", 0, {1, 1, 1, 1}, {1, 1}, false, true, false},
-        {"two lines", 1, {0, 1, 1, 0}, {1, 1}, false, true, false},
-        {"two lines, one of them", 6, {0, 0, 1, 0}, {0, 0}, false, true, false},
-        {"two lines with N", 1, {1, 1, 0, 0}, {0, 0}, false, false, true},
-        {"two lines with L3", 6, {0, 0, 0, 1}, {0, 0}, false, false, true},
-        {"two lines after an antenna", 1, {0, 0, 0, 0}, {1, 0}, false, false, false},
-        {"four lines after an antenna", 2, {0, 0, 0, 0}, {0, 1}, false, false, true},
-        {"antenna", 3, {0, 1, 1, 0}, {0, 1}, false, true, false},
-        {"antenna after a network", 3, {0, 1, 1, 0}, {0, 0}, false, false, true},
-        {"antenna, nothing selected", 3, {0, 0, 0, 0}, {0, 0}, false, false, true},
-        {"switch box", 4, {1, 0, 0, 0}, {1, 1}, false, true, false},
-        {"switch box after an antenna", 4, {0, 0, 0, 0}, {1, 0}, false, false, true},
-        {"Mast-Table", 5, {0, 0, 0, 0}, {0, 0}, false, true, false},
-        {"Mast-Table after a network", 5, {0, 1, 0, 0}, {0, 0}, false, false, true},
-        {"Mast-Table after an antenna", 5, {0, 0, 0, 0}, {0, 1}, false, false, true},
-        {"Insertion Loss", 2, {0, 1, 1, 0}, {0, 0}, true, true, false},
-        {"Insertion Loss, one line", 2, {0, 1, 0, 0}, {0, 0}, true, false, true},
-        {"Insertion Loss, a line too many", 2, {1, 1, 1, 0}, {0, 0}, true, false, true},
-        {"Insertion Loss, network unmarked", 1, {0, 1, 0, 0}, {0, 0}, true, false, false},
+        {"nothing attached", 0, 0, "1111 11", Passa, "0000 11"},
+        {"two lines", 1, 0, "0110 11", Passa, "0110 11"},
+        {"one of them", 6, 0, "0010 00", Passa, "0010 00"},
+        {"two lines with N", 1, 0, "1100 00", Segnato, "0100 00"},
+        {"two lines with L3", 6, 0, "0001 00", Segnato, "0110 00"},
+        {"two lines after an antenna", 1, 0, "0000 10", Trovato, "0110 10"},
+        {"four lines after an antenna", 2, 0, "0000 01", Segnato, "1111 01"},
+        {"antenna", 3, 0, "0110 01", Passa, "0110 01"},
+        {"antenna after a network", 3, 0, "0110 00", Segnato, "0110 11"},
+        {"antenna, nothing selected", 3, 0, "0000 00", Segnato, "0000 11"},
+        {"switch box", 4, 0, "1000 11", Passa, "1000 11"},
+        {"switch box after an antenna", 4, 0, "0000 10", Segnato, "1111 10"},
+        {"Mast-Table", 5, 0, "0000 00", Passa, "0000 00"},
+        {"Mast-Table after a network", 5, 0, "0100 00", Segnato, "0000 00"},
+        {"Mast-Table after an antenna", 5, 0, "0000 01", Segnato, "0000 00"},
+        {"Insertion Loss", 2, 1, "0110 00", Passa, "0110 00"},
+        {"Insertion Loss, one line", 2, 1, "0100 00", Segnato, "0110 00"},
+        {"Insertion Loss, a line too many", 2, 1, "1110 00", Segnato, "0110 00"},
+        {"Insertion Loss, network unmarked", 1, 1, "0100 00", Trovato, "0110 00"},
+        {"Insertion Loss, antenna", 3, 1, "0000 11", Segnato, "0110 11"},
     };
     for (const auto& caso : casi) {
         SCOPED_TRACE(caso.caso);
-        ScanLine riga = Span(0.15, 30);
-        riga.LineSwitch = caso.linee;
-        riga.Antenna = caso.antenna;
-        Tavolo t({riga});
+        Tavolo t({ConFlag(caso.flag)});
         t.setup.AncillaryKind = caso.kind;
-        t.setup.InsLossOn = caso.insLoss ? 1 : 0;
+        t.setup.InsLossOn = caso.insLoss;
         const Segnalazioni trovate = ControllaLineScanTab(t.C());
-        EXPECT_EQ(trovate.empty(), caso.bene);
-        if (trovate.empty())
-            continue;
-        EXPECT_EQ(trovate[0].celle, caso.segno ? Celle({{0, Ancillary}}) : Celle{});
-        EXPECT_EQ(trovate[0].esito, EsitoControllo::Chiede);
-        EXPECT_EQ(trovate[0].riquadro.testo,
-                  "Ancillary settings does not match.\r      Press yes to adjust them");
+        EXPECT_EQ(trovate.empty(), caso.esame == Passa);
+        if (!trovate.empty()) {
+            EXPECT_EQ(trovate[0].celle, caso.esame == Segnato ? Celle({{0, Ancillary}}) : Celle{});
+            EXPECT_EQ(trovate[0].esito, EsitoControllo::Chiede);
+            EXPECT_EQ(trovate[0].riquadro.testo,
+                      "Ancillary settings does not match.\r      Press yes to adjust them");
+        }
         CorreggiLineScanTab(t.tabella, caso.kind, caso.insLoss);
+        EXPECT_EQ(t.tabella[0].LineSwitch, ConFlag(caso.dopo).LineSwitch);
+        EXPECT_EQ(t.tabella[0].Antenna, ConFlag(caso.dopo).Antenna);
+        EXPECT_EQ(t.tabella[1].LineSwitch, ScanLine{}.LineSwitch) << "not in use";
         EXPECT_TRUE(ControllaLineScanTab(t.C()).empty()) << "asked again behind the repair";
-    }
-}
-
-TEST(RegoleScan, TheRepairKeepsWhatTheUserChose) {
-    struct {
-        int kind;
-        bool insLoss;
-        std::array<int16_t, 4> prima, dopo;
-        std::array<int16_t, 2> antenna, antennaDopo;
-    } const casi[] = {
-        {0, false, {1, 1, 1, 1}, {0, 0, 0, 0}, {1, 0}, {1, 0}},
-        {1, false, {1, 0, 0, 1}, {0, 1, 1, 0}, {1, 0}, {1, 0}},
-        {6, false, {1, 0, 1, 0}, {0, 0, 1, 0}, {0, 0}, {0, 0}},
-        {2, false, {0, 0, 0, 0}, {1, 1, 1, 1}, {0, 0}, {0, 0}},
-        {4, false, {0, 0, 1, 0}, {0, 0, 1, 0}, {0, 0}, {0, 0}},
-        {3, false, {0, 1, 0, 0}, {0, 1, 0, 0}, {0, 0}, {1, 1}},
-        {3, false, {0, 0, 0, 0}, {0, 0, 0, 0}, {0, 1}, {0, 1}},
-        {5, false, {1, 1, 0, 0}, {0, 0, 0, 0}, {1, 1}, {0, 0}},
-        {3, true, {1, 0, 0, 1}, {0, 1, 1, 0}, {0, 1}, {0, 1}},
-    };
-    for (const auto& caso : casi) {
-        ScanTable tabella{};
-        tabella[0] = {.Start = 1, .LineSwitch = caso.prima, .Antenna = caso.antenna};
-        tabella[1] = {.Start = 0, .LineSwitch = caso.prima, .Antenna = caso.antenna};
-        CorreggiLineScanTab(tabella, caso.kind, caso.insLoss);
-        EXPECT_EQ(tabella[0].LineSwitch, caso.dopo) << caso.kind;
-        EXPECT_EQ(tabella[0].Antenna, caso.antennaDopo) << caso.kind;
-        EXPECT_EQ(tabella[1].LineSwitch, caso.prima) << "a line that is not in use";
     }
 }
 
@@ -181,7 +175,7 @@ void ProvaFrequenze(const CasoFrequenze& caso, bool chiede) {
 }
 
 TEST(RegoleScan, TheFrequenciesOfALineLieInARangeOfTheModel) {
-    const Celle entrambe = {{0, Start}, {0, Stop}};
+    const Celle entrambe = Frequenze({0});
     const char* errore = "Start/Stop Frequency Error";
     const ReceiverModel frontEnd{.TipoFrontEnd = 1};
     const ReceiverModel k0x{.IsK0X = true, .HaK3XK6X = true, .ModoK3X = 2};
@@ -223,7 +217,7 @@ TEST(RegoleScan, TheFrequenciesOfALineLieInARangeOfTheModel) {
 }
 
 TEST(RegoleScan, AskedForOneLineTheUnitInChargeMustSweepIt) {
-    const Celle entrambe = {{0, Start}, {0, Stop}};
+    const Celle entrambe = Frequenze({0});
     const auto box = [](const std::string& nome) {
         return "*** KRV " + nome + " Connected ***\r  This span cannot be swept";
     };
@@ -249,9 +243,9 @@ TEST(RegoleScan, AskedForATableItsLinesBelongToOneRange) {
     const Segnalazioni trovate = ControllaFstartFstopScanTab(t.C(), true, 0, 9);
     ASSERT_EQ(trovate.size(), 2u);
     EXPECT_EQ(trovate[0].riquadro.pulsanti, Pulsanti::Ok);
-    EXPECT_EQ(trovate[0].celle, (Celle{{1, Start}, {1, Stop}}));
+    EXPECT_EQ(trovate[0].celle, Frequenze({1}));
     EXPECT_EQ(trovate[1].codice, kFreqErrata);
-    EXPECT_EQ(trovate[1].celle, (Celle{{1, Start}, {1, Stop}, {2, Start}, {2, Stop}}));
+    EXPECT_EQ(trovate[1].celle, Frequenze({1, 2}));
     EXPECT_TRUE(ControllaFstartFstopScanTab(t.C(), false, 0, 9).empty());
 }
 
@@ -269,6 +263,15 @@ TEST(RegoleScan, TheRangeOfALine) {
     EXPECT_EQ(DetIDMacLocRBWScanTab({}, 1, 2, 7, 8), 7);
     EXPECT_EQ(DetIDMacLocRBWScanTab({}, 31, 32, 7, 8), 8);
 }
+
+// By code; 3 has no rule.
+constexpr const char* kParoleRbw[] = {"",
+                                      "RBW not available",
+                                      "RBW not suitable",
+                                      "",
+                                      "Qpeak detector not suitable with this setup",
+                                      "QPeak, Rms-Avg detector not suitable with this setup",
+                                      "Detector not suitable with selected RBW"};
 
 struct CasoRbw {
     const char* caso;
@@ -294,6 +297,8 @@ TEST(RegoleScan, TheFiltersThatAModelDoesNotHave) {
     collegata.TipoFrontEnd = 2;
     ReceiverModel lenta{.TipoFrontEnd = 2, .ConFiltriMil = true};
     ReceiverModel gx{.TipoFrontEnd = 1, .ConFiltriMil = true};
+    const ScanLine aeB = Con(Span(0.1, 30), {QPeak});
+    const ScanLine d = Con(Span(300, 1000), {QPeak});
     const CasoRbw casi[] = {
         {"plain", {}, b, {0, 1, 10, 12, 13, 14, 15}, 1},
         {"plain, radiated", {}, c, {3, 10, 12, 13, 14, 15}, 1},
@@ -311,26 +316,15 @@ TEST(RegoleScan, TheFiltersThatAModelDoesNotHave) {
         {"3360/01", Modello3360(&ReceiverModel::Is3360_01), b, {0, 1, 12, 13, 14, 15}, 1},
         {"3360/02", Modello3360(&ReceiverModel::Is3360_02), c, {0, 2, 3, 12, 13, 14, 15}, 1},
         {"3360/03", Modello3360(&ReceiverModel::Is3360_03), c, {2, 3, 12, 13, 14, 15}, 1},
-        {"QPeak in A", mil, Con(Span(0.009, 0.15), {DetectorKind::QPeak}), {2, 5, 6, 7, 8, 9}, 4},
-        {"QPeak in B", mil, Con(b, {DetectorKind::QPeak}), {3, 5, 6, 7, 8, 9}, 4},
-        {"QPeak over A and B",
-         mil,
-         Con(Span(0.1, 30), {DetectorKind::QPeak}),
-         {2, 3, 5, 6, 7, 8, 9},
-         4},
-        {"QPeak in C", {}, Con(c, {DetectorKind::QPeak}), {0, 2, 5, 6, 7, 8, 9}, 4},
-        {"QPeak to 1 GHz",
-         {},
-         Con(Span(300, 1000), {DetectorKind::QPeak}),
-         {0, 1, 2, 5, 6, 7, 8, 9},
-         4},
-        {"QPeak and Rms-Avg with Mil",
-         mil,
-         Con(b, {DetectorKind::QPeak, DetectorKind::Rms, DetectorKind::RmsAvg}),
-         {12, 13, 14, 15},
-         5},
-        {"Rms-Avg in B", {}, Con(b, {DetectorKind::RmsAvg}), {5, 6, 7, 8, 9}, 2},
-        {"C-Avg in C", {}, Con(c, {DetectorKind::CAvg}), {0, 2, 5, 6, 7, 8, 9}, 6},
+        {"QPeak in A", mil, Con(Span(0.009, 0.15), {QPeak}), {2, 5, 6, 7, 8, 9}, 4},
+        {"QPeak in B", mil, Con(b, {QPeak}), {3, 5, 6, 7, 8, 9}, 4},
+        {"QPeak in A+B", mil, aeB, {2, 3, 5, 6, 7, 8, 9}, 4},
+        {"QPeak in C", {}, Con(c, {QPeak}), {0, 2, 5, 6, 7, 8, 9}, 4},
+        {"QPeak to 1 GHz", {}, d, {0, 1, 2, 5, 6, 7, 8, 9}, 4},
+        {"with Mil", mil, Con(b, {QPeak, Rms, RmsAvg}), {12, 13, 14, 15}, 5},
+        {"Peak, Rms and Avg with Mil", mil, Con(b, {Peak, Rms, Avg}), {}, 5},
+        {"Rms-Avg in B", {}, Con(b, {RmsAvg}), {5, 6, 7, 8, 9}, 2},
+        {"C-Avg in C", {}, Con(c, {CAvg}), {0, 2, 5, 6, 7, 8, 9}, 6},
     };
     for (const CasoRbw& caso : casi) {
         SCOPED_TRACE(caso.caso);
@@ -343,28 +337,11 @@ TEST(RegoleScan, TheFiltersThatAModelDoesNotHave) {
                 trovate[0].codice != caso.codice)
                 continue;
             EXPECT_EQ(trovate[0].celle, (Celle{{0, Rbw}}));
+            EXPECT_EQ(trovate[0].riquadro.testo, kParoleRbw[caso.codice]);
             trovati.push_back(id);
         }
         EXPECT_EQ(trovati, caso.refusi);
     }
-}
-
-TEST(RegoleScan, WhatTheUserReadsAboutAFilter) {
-    using enum DetectorKind;
-    const ReceiverModel mil{.ConFiltriMil = true};
-    const auto testo = [](ScanLine riga, int16_t rbwId, const ReceiverModel& modello) {
-        riga.RbwId = rbwId;
-        const Segnalazioni trovate = ControllaRBWScanTab(Tavolo({riga}, modello).C());
-        return trovate.empty() ? "" : trovate[0].riquadro.testo;
-    };
-    const ScanLine b = Span(0.15, 30);
-    EXPECT_EQ(testo(b, 0, mil), "RBW not available");
-    EXPECT_EQ(testo(Con(b, {RmsAvg}), 5, mil), "RBW not suitable");
-    EXPECT_EQ(testo(Con(b, {QPeak}), 5, mil), "Qpeak detector not suitable with this setup");
-    EXPECT_EQ(testo(Con(b, {Peak, QPeak, RmsAvg}), 12, mil),
-              "QPeak, Rms-Avg detector not suitable with this setup");
-    EXPECT_EQ(testo(Con(Span(30, 300), {CAvg}), 0, {}), "Detector not suitable with selected RBW");
-    EXPECT_EQ(testo(Con(b, {Peak, Rms, Avg}), 12, mil), "");
 }
 
 TEST(RegoleScan, ASwitchLetsTheNarrowMilFiltersThrough) {
@@ -391,14 +368,7 @@ TEST(RegoleScan, OverlapsAreMarkedOnBothLinesAndTouchingSpansAreNone) {
     const Segnalazioni trovate = ControllaSovrapposizioniFreq(t.C());
     ASSERT_EQ(trovate.size(), 1u);
     EXPECT_EQ(trovate[0].esito, EsitoControllo::Chiede);
-    EXPECT_EQ(trovate[0].celle, (Celle{{0, Start},
-                                       {0, Stop},
-                                       {1, Start},
-                                       {1, Stop},
-                                       {3, Start},
-                                       {3, Stop},
-                                       {4, Start},
-                                       {4, Stop}}));
+    EXPECT_EQ(trovate[0].celle, Frequenze({0, 1, 3, 4}));
     EXPECT_TRUE(ControllaSovrapposizioniFreq(Tavolo({Span(1, 30), Span(30, 40)}).C()).empty());
 }
 
@@ -443,7 +413,7 @@ TEST(RegoleScan, TheFirstLineThatBreaksTheStepRulesIsTheFinding) {
     trovate = ControlloStepScanTab(t.C());
     ASSERT_EQ(trovate.size(), 1u);
     EXPECT_EQ(trovate[0].codice, 3);
-    EXPECT_EQ(trovate[0].celle, (Celle{{2, Start}, {2, Stop}}));
+    EXPECT_EQ(trovate[0].celle, Frequenze({2}));
     EXPECT_EQ(t.tabella[0].Step, 99) << "a check changes nothing";
     RicalcolaPassiAuto(t.tabella);
     EXPECT_EQ(t.tabella[0].Step, 0.005);
