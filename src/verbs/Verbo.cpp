@@ -18,6 +18,8 @@ constexpr std::array kVerbi = {
               "        [--rbw TEXT] [--detector P,Q,...] [--hold MS] [--step MHZ] [--min-att DB]\n"
               "        [--preamp on|off] [--presel on|off]",
               "scan tables", VerboScan},
+    VoceVerbo{"check", "--scan NAME [--name MEASURE]",
+              "what the checks before a run find in a scan table; nothing is changed", VerboCheck},
     VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
               "the run of a scan table, with progress on standard error; Ctrl-C is Stop",
               VerboSweep},
