@@ -253,10 +253,6 @@ void ImpostaLisn3360(Ricevitore& r, int codice) {
     Imposta(r, Lisn3360, TestoIntero(codice));
 }
 
-void ImpostaMargine(Ricevitore& r, float dB) {
-    Imposta(r, Margine, TestoDaNumero(dB));
-}
-
 void DisabilitaCF(Ricevitore& r) {
     Imposta(r, Impostazione::DisabilitaCF);
 }
@@ -271,34 +267,6 @@ void StopSweep(Ricevitore& r) {
 
 void AbortSweep(Ricevitore& r) {
     Imposta(r, Impostazione::AbortSweep);
-}
-
-void ImpostaNomeLimite(Ricevitore& r, int slot, std::string_view nome) {
-    Imposta(r, NomeLimite, TestoIntero(slot) + "," + std::string(nome));
-}
-
-void ImpostaNomeFattore(Ricevitore& r, int slot, std::string_view nome) {
-    Imposta(r, NomeFattore, TestoIntero(slot) + "," + std::string(nome));
-}
-
-void ImpostaRigaLimite(Ricevitore& r, std::string_view dati) {
-    Imposta(r, RigaLimite, dati);
-}
-
-void ImpostaRigaLimiteSweep(Ricevitore& r, std::string_view dati) {
-    Imposta(r, RigaLimiteSweep, dati);
-}
-
-void ImpostaRigaFattore(Ricevitore& r, std::string_view dati) {
-    Imposta(r, RigaFattore, dati);
-}
-
-void ImpostaRigaLimiteDSD(Ricevitore& r, std::string_view dati) {
-    Imposta(r, RigaLimiteDSD, dati);
-}
-
-void ImpostaFineLimite(Ricevitore& r, std::string_view dati) {
-    Imposta(r, FineLimite, dati);
 }
 
 } // namespace orvane

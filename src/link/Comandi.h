@@ -120,18 +120,9 @@ void ImpostaRadiato(Ricevitore& r);
 void ImpostaQDSW3(Ricevitore& r, int codice);
 void ImpostaLisn(Ricevitore& r, int codice);
 void ImpostaLisn3360(Ricevitore& r, int codice);
-void ImpostaMargine(Ricevitore& r, float dB);
 void DisabilitaCF(Ricevitore& r);
 void ImpostaBreak(Ricevitore& r);
 void StopSweep(Ricevitore& r);
 void AbortSweep(Ricevitore& r);
-/// Upload rows, with their data as the tables compose them.
-void ImpostaNomeLimite(Ricevitore& r, int slot, std::string_view nome);
-void ImpostaNomeFattore(Ricevitore& r, int slot, std::string_view nome);
-void ImpostaRigaLimite(Ricevitore& r, std::string_view dati);
-void ImpostaRigaLimiteSweep(Ricevitore& r, std::string_view dati);
-void ImpostaRigaFattore(Ricevitore& r, std::string_view dati);
-void ImpostaRigaLimiteDSD(Ricevitore& r, std::string_view dati);
-void ImpostaFineLimite(Ricevitore& r, std::string_view dati);
 
 } // namespace orvane

@@ -199,6 +199,16 @@ TEST_F(ComandiRigaTest, FactorsInUseBecomeOneTable) {
     EXPECT_EQ(ObiezioneAiFattori(fattori, 500).testo, "Too many frequencies\rMax 499 frequencies");
 }
 
+TEST(ImpostazioniCorsaTest, FollowTheSetUpAndTheGeneratorsPresence) {
+    SetupRecord setup{.RefLevel = 80, .PulseLim = 1, .TGLevel = -10.5, .RFOut = 1, .TGFreq = 10.7};
+    setup.TGOn = 1;
+    EXPECT_EQ(
+        InTesti(ComponiImpostazioniCorsa({}, setup)),
+        (Testi{"#SDIS80;80*", "#SPLMON*", "#STGSON*", "#STGL-10.5*", "#STGTON*", "#STGF10700e3*"}));
+    EXPECT_EQ(InTesti(ComponiImpostazioniCorsa({.Is5520F = true}, setup)),
+              (Testi{"#SDIS80;80*", "#SPLMON*", "#STGSON*"}));
+}
+
 TEST(CommutatoriTest, CodesOfNetworksByKindAndLine) {
     const int attesi[7][4] = {{-1, -1, -1, -1}, {-1, 0, 4, -1},   {0, 1, 2, 3}, {-1, -1, -1, -1},
                               {0, 1, 2, 3},     {-1, -1, -1, -1}, {0, 1, 2, 0}};

@@ -87,12 +87,13 @@ Testi Composti(BancoSimulato& banco) {
 TEST(CorsaComandiTest, EachLineGetsItsLimitMarginAndListAheadOfItsCommand) {
     BancoSimulato banco;
     MettiCinqueRighe(banco);
-    banco.scrivania.setup.RFOut = banco.scrivania.setup.PulseLim = 1;
+    banco.scrivania.setup.RFOut = 1;
+    banco.ambiente.risposte = {Risposta::Si}; // the lines overlap
     ASSERT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
     const Testi mandati = SoloImpostazioni(banco.simulato.Comandi());
     const Testi attesi = {"#SCFA -1*",
                           "#SDIS80;65*",
-                          "#SPLMON*",
+                          "#SPLMOFF*",
                           "#STGSON*",
                           "#STGL0*",
                           "#STGTOFF*",
@@ -138,12 +139,12 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
         const char* banda;
         const char* comando; ///< of the line
     } const casi[] = {
-        {"5520+5590", "B", "#SSFD 6001000000;7000000000;1000000;P;10;9;10;OFF;OFF;0*"},
-        {"K3X", "B", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
-        {"3360/01", "B", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
-        {"5520F", "B", "#SSFDS 150000;3000000;10000;P;10;6;10;OFF;ON;0*"},
-        {"5520+GX2207", "B", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
-        {"GX2207", "B", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
+        {"5520+5590", "#SSFD 6001000000;7000000000;1000000;P;10;9;10;OFF;OFF;0*"},
+        {"K3X", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
+        {"3360/01", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;OFF;0*"},
+        {"5520F", "#SSFDS 150000;3000000;10000;P;10;6;10;OFF;ON;0*"},
+        {"5520+GX2207", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
+        {"GX2207", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
     };
     for (const auto& caso : casi) {
         SCOPED_TRACE(caso.modello);
@@ -151,6 +152,7 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
         ScanLine& riga = banco.scan.Righe[0] = Banda("B", "P");
         riga.Stop = 3;
         riga.HoldTime = 10;
+        riga.PreSel = std::string_view(caso.modello) != "3360/01";
         if (std::string_view(caso.modello) == "5520F") {
             riga.AutoStep = 0;
             riga.Step = 0.01;
