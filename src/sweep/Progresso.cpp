@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/FreqTableRecord.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -18,7 +19,9 @@ Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella)
     : ambiente_(ambiente), inizio_(ambiente.Adesso()) {
     for (size_t i = 0; i < RigheInUso(tabella); ++i) {
         const ScanLine& riga = tabella[i];
-        const PesoRiga peso{.passi = PassiDellaRiga(riga),
+        // How many a frequency table has is known when its line is about to run.
+        const PesoRiga peso{.passi = riga.StepMode == 1 ? static_cast<long long>(kMaxFreqTable)
+                                                        : PassiDellaRiga(riga),
                             .perPasso = std::max<double>(riga.HoldTime, 0) + kMsPerPasso};
         totale_ += peso.Peso();
         righe_.push_back(peso);

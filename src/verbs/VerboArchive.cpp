@@ -6,6 +6,7 @@
 #include "base/Testo.h"
 #include "data/ControllaRecord.h"
 #include "data/Misure.h"
+#include "setup/ListaFrequenze.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
 #include "verbs/Json.h"
@@ -112,7 +113,9 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole) {
     const auto detector = Detector(argomenti.Opzione("detector"), scan.Righe);
     if (!detector)
         return UsoErrato(banco, "trace", "unknown detector: P, Q, R, A, N, C");
-    StampaTraccia(banco, CreaTracciaSweep(banco.scrivania, nome, base, scan.Righe, *detector),
+    const OpzioniTraccia opzioni{.frequenza = FrequenzeDaTabella(banco.scrivania.albero)};
+    StampaTraccia(banco,
+                  CreaTracciaSweep(banco.scrivania, nome, base, scan.Righe, *detector, opzioni),
                   *detector);
     return kFatto;
 }

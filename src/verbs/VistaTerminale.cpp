@@ -62,6 +62,11 @@ void VistaTerminale::MostraStriscia(const std::string& testo) {
         strisciaDa_ = ambiente_.Adesso();
 }
 
+void VistaTerminale::MostraAttesa(const std::string& titolo, const std::string& testo) {
+    FineRiga();
+    messaggi_ << titolo << (titolo.empty() ? "" : ": ") << testo << "\n" << std::flush;
+}
+
 void VistaTerminale::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {
     if (!errata)
         return;

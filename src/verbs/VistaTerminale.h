@@ -27,6 +27,7 @@ public:
     void NascondiStriscia() override { strisciaDa_ = -1; }
     void ColoraStriscia(bool) override {}
     void AbilitaSSTabMode() override {}
+    void MostraAttesa(const std::string& titolo, const std::string& testo) override;
 
     void AggiornaGriglia() override {}
     void EvidenziaCella(int riga, ColonnaScan colonna, bool errata) override;

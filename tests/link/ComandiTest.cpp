@@ -18,49 +18,39 @@ struct Caso {
 
 TEST(Comandi, EachSetterAsItGoesOut) {
     using R = Ricevitore;
-    const Caso kCasi[] = {
-        {[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
-        {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
-        {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
-        {[](R& r) { ImpostaPreAmpAn(r, true); }, "#SAPAON*"},
-        {[](R& r) { ImpostaPreAmpMa(r, true); }, "#SMPAON*"},
-        {[](R& r) { ImpostaPulseLim(r, true); }, "#SPLMON*"},
-        {[](R& r) { ImpostaAttAn(r, -1); }, "#SAAT-1*"},
-        {[](R& r) { ImpostaAttMa(r, 20); }, "#SMAT20*"},
-        {[](R& r) { ImpostaMinAtt(r, 50); }, "#STAT50*"},
-        {[](R& r) { ImpostaDinamica(r, 120, 145); }, "#SDIS120;145*"},
-        {[](R& r) { ImpostaVolume(r, 30); }, "#SDMV30*"},
-        {[](R& r) { ImpostaRFOut(r, true); }, "#STGSON*"},
-        {[](R& r) { ImpostaTracking(r, false); }, "#STGTOFF*"},
-        {[](R& r) { ImpostaLivelloTG(r, 80.5); }, "#STGL80.5*"},
-        {[](R& r) { ImpostaFrequenzaTG(r, 10.7); }, "#STGF10700e3*"},
-        {[](R& r) { ImpostaHoldTimeAn(r, 0.25); }, "#SAHT0.25*"},
-        {[](R& r) { ImpostaHoldTimeMa(r, 1000); }, "#SMHT1000*"},
-        {[](R& r) { ImpostaDetectorAn(r, 4); }, "#SADT4*"},
-        {[](R& r) { ImpostaFrequenzaAn(r, 0.15, 30); }, "#SAFF150e3,30000e3*"},
-        {[](R& r) { ImpostaFrequenzaMa(r, 1000); }, "#SMAF1000000e3*"},
-        {[](R& r) { ImpostaFiltroGX2207(r, true); }, "#SIHPON*"},
-        {[](R& r) { ImpostaIngressoGX2207(r, false); }, "#SMODA*"},
-        {[](R& r) { ImpostaIngressoGX2207(r, true); }, "#SMODH*"},
-        {[](R& r) { ImpostaTrackingGX2207(r, 2); }, "#SITG 2*"},
-        {ImpostaCondotto, "#S3PRC*"},
-        {ImpostaRadiato, "#S3PRR*"},
-        {[](R& r) { ImpostaQDSW3(r, 3); }, "#SUPP3*"},
-        {[](R& r) { ImpostaLisn(r, 4); }, "#SUPP4*"},
-        {[](R& r) { ImpostaLisn3360(r, 1); }, "#SLSN1*"},
-        {[](R& r) { ImpostaNomeLimite(r, 2, "EN55011"); }, "#SLIC 2,EN55011*"},
-        {[](R& r) { ImpostaNomeFattore(r, 3, "LISN"); }, "#SCFE 3,LISN*"},
-        {[](R& r) { ImpostaRigaLimite(r, "0,150e3;66"); }, "#SLIW0,150e3;66*"},
-        {[](R& r) { ImpostaRigaLimiteSweep(r, "1,5e3;60"); }, "#SLIW1,5e3;60*"},
-        {[](R& r) { ImpostaRigaFattore(r, "0,1e6;2.5"); }, "#SCFW0,1e6;2.5*"},
-        {[](R& r) { ImpostaRigaLimiteDSD(r, "0,5e3;60,50"); }, "#SLDW0,5e3;60,50*"},
-        {[](R& r) { ImpostaFineLimite(r, "EN55011"); }, "#SLIEEN55011*"},
-        {[](R& r) { ImpostaMargine(r, -6.1f); }, "#SLIM-6.1*"},
-        {[](R& r) { ImpostaRigaTabFreq(r, 7, 30.1); }, "#SSFW 7,30100000*"},
-        {DisabilitaCF, "#SCFA -1*"},
-        {ImpostaBreak, "#SSTP*"},
-        {StopSweep, "#SSTP*"},
-        {AbortSweep, "#ASBK*"}};
+    const Caso kCasi[] = {{[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
+                          {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
+                          {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
+                          {[](R& r) { ImpostaPreAmpAn(r, true); }, "#SAPAON*"},
+                          {[](R& r) { ImpostaPreAmpMa(r, true); }, "#SMPAON*"},
+                          {[](R& r) { ImpostaPulseLim(r, true); }, "#SPLMON*"},
+                          {[](R& r) { ImpostaAttAn(r, -1); }, "#SAAT-1*"},
+                          {[](R& r) { ImpostaAttMa(r, 20); }, "#SMAT20*"},
+                          {[](R& r) { ImpostaMinAtt(r, 50); }, "#STAT50*"},
+                          {[](R& r) { ImpostaDinamica(r, 120, 145); }, "#SDIS120;145*"},
+                          {[](R& r) { ImpostaVolume(r, 30); }, "#SDMV30*"},
+                          {[](R& r) { ImpostaRFOut(r, true); }, "#STGSON*"},
+                          {[](R& r) { ImpostaTracking(r, false); }, "#STGTOFF*"},
+                          {[](R& r) { ImpostaLivelloTG(r, 80.5); }, "#STGL80.5*"},
+                          {[](R& r) { ImpostaFrequenzaTG(r, 10.7); }, "#STGF10700e3*"},
+                          {[](R& r) { ImpostaHoldTimeAn(r, 0.25); }, "#SAHT0.25*"},
+                          {[](R& r) { ImpostaHoldTimeMa(r, 1000); }, "#SMHT1000*"},
+                          {[](R& r) { ImpostaDetectorAn(r, 4); }, "#SADT4*"},
+                          {[](R& r) { ImpostaFrequenzaAn(r, 0.15, 30); }, "#SAFF150e3,30000e3*"},
+                          {[](R& r) { ImpostaFrequenzaMa(r, 1000); }, "#SMAF1000000e3*"},
+                          {[](R& r) { ImpostaFiltroGX2207(r, true); }, "#SIHPON*"},
+                          {[](R& r) { ImpostaIngressoGX2207(r, false); }, "#SMODA*"},
+                          {[](R& r) { ImpostaIngressoGX2207(r, true); }, "#SMODH*"},
+                          {[](R& r) { ImpostaTrackingGX2207(r, 2); }, "#SITG 2*"},
+                          {ImpostaCondotto, "#S3PRC*"},
+                          {ImpostaRadiato, "#S3PRR*"},
+                          {[](R& r) { ImpostaQDSW3(r, 3); }, "#SUPP3*"},
+                          {[](R& r) { ImpostaLisn(r, 4); }, "#SUPP4*"},
+                          {[](R& r) { ImpostaLisn3360(r, 1); }, "#SLSN1*"},
+                          {DisabilitaCF, "#SCFA -1*"},
+                          {ImpostaBreak, "#SSTP*"},
+                          {StopSweep, "#SSTP*"},
+                          {AbortSweep, "#ASBK*"}};
     BancoAperto b;
     b.stato.AbbandonaComandi = true; // one try is enough
     Testi attesi;
@@ -69,6 +59,33 @@ TEST(Comandi, EachSetterAsItGoesOut) {
         attesi.push_back(caso.comando);
     }
     EXPECT_EQ(b.peer.scritti, attesi);
+}
+
+TEST(Comandi, ComposedOnesGoOutInOrderUntilTheUserGivesUp) {
+    using enum Impostazione;
+    BancoAperto b;
+    b.peer.RispondiDa({{"#SLIC 2,EN55011*", "SLIC =OK\r\n"},
+                       {"#SCFE 3,LISN*", "CFE=OK\r\n"},
+                       {"#SCFE CF_Ext*", "CFE=OK\r\n"},
+                       {"#SLIW1,5e3;60*", "LIW=OK\r\n"},
+                       {"#SCFW0,1e6;2.5*", "CFW=OK\r\n"},
+                       {"#SLDW0,5e3;60,50*", "LDW=OK\r\n"},
+                       {"#SLIEEN55011*", "LIE=OK\r\n"},
+                       {"#SLIM-6.1*", "LIM=OK\r\n"},
+                       {"#SSFW 7,30100000*", "SFW=OK\r\n"}});
+    const std::vector<ComandoPronto> comandi = {
+        {NomeLimite, "2,EN55011"},     {NomeFattore, "3,LISN"},    {FineFattore, "CF_Ext"},
+        {RigaLimiteSweep, "1,5e3;60"}, {RigaFattore, "0,1e6;2.5"}, {RigaLimiteDSD, "0,5e3;60,50"},
+        {FineLimite, "EN55011"},       {Margine, "-6.1"},          {RigaTabFreq, "7,30100000"}};
+    EXPECT_TRUE(InviaInOrdine(b.r, comandi));
+    Testi attesi;
+    for (const ComandoPronto& c : comandi)
+        attesi.push_back(Componi(c.quale, c.argomenti).Comando);
+    EXPECT_EQ(b.peer.scritti, attesi);
+    b.peer.alComando = [&](const std::string&) { b.stato.AbbandonaComandi = true; };
+    b.peer.scritti.clear();
+    EXPECT_FALSE(InviaInOrdine(b.r, comandi));
+    EXPECT_EQ(b.peer.scritti, Testi{"#SLIC 2,EN55011*"});
 }
 
 TEST(Comandi, FrequenciesAreKilohertzWithAnExponent) {

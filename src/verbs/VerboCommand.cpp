@@ -1,0 +1,112 @@
+#include <ostream>
+
+#include "base/Numeri.h"
+#include "console/Console.h"
+#include "data/ControllaRecord.h"
+#include "data/Panels.h"
+#include "link/Identificazione.h"
+#include "setup/ComandiScan.h"
+#include "setup/CommutatoriSweep.h"
+#include "setup/RegoleScan.h"
+#include "setup/TabellaScan.h"
+#include "verbs/Argomenti.h"
+#include "verbs/Json.h"
+#include "verbs/Verbo.h"
+
+namespace orvane {
+namespace {
+
+std::string NumeroRiga(const PassataComposta& passata) {
+    return TestoIntero(static_cast<long long>(passata.riga) + 1);
+}
+
+void StampaTesto(std::ostream& dati, const std::vector<std::string>& comandi) {
+    for (const std::string& comando : comandi)
+        dati << comando << "\n";
+}
+
+void StampaTesto(std::ostream& dati, const ScanComposto& scan) {
+    dati << "run\n";
+    StampaTesto(dati, scan.corsa);
+    for (const PassataComposta& passata : scan.passate) {
+        dati << "line " << NumeroRiga(passata);
+        dati << (passata.nome.empty() ? "" : " ") << passata.nome << "\n";
+        if (!passata.riquadro.testo.empty())
+            dati << "[box] " << passata.riquadro.testo << "\n";
+        StampaTesto(dati, passata.comandi);
+    }
+}
+
+void Lista(Json& json, std::string_view nome, const std::vector<std::string>& testi) {
+    json.Chiave(nome).Lista();
+    for (const std::string& testo : testi)
+        json.Testo(testo);
+    json.Chiudi();
+}
+
+void StampaJson(std::ostream& dati, const ScanComposto& scan) {
+    Json json;
+    json.Oggetto();
+    Lista(json, "run", scan.corsa);
+    json.Chiave("passes").Lista();
+    for (const PassataComposta& passata : scan.passate) {
+        json.Oggetto().Coppia("line", static_cast<int>(passata.riga) + 1);
+        json.Coppia("pass", passata.nome).Coppia("prompt", passata.riquadro.testo);
+        Lista(json, "commands", passata.comandi);
+        json.Chiudi();
+    }
+    json.Chiudi();
+    dati << json.Chiudi().Documento() << "\n";
+}
+
+/// Who would be told; false where nobody answers.
+bool Riconosci(Ricevitore& r) {
+    if (!r.porta.ApriPorta(true))
+        return false;
+    LeggiModello(r, Modalita::Sweep, 1);
+    r.porta.ChiudiPorta();
+    return !r.stato.AbbandonaComandi && r.modello.FwTesto != "---";
+}
+
+/// The table as the checks would leave it.
+void Riordina(ScanTable& tabella, const SetupRecord& setup) {
+    CompattaScanTable(tabella);
+    RicalcolaPassiAuto(tabella);
+    SelLineParaSweep(tabella, setup);
+}
+
+EsitoVerbo Racconta(Banco& banco, const ScanTable& tabella) {
+    const ScanComposto scan = ComponiScan(banco.scrivania, banco.ricevitore.modello, tabella);
+    banco.json ? StampaJson(banco.dati, scan) : StampaTesto(banco.dati, scan);
+    for (const Riquadro& obiezione : scan.obiezioni)
+        banco.scrivania.ambiente.Mostra(obiezione);
+    return scan.intero ? kFatto : Guasto(banco, kRifiutato, "the table cannot be sent");
+}
+
+} // namespace
+
+EsitoVerbo VerboCommand(Banco& banco, Parole parole) {
+    const Argomenti argomenti(parole, {"scan"});
+    const auto chiesto = argomenti.Opzione("scan");
+    if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty() || !chiesto)
+        return UsoErrato(banco, "command",
+                         argomenti.Errore().empty() ? "wants --scan NAME" : argomenti.Errore());
+    const auto nome = NomeDaParola(*chiesto);
+    if (!nome)
+        return UsoErrato(banco, "command", "\"" + *chiesto + "\" is no valid name");
+    const std::string percorso = PercorsoPannello(*nome, "EST");
+    if (!banco.scrivania.albero.Esiste(percorso))
+        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
+    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
+    ScanRecord scan;
+    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
+        return kGuastoFile;
+    ControllaScan(scan);
+    Riordina(scan.Righe, banco.scrivania.setup);
+    if (!Riconosci(banco.ricevitore))
+        return Guasto(banco, EsitoDelLink(banco),
+                      banco.interrotto ? "stopped" : "no receiver answered");
+    return Racconta(banco, scan.Righe);
+}
+
+} // namespace orvane
