@@ -105,7 +105,7 @@ QWidget* MainForm::CreaCentro() {
     conPiede->addWidget(piede_);
     conPiede->setStretchFactor(0, 3);
     conPiede->setStretchFactor(1, 1);
-    conPiede->setSizes({560, 250});
+    conPiede->setSizes({500, 310});
     ricevitore_ = new PaginaRicevitore(pagine_);
     pagine_->addWidget(conPiede);
     pagine_->addWidget(ricevitore_);
@@ -141,7 +141,7 @@ QWidget* MainForm::CreaPiedeArchivio() {
     QFont carattere = titoloMisura_->font();
     carattere.setWeight(QFont::DemiBold);
     titoloMisura_->setFont(carattere);
-    righeMisura_ = new GridScanTab(righeAperte_, false, piede);
+    righeMisura_ = new GridScanTab(righeAperte_, misura_.header.Setup, false, piede);
     righeMisura_->setObjectName(QStringLiteral("GridRigheMisura"));
     righeMisura_->setAccessibleName(tr("Scan lines of the measure"));
     colonna->addWidget(titoloMisura_);
