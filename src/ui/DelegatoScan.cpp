@@ -140,6 +140,7 @@ QWidget* DelegatoScan::CreaElenco(QWidget* padre, const QModelIndex& indice) con
     }
     auto* io = const_cast<DelegatoScan*>(this);
     connect(elenco, &QComboBox::activated, io, [io, elenco] {
+        elenco->chiuso = [] {};
         Q_EMIT io->commitData(elenco);
         Q_EMIT io->closeEditor(elenco);
         Q_EMIT io->Confermata();
