@@ -13,7 +13,6 @@
 namespace orvane {
 namespace {
 
-constexpr size_t kMaxPuntiFattore = 499;
 constexpr size_t kNomeBreve = 10;
 constexpr float kGigaHz = 1e9f;
 
@@ -108,7 +107,7 @@ EsitoCaricamento Concludi(Ricevitore& r, const VoceCaricamento& voce, bool memor
 
 } // namespace
 
-std::string TestoPunto(float freqHz, int16_t livelloCent) {
+std::string TestoPunto(float freqHz, int livelloCent) {
     const double hz = DecimaleBreve(freqHz);
     const std::string freq =
         freqHz >= kGigaHz ? TestoDaNumero(hz / 1e6) + "e6" : TestoDaNumero(hz / 1e3) + "e3";

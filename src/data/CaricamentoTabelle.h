@@ -10,6 +10,9 @@
 
 namespace orvane {
 
+/// Points that the receiver takes for one factor.
+inline constexpr size_t kMaxPuntiFattore = 499;
+
 /// `PBStoreCFLOn5520`: a step a point.
 struct VistaCaricamento {
     virtual ~VistaCaricamento() = default;
@@ -26,7 +29,7 @@ enum class EsitoCaricamento {
 };
 
 /// A point as the receiver takes it, "150e3;66": frequency, then level in dB.
-std::string TestoPunto(float freqHz, int16_t livelloCent);
+std::string TestoPunto(float freqHz, int livelloCent);
 
 /// `StoreFacLim`: fills the editor's slot from its rows, checks them, opens the link, sends them
 /// under `nome` to a position of the receiver's list (from 0), and closes the link. Each command

@@ -50,21 +50,6 @@ EsitoLimiteSD GiudicaCoppia(const LimFacRecord& limite, const LimFacRecord& limi
     return Giudica(punti->size(), kMinFrequenze);
 }
 
-std::string TestoEsito(EsitoLimiteSD esito) {
-    switch (esito) {
-    case EsitoLimiteSD::NonCombinabile:
-        return "Cannot combine the limit";
-    case EsitoLimiteSD::TroppiPunti:
-        return "Too many points in the limit\rMax " +
-               TestoIntero(static_cast<long long>(kMaxPuntiLimite)) + " points";
-    case EsitoLimiteSD::PocheFrequenze:
-        return "Too few limit frequencies\rMin 2 different frequencies";
-    case EsitoLimiteSD::Buono:
-        break;
-    }
-    return {};
-}
-
 } // namespace
 
 std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& limite,
@@ -95,12 +80,31 @@ std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& li
     return punti;
 }
 
+EsitoLimiteSD GiudicaLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD) {
+    return limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
+                     : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
+}
+
+std::string TestoLimiteSD(EsitoLimiteSD esito) {
+    switch (esito) {
+    case EsitoLimiteSD::NonCombinabile:
+        return "Cannot combine the limit";
+    case EsitoLimiteSD::TroppiPunti:
+        return "Too many points in the limit\rMax " +
+               TestoIntero(static_cast<long long>(kMaxPuntiLimite)) + " points";
+    case EsitoLimiteSD::PocheFrequenze:
+        return "Too few limit frequencies\rMin 2 different frequencies";
+    case EsitoLimiteSD::Buono:
+        break;
+    }
+    return {};
+}
+
 EsitoLimiteSD ControlloNMaxPuntiLimSD(Ambiente& ambiente, const LimFacRecord& limite,
                                       const LimFacRecord* limiteDSD) {
-    const EsitoLimiteSD esito = limiteDSD ? GiudicaCoppia(limite, *limiteDSD)
-                                          : Giudica(NumeroPunti(limite), NumeroFreqTabella(limite));
+    const EsitoLimiteSD esito = GiudicaLimiteSD(limite, limiteDSD);
     if (esito != EsitoLimiteSD::Buono)
-        ambiente.Mostra({.testo = TestoEsito(esito), .icona = Icona::Esclamazione});
+        ambiente.Mostra({.testo = TestoLimiteSD(esito), .icona = Icona::Esclamazione});
     return esito;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "base/Ambiente.h"
@@ -28,8 +29,11 @@ std::optional<std::vector<PuntoDSD>> CreaElencoFreqLimDSD(const LimFacRecord& li
 
 enum class EsitoLimiteSD { Buono, NonCombinabile, TroppiPunti, PocheFrequenze };
 
-/// Whether the receiver can take the limit of a Smart line, or with `limiteDSD` the two joined;
-/// where it cannot, a box has said so.
+/// Whether the receiver can take the limit of a Smart line, or with `limiteDSD` the two joined.
+EsitoLimiteSD GiudicaLimiteSD(const LimFacRecord& limite, const LimFacRecord* limiteDSD = nullptr);
+/// What a box says of it; empty where all is well.
+std::string TestoLimiteSD(EsitoLimiteSD esito);
+/// The same with its box.
 EsitoLimiteSD ControlloNMaxPuntiLimSD(Ambiente& ambiente, const LimFacRecord& limite,
                                       const LimFacRecord* limiteDSD = nullptr);
 

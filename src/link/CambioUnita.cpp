@@ -9,6 +9,17 @@ namespace {
 // By `UnitaRichiesta`.
 constexpr std::array<std::string_view, 3> kUnita = {"5540 or 5570", "5570", "5590"};
 
+} // namespace
+
+std::string TestoCambioUnita(UnitaRichiesta unita, std::string_view nomeUnita) {
+    if (unita == UnitaRichiesta::SoloRicevitore)
+        return "             Switch OFF 5520 and " + std::string(nomeUnita) +
+               "\rThen switch back ON 5520 only and click OK.";
+    return "Switch OFF 5520.\rSwitch ON the extension unit (" +
+           std::string(kUnita[static_cast<size_t>(unita)]) +
+           "),\rwait a couple of seconds, then switch back ON 5520 and click OK.";
+}
+
 bool RiapriERiconosci(Ricevitore& r, Modalita modalita, int sorgente) {
     while (!r.porta.ApriPorta(false)) {
         const Risposta risposta =
@@ -22,17 +33,6 @@ bool RiapriERiconosci(Ricevitore& r, Modalita modalita, int sorgente) {
     }
     LeggiModello(r, modalita, sorgente);
     return !r.stato.AbbandonaComandi;
-}
-
-} // namespace
-
-std::string TestoCambioUnita(UnitaRichiesta unita, std::string_view nomeUnita) {
-    if (unita == UnitaRichiesta::SoloRicevitore)
-        return "             Switch OFF 5520 and " + std::string(nomeUnita) +
-               "\rThen switch back ON 5520 only and click OK.";
-    return "Switch OFF 5520.\rSwitch ON the extension unit (" +
-           std::string(kUnita[static_cast<size_t>(unita)]) +
-           "),\rwait a couple of seconds, then switch back ON 5520 and click OK.";
 }
 
 bool ChiediCambioUnita(Ricevitore& r, UnitaRichiesta unita, Modalita modalita, int sorgente) {

@@ -51,13 +51,16 @@ constexpr std::array<VoceImpostazione, kQuante> kImpostazioni = {{
     {RigaFattore, "SCFW", "Store Conv Factor", "CFW", "OK", true},
     {RigaLimiteDSD, "SLDW", "Set Custom Limit\rdouble Smart Detector", "LDW", "OK", true},
     {FineLimite, "SLIE", "Set Name Custom Limit", "LIE", "OK"},
+    {FineFattore, "SCFE ", "Set name conv factor", "CFE", "OK"},
     {Margine, "SLIM", "Set Margin", "LIM", "OK"},
     {RigaTabFreq, "SSFW ", "Set Frequency Table", "SFW", "OK", true},
     {DisabilitaCF, "SCFA -1", "Disabling conv factor", "CFA", "OK"},
     {Break, "SSTP", "set Break", "STP", "OK"},
     {Impostazione::StopSweep, "SSTP", "Stop Sweep", "STP", "OK"},
     {Impostazione::AbortSweep, "ASBK", "Abort Sweep", "SBK", "="},
-    {Swept, "CHGS", "Set Swept", "CHGS", "OK"},
+    {Swept, "CHGS", "Set Swept", "CHGS=OK", ""},
+    // The front-end answers with who it is from now on.
+    {FFT, "SOFF", "Set FFT", "GX2207F", ""},
 }};
 
 constexpr bool InOrdine() {
@@ -112,6 +115,15 @@ ReceiverCommand Componi(Impostazione quale, std::string_view argomenti) {
     return {.Comando = comando,
             .Descrizione = std::string(voce.descrizione),
             .Risposta = {std::string(voce.risposta0), std::string(voce.risposta1)}};
+}
+
+bool InviaInOrdine(Ricevitore& r, std::span<const ComandoPronto> comandi) {
+    for (const ComandoPronto& comando : comandi) {
+        if (r.stato.AbbandonaComandi)
+            return false;
+        Imposta(r, comando.quale, comando.argomenti);
+    }
+    return !r.stato.AbbandonaComandi;
 }
 
 std::string FrequenzaHz(double mhz) {
@@ -243,11 +255,6 @@ void ImpostaLisn3360(Ricevitore& r, int codice) {
 
 void ImpostaMargine(Ricevitore& r, float dB) {
     Imposta(r, Margine, TestoDaNumero(dB));
-}
-
-void ImpostaRigaTabFreq(Ricevitore& r, int indice, double mhz) {
-    // In whole hertz notation, like the sweep command, not in kHz with an exponent.
-    Imposta(r, RigaTabFreq, TestoIntero(indice) + "," + TestoDaNumero(std::round(mhz * 1e9) / 1e3));
 }
 
 void DisabilitaCF(Ricevitore& r) {

@@ -50,6 +50,7 @@ enum class Impostazione {
     RigaFattore,
     RigaLimiteDSD,
     FineLimite,
+    FineFattore,
     Margine,
     RigaTabFreq,
     DisabilitaCF,
@@ -57,6 +58,7 @@ enum class Impostazione {
     StopSweep,
     AbortSweep,
     Swept,
+    FFT,
     NumImpostazioni
 };
 
@@ -72,6 +74,15 @@ struct VoceImpostazione {
 std::span<const VoceImpostazione> TabellaImpostazioni();
 /// The command of a row with its arguments filled in.
 ReceiverCommand Componi(Impostazione quale, std::string_view argomenti);
+
+/// A setter that is still to be sent.
+struct ComandoPronto {
+    Impostazione quale;
+    std::string argomenti = {};
+    bool operator==(const ComandoPronto&) const = default;
+};
+/// Sends them in order, each until the receiver has accepted it. False: the user gave up.
+bool InviaInOrdine(Ricevitore& r, std::span<const ComandoPronto> comandi);
 
 /// Frequency in MHz as the wire has it: the number of kHz, then "e3".
 std::string FrequenzaHz(double mhz);
@@ -110,7 +121,6 @@ void ImpostaQDSW3(Ricevitore& r, int codice);
 void ImpostaLisn(Ricevitore& r, int codice);
 void ImpostaLisn3360(Ricevitore& r, int codice);
 void ImpostaMargine(Ricevitore& r, float dB);
-void ImpostaRigaTabFreq(Ricevitore& r, int indice, double mhz);
 void DisabilitaCF(Ricevitore& r);
 void ImpostaBreak(Ricevitore& r);
 void StopSweep(Ricevitore& r);

@@ -35,6 +35,9 @@ bool LeggiModello(Ricevitore& r, Modalita modalita, int sorgente);
 enum class UnitaRichiesta { Estesa, Estesa6GHz, Estesa18GHz, SoloRicevitore };
 /// The three-line text of the prompt; `nomeUnita` names what is to be switched off.
 std::string TestoCambioUnita(UnitaRichiesta unita, std::string_view nomeUnita);
+/// Opens the link again and identifies anew; on a failed open asks Retry or Cancel. False: the user
+/// cancelled, and `AbbandonaComandi` is set.
+bool RiapriERiconosci(Ricevitore& r, Modalita modalita, int sorgente);
 /// Shows the prompt, opens the link again and identifies anew; on a failed open asks Retry or
 /// Cancel. False: the user cancelled, and `AbbandonaComandi` is set.
 bool ChiediCambioUnita(Ricevitore& r, UnitaRichiesta unita, Modalita modalita, int sorgente);

@@ -24,6 +24,25 @@ struct VistaErrore {
     virtual void ColoraStriscia(bool scambiata) = 0;
     /// Lets the user leave the mode while a setter retries.
     virtual void AbilitaSSTabMode() = 0;
+    /// The wait window, over the main window, while something takes its time; `titolo` may be
+    /// empty. A view without windows may leave it out.
+    virtual void MostraAttesa(const std::string& /*titolo*/, const std::string& /*testo*/) {}
+    virtual void NascondiAttesa() {}
+};
+
+/// The wait window for as long as it lives.
+class FinestraAttesa {
+public:
+    FinestraAttesa(VistaErrore& vista, const std::string& titolo, const std::string& testo)
+        : vista_(vista) {
+        vista_.MostraAttesa(titolo, testo);
+    }
+    ~FinestraAttesa() { vista_.NascondiAttesa(); }
+    FinestraAttesa(const FinestraAttesa&) = delete;
+    FinestraAttesa& operator=(const FinestraAttesa&) = delete;
+
+private:
+    VistaErrore& vista_;
 };
 
 struct Ricevitore {

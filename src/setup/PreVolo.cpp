@@ -1,133 +1,29 @@
 #include "setup/PreVolo.h"
 
-#include <algorithm>
-#include <array>
-
-#include "base/Interruttori.h"
-#include "data/Misure.h"
 #include "data/Panels.h"
 #include "link/Comandi.h"
 #include "link/Identificazione.h"
 #include "link/Interrogazioni.h"
+#include "setup/CatenaControlli.h"
 
 namespace orvane {
 namespace {
 
-void Avverti(PreVolo& p, std::string testo) {
-    p.ricevitore.ambiente.Mostra({.testo = std::move(testo), .icona = Icona::Esclamazione});
+constexpr int kMastTable = 5;
+
+int RunKindDi(int chiesto, const SetupRecord& setup) {
+    return chiesto == 0 && AncillaryDi(setup) == kMastTable ? kConMastTable : chiesto;
 }
 
-void Segna(PreVolo& p, size_t riga, ColonnaScan colonna) {
-    p.vista.EvidenziaCella(static_cast<int>(riga), colonna, true);
+ContestoControlli ContestoDi(const PreVolo& p) {
+    return {.tabella = p.scan.Righe,
+            .modello = p.ricevitore.modello,
+            .caps = p.ricevitore.caps,
+            .setup = p.scrivania.setup,
+            .albero = p.scrivania.albero,
+            .rigaComando = p.ricevitore.ambiente.RigaComando(),
+            .runKind = RunKindDi(p.runKind, p.scrivania.setup)};
 }
-
-bool RiordinaTabella(PreVolo& p) {
-    CompattaScanTable(p.scan.Righe);
-    p.vista.AggiornaGriglia();
-    return RigheInUso(p.scan.Righe) > 0;
-}
-
-/// A span turned round, or one that the unit in charge does not reach. Models with both inputs are
-/// switched line by line, so that only the first rule holds for them.
-bool ErroreDiFrequenza(const ScanLine& riga, const Ricevitore& r) {
-    if (!(riga.Start < riga.Stop))
-        return true;
-    return !HaCondottoERadiato(r.modello) &&
-           (riga.Start < r.caps[0].FMinScan || riga.Stop > r.caps[0].FMaxScan);
-}
-
-bool ControllaFstartFstopScanTab(PreVolo& p) {
-    bool bene = true;
-    for (size_t i = 0; i < RigheInUso(p.scan.Righe); ++i) {
-        if (!ErroreDiFrequenza(p.scan.Righe[i], p.ricevitore))
-            continue;
-        Segna(p, i, ColonnaScan::Start);
-        Segna(p, i, ColonnaScan::Stop);
-        bene = false;
-    }
-    if (bene)
-        return true;
-    Avverti(p, "Start/Stop Frequency Error");
-    return Acceso(p.ricevitore.ambiente.RigaComando(), interruttore::kNoContFreq);
-}
-
-bool ControllaDetRMSAVGScanTab(PreVolo& p) {
-    if (p.ricevitore.modello.ConRmsAvg)
-        return true;
-    for (size_t i = 0; i < RigheInUso(p.scan.Righe); ++i) {
-        if (p.scan.Righe[i].Detector[static_cast<size_t>(DetectorKind::RmsAvg)] == 0)
-            continue;
-        Segna(p, i, ColonnaScan::Detector);
-        Avverti(p, "Rms-Avg Detector not available");
-        return false;
-    }
-    return true;
-}
-
-bool CopiaPassi(PreVolo& p) {
-    for (ScanLine& riga : p.scan.Righe)
-        riga.StepOriginal = riga.Step;
-    return true;
-}
-
-struct ParoleErroreDiPasso {
-    const char* testo;
-    bool campo; ///< the span is at fault, not the step
-};
-constexpr std::array<ParoleErroreDiPasso, 4> kErroriDiPasso = {{
-    {"", false},
-    {"   *** Step Error ***\r        Too small step", false},
-    {"   *** Step Error ***\r        Too big step", false},
-    {"   *** Start/Stop Frequency Error ***\r            Too small Span", true},
-}};
-
-bool ControlloStepScanTab(PreVolo& p) {
-    for (size_t i = 0; i < RigheInUso(p.scan.Righe); ++i) {
-        ScanLine& riga = p.scan.Righe[i];
-        if (riga.AutoStep == 1)
-            riga.Step = DetStepAutoDaRBW(riga.RbwId, riga);
-        const int codice = ControllaPassoDellaRiga(riga);
-        if (codice == 0)
-            continue;
-        const auto& errore = kErroriDiPasso[static_cast<size_t>(codice)];
-        Segna(p, i, errore.campo ? ColonnaScan::Start : ColonnaScan::Step);
-        if (errore.campo)
-            Segna(p, i, ColonnaScan::Stop);
-        Avverti(p, errore.testo);
-        return false;
-    }
-    return true;
-}
-
-bool ImpostaCFSweep(PreVolo& p) {
-    DisabilitaCF(p.ricevitore);
-    return !p.ricevitore.stato.AbbandonaComandi;
-}
-
-bool RisolviNomeMisura(PreVolo& p) {
-    p.misura = ControlNameMeasProfiloB(p.scrivania, p.misura);
-    return !p.misura.empty();
-}
-
-struct VoceControllo {
-    std::string_view nome;
-    bool (*esegui)(PreVolo&);
-    std::string_view motivo; ///< what is said of a run that it stopped
-};
-
-// The chain, in order: later checks rely on what earlier ones have repaired.
-constexpr std::array kCatena = {
-    VoceControllo{"table tidy", RiordinaTabella, "the scan table has no line in use"},
-    VoceControllo{"ControllaFstartFstopScanTab", ControllaFstartFstopScanTab,
-                  "start or stop frequency of a line"},
-    VoceControllo{"ControllaDetRMSAVGScanTab", ControllaDetRMSAVGScanTab,
-                  "a detector that this receiver does not have"},
-    VoceControllo{"step copy", CopiaPassi, ""},
-    VoceControllo{"ControlloStepScanTab", ControlloStepScanTab, "the step of a line"},
-    VoceControllo{"ImpostaCFSweep", ImpostaCFSweep, "the conversion factors were not accepted"},
-    VoceControllo{"ControlNameMeasProfiloB", RisolviNomeMisura,
-                  "the measure exists and is not to be replaced"},
-};
 
 void CancellaSegni(PreVolo& p) {
     for (int riga = 0; riga < static_cast<int>(kMaxScanLine); ++riga)
@@ -135,50 +31,126 @@ void CancellaSegni(PreVolo& p) {
             p.vista.EvidenziaCella(riga, static_cast<ColonnaScan>(colonna), false);
 }
 
-/// Who the receiver is, freshly: the operator may have swapped units since the last run.
-bool Riconosci(PreVolo& p) {
-    Ricevitore& r = p.ricevitore;
+bool Ripara(const VoceControllo& voce, const Segnalazione& s, ScanTable& tabella,
+            SetupRecord& setup) {
+    if (voce.correggi)
+        voce.correggi(tabella, setup, s);
+    if (voce.correggiSetup)
+        voce.correggiSetup(setup);
+    return voce.correggi || voce.correggiSetup;
+}
+
+/// A repair of the table that was told is stored at once; what nobody is told of follows from the
+/// table as the user wrote it.
+void RiparaESalva(PreVolo& p, const VoceControllo& voce, const Segnalazione& s) {
+    Scrivania& scrivania = p.scrivania;
+    if (!Ripara(voce, s, p.scan.Righe, scrivania.setup))
+        return;
+    if (voce.correggi && !s.riquadro.testo.empty())
+        SalvaPanelEST(scrivania, scrivania.env.ScanPanelPath, p.scan);
+    if (voce.correggiSetup)
+        SalvaPanelEAM(scrivania, kPannelloEAM);
+    p.vista.AggiornaGriglia();
+}
+
+bool Positiva(Risposta risposta) {
+    return risposta == Risposta::Si || risposta == Risposta::Ok;
+}
+
+/// Marks, tells or asks, repairs. False: the run stops here.
+bool Applica(PreVolo& p, const VoceControllo& voce, const Segnalazione& s) {
+    for (const CellaErrata& cella : s.celle)
+        p.vista.EvidenziaCella(static_cast<int>(cella.riga), cella.colonna, true);
+    const bool positiva =
+        s.riquadro.testo.empty() || Positiva(p.ricevitore.ambiente.Mostra(s.riquadro));
+    if (s.esito == EsitoControllo::Ferma)
+        return false;
+    if (s.esito == EsitoControllo::Chiede && !positiva)
+        return s.noProsegue;
+    RiparaESalva(p, voce, s);
+    return true;
+}
+
+/// All that makes the check stop is shown; behind a No nothing more is asked.
+bool Esamina(PreVolo& p, const VoceControllo& voce) {
+    bool bene = true;
+    for (const Segnalazione& s : voce.esamina(ContestoDi(p))) {
+        if (Applica(p, voce, s))
+            continue;
+        bene = false;
+        if (s.esito == EsitoControllo::Chiede)
+            break;
+    }
+    return bene;
+}
+
+bool Esegui(PreVolo& p, const VoceControllo& voce) {
+    const bool bene = voce.agisci ? voce.agisci(p) : Esamina(p, voce);
+    return bene && !p.ricevitore.stato.AbbandonaComandi;
+}
+
+} // namespace
+
+bool RiconosciRicevitore(Ricevitore& r, std::string& motivo) {
     if (!r.porta.ApriPorta(true)) {
-        p.motivo = r.porta.link.motivo;
+        motivo = r.porta.link.motivo;
         return false;
     }
     AbortSweep(r);
     if (r.stato.AbbandonaComandi)
         return false;
+    // Freshly: the operator may have swapped units since the last run.
     LeggiModello(r, Modalita::Sweep, 1);
     if (!r.stato.AbbandonaComandi)
         r.modello.SerialNumber = LeggiSerialNumber(r);
-    p.vista.MostraModello();
     return !r.stato.AbbandonaComandi;
-}
-
-} // namespace
-
-int ControllaPassoDellaRiga(const ScanLine& riga) {
-    const auto s = static_cast<float>(riga.Step);
-    const auto w = static_cast<float>(riga.Stop - riga.Start);
-    const int rbw = std::clamp<int>(riga.RbwId, 0, kNumRbw - 1);
-    const auto a = static_cast<float>(TabellaRbw()[static_cast<size_t>(rbw)].passoAuto / 100);
-    if (s == 0)
-        return 0;
-    if (s <= a)
-        return 1;
-    if (w / 2 < s)
-        return 2 * a > w ? 3 : 2;
-    return w / 1000000 >= s ? 1 : 0;
 }
 
 bool ControlliSweep(PreVolo& p) {
     CancellaSegni(p);
-    if (!Riconosci(p))
+    if (!RiconosciRicevitore(p.ricevitore, p.motivo))
         return false;
-    for (const VoceControllo& controllo : kCatena) {
-        if (!controllo.esegui(p)) {
-            p.motivo = "refused: " + std::string(controllo.motivo);
+    p.vista.MostraModello();
+    for (const VoceControllo& voce : CatenaControlli()) {
+        if (!Esegui(p, voce)) {
+            p.motivo = "refused: " + std::string(voce.motivo);
             return false;
         }
     }
     return true;
+}
+
+bool Rifiuta(const Riscontro& riscontro) {
+    const Segnalazione& s = riscontro.segnalazione;
+    return s.esito == EsitoControllo::Ferma ||
+           (s.esito == EsitoControllo::Chiede && riscontro.risposta == false && !s.noProsegue);
+}
+
+std::vector<Riscontro> EsaminaScan(const ContestoControlli& contesto, const Rispondi& rispondi) {
+    ScanTable tabella = contesto.tabella;
+    SetupRecord setup = contesto.setup;
+    const ContestoControlli copia{.tabella = tabella,
+                                  .modello = contesto.modello,
+                                  .caps = contesto.caps,
+                                  .setup = setup,
+                                  .albero = contesto.albero,
+                                  .rigaComando = contesto.rigaComando,
+                                  .runKind = RunKindDi(contesto.runKind, setup)};
+    std::vector<Riscontro> riscontri;
+    for (const VoceControllo& voce : CatenaControlli()) {
+        if (!voce.esamina)
+            continue;
+        for (Segnalazione& s : voce.esamina(copia)) {
+            Riscontro trovato{voce.numero, voce.nome, voce.motivo, std::move(s)};
+            const Segnalazione& cosa = trovato.segnalazione;
+            if (cosa.esito == EsitoControllo::Chiede && rispondi)
+                trovato.risposta = rispondi(cosa);
+            if (cosa.esito == EsitoControllo::Corregge || trovato.risposta == true)
+                trovato.corretto = Ripara(voce, cosa, tabella, setup);
+            riscontri.push_back(std::move(trovato));
+        }
+    }
+    return riscontri;
 }
 
 } // namespace orvane

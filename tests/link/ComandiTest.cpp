@@ -56,7 +56,6 @@ TEST(Comandi, EachSetterAsItGoesOut) {
         {[](R& r) { ImpostaRigaLimiteDSD(r, "0,5e3;60,50"); }, "#SLDW0,5e3;60,50*"},
         {[](R& r) { ImpostaFineLimite(r, "EN55011"); }, "#SLIEEN55011*"},
         {[](R& r) { ImpostaMargine(r, -6.1f); }, "#SLIM-6.1*"},
-        {[](R& r) { ImpostaRigaTabFreq(r, 7, 30.1); }, "#SSFW 7,30100000*"},
         {DisabilitaCF, "#SCFA -1*"},
         {ImpostaBreak, "#SSTP*"},
         {StopSweep, "#SSTP*"},
