@@ -73,8 +73,6 @@ void ElencoRiscontri::Mostra(const Segnalazioni& riscontri) {
     clear();
     for (const Segnalazione& riscontro : riscontri) {
         const QString parole = ParoleRiscontro(riscontro);
-        if (parole.isEmpty())
-            continue;
         auto* voce =
             new QTreeWidgetItem(this, {Righe(riscontro), Colonne(riscontro), parole,
                                        tr(kEsiti[static_cast<size_t>(riscontro.esito)].testo)});

@@ -12,7 +12,7 @@ class ElencoRiscontri : public QTreeWidget {
 public:
     explicit ElencoRiscontri(QWidget* padre);
 
-    /// Hides itself where there is none; findings without words are not listed.
+    /// Hides itself where there is none.
     void Mostra(const Segnalazioni& riscontri);
     /// As high as its rows need, a few at most.
     QSize sizeHint() const override;

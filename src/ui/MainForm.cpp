@@ -11,6 +11,7 @@
 #include "base/Versione.h"
 #include "data/Panels.h"
 #include "link/Protocollo.h"
+#include "setup/EsameTabella.h"
 #include "ui/FrmRemoteLink.h"
 #include "ui/InitForm.h"
 #include "ui/MenuConsole.h"
@@ -45,6 +46,15 @@ MainForm::MainForm(Scrivania& scrivania, ScanRecord& scan) : scrivania_(scrivani
 void MainForm::Collega(Console& console, CatalogoPorte& catalogo) {
     console_ = &console;
     catalogo_ = &catalogo;
+    sweep_->ImpostaEsame([this] {
+        const Ricevitore& r = console_->ricevitore;
+        return EsaminaTabella({.tabella = scan_.Righe,
+                               .modello = r.modello,
+                               .caps = r.caps,
+                               .setup = scrivania_.setup,
+                               .albero = scrivania_.albero,
+                               .rigaComando = scrivania_.ambiente.RigaComando()});
+    });
 }
 
 void MainForm::CreaFinestra() {

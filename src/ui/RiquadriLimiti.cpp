@@ -13,20 +13,22 @@ struct VoceCoppia {
     const char* nomeCornice;
     const char* nomeCasella;
     const char* nomeElenco;
+    const char* usa;
     char lettera;
     StatoControllo VistaModulo::*casella;
     StatoControllo VistaModulo::*elenco;
 };
 constexpr VoceCoppia kCoppie[] = {
     {CoppiaLimite::Prima, Cornice::FRMCustomLimits, "FRMCustomLimits", "CHKLimits",
-     "ComboBoxLimits", 'L', &VistaModulo::CHKLimits, &VistaModulo::ComboBoxLimits},
+     "ComboBoxLimits", "&Use", 'L', &VistaModulo::CHKLimits, &VistaModulo::ComboBoxLimits},
     {CoppiaLimite::DSD, Cornice::FRMCustomLimitsDSD, "FRMCustomLimitsDSD", "CHKLimitsDSD",
-     "ComboBoxLimitsDSD", 'I', &VistaModulo::CHKLimitsDSD, &VistaModulo::ComboBoxLimitsDSD},
+     "ComboBoxLimitsDSD", "Us&e", 'I', &VistaModulo::CHKLimitsDSD, &VistaModulo::ComboBoxLimitsDSD},
 };
 
 void CreaCoppia(PiantaModulo& pianta, const VoceCoppia& voce) {
-    auto* casella = Nomina(new QCheckBox(pianta.finestra), QLatin1String(voce.nomeCasella),
-                           QObject::tr("The limit applies"), QObject::tr("The limit applies"));
+    auto* casella = Nomina(new QCheckBox(QObject::tr(voce.usa), pianta.finestra),
+                           QLatin1String(voce.nomeCasella), QObject::tr("The limit applies"),
+                           QObject::tr("The limit applies"));
     auto* elenco = CreaElencoNomi(pianta, voce.nomeElenco, QObject::tr("Limit"),
                                   CompilaCBXLimiti(pianta.modulo.albero));
     QObject::connect(casella, &QCheckBox::clicked, casella, [&pianta, &voce](bool acceso) {
@@ -37,7 +39,7 @@ void CreaCoppia(PiantaModulo& pianta, const VoceCoppia& voce) {
                          pianta.cambiato(ScegliLimite(pianta.modulo, voce.coppia, S(nome)));
                      });
     auto* riga = new QHBoxLayout;
-    riga->setSpacing(6);
+    riga->setSpacing(12);
     riga->addWidget(casella);
     riga->addWidget(elenco, 1);
     CreaCornice(pianta, voce.cornice, voce.nomeCornice, riga, elenco, QLatin1Char(voce.lettera));

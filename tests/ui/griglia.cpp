@@ -53,8 +53,9 @@ void Griglia::Scrivi(int riga, ColonnaScan colonna, const char* testo) {
     auto* cella = griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella"));
     QVERIFY(cella);
     QTest::keyClicks(cella, QLatin1String(testo));
+    const QPointer<QLineEdit> questa = cella;
     QTest::keyClick(cella, Qt::Key_Return);
-    QTRY_VERIFY(!griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella")));
+    QTRY_VERIFY(!questa);
 }
 
 void Griglia::ScegliElenco(int riga, ColonnaScan colonna, int voce) {
