@@ -15,9 +15,6 @@ namespace {
 
 constexpr std::string_view kNessuno = "NONE";
 constexpr std::string_view kNessunaVoce = "-";
-constexpr std::array<std::string_view, 4> kLinee = {"N", "L1", "L2", "L3"};
-constexpr std::array<std::string_view, 4> kUscite = {"W", "X", "Y", "Z"};
-constexpr std::array<std::string_view, 2> kAntenne = {"V", "H"};
 
 bool Nessuno(std::string_view testo) {
     return Rifila(testo).empty() || UgualiSenzaMaiuscole(Rifila(testo), kNessuno);
@@ -184,16 +181,16 @@ bool LeggiNomi(std::span<int16_t> flag, std::string_view testo,
 }
 
 std::string TestoLinee(const ScanLine& riga) {
-    return NomiAccesi(riga.LineSwitch, kLinee);
+    return NomiAccesi(riga.LineSwitch, kNomiLinee);
 }
 bool LeggiLinee(ScanLine& riga, std::string_view testo, int) {
-    return LeggiNomi(riga.LineSwitch, testo, kLinee, kUscite);
+    return LeggiNomi(riga.LineSwitch, testo, kNomiLinee, kNomiUscite);
 }
 std::string TestoAntenna(const ScanLine& riga) {
-    return NomiAccesi(riga.Antenna, kAntenne);
+    return NomiAccesi(riga.Antenna, kNomiAntenne);
 }
 bool LeggiAntenna(ScanLine& riga, std::string_view testo, int) {
-    return LeggiNomi(riga.Antenna, testo, kAntenne, kAntenne);
+    return LeggiNomi(riga.Antenna, testo, kNomiAntenne, kNomiAntenne);
 }
 
 using L = ScanLine;

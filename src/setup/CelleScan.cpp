@@ -15,9 +15,9 @@ constexpr std::array<std::string_view, static_cast<size_t>(ColonnaScan::NumColon
     "",    "Start\n[MHz]", "Stop\n[MHz]", "Step",    "Detector",     "Hold Time",
     "RBW", "Min Att",      "Pre Amp",     "Pre Sel", "Prompt start", "Ancillary"};
 
-constexpr std::array<std::string_view, 4> kNomiLinee = {"N ", "L1", "L2", "L3"};
-constexpr std::array<std::string_view, 4> kNomiScatola = {"W", "X", "Y", "Z"};
-constexpr std::array<std::string_view, 2> kNomiAntenna = {"V ", "H "};
+// A cell shows the one-letter names of lines and polarisations two wide.
+constexpr std::array<std::string_view, 4> kCelleLinee = {"N ", "L1", "L2", "L3"};
+constexpr std::array<std::string_view, 2> kCelleAntenna = {"V ", "H "};
 
 std::string TestoFreq(double mhz) {
     return mhz == 0 ? "" : TestoDaNumero(mhz);
@@ -84,11 +84,11 @@ std::string TestoAncillary(const ScanLine& riga, int ancillaryKind) {
     case 1:
     case 2:
     case 6:
-        return NomiAccesi(riga.LineSwitch, kNomiLinee);
+        return NomiAccesi(riga.LineSwitch, kCelleLinee);
     case 3:
-        return NomiAccesi(riga.Antenna, kNomiAntenna);
+        return NomiAccesi(riga.Antenna, kCelleAntenna);
     case 4:
-        return NomiAccesi(riga.LineSwitch, kNomiScatola);
+        return NomiAccesi(riga.LineSwitch, kNomiUscite);
     case 5:
         return "Table - Mast";
     default:

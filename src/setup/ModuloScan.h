@@ -94,6 +94,11 @@ VistaModulo VistaDelModulo(const ModuloScan& modulo);
 /// The selections that a line has with this kind, in order; none for 0 and 5.
 std::vector<VoceAncillary> VociAncillary(const ScanLine& riga, int ancillaryKind);
 
+/// Whether a pair names a limit that no Smart line can use; on or off.
+bool LimiteLineareScelto(const ModuloScan& modulo, CoppiaLimite coppia);
+/// A line without Smart whose limit keeps Smart out.
+bool LimiteVietaSmart(const ModuloScan& modulo);
+
 // Edits. A refusal comes back as the box that the caller shows; the copy is then as the rule
 // leaves it, and the window shows it afresh.
 

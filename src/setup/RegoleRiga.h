@@ -16,6 +16,11 @@ inline constexpr float kMargineMax = 19;   ///< dB, either way
 inline constexpr int16_t kNumStepMax = 49; ///< between two entries of a frequency table
 inline constexpr size_t kPromptMax = 200;  ///< characters
 
+/// Selections by their flags: lines of a network, outputs of the switch box, polarisations.
+inline constexpr std::array<std::string_view, 4> kNomiLinee = {"N", "L1", "L2", "L3"};
+inline constexpr std::array<std::string_view, 4> kNomiUscite = {"W", "X", "Y", "Z"};
+inline constexpr std::array<std::string_view, 2> kNomiAntenne = {"V", "H"};
+
 enum class UnitaPasso { Hz, kHz, MHz };
 struct VoceUnitaPasso {
     std::string_view testo;

@@ -14,9 +14,15 @@ constexpr std::array kVerbi = {
     VoceVerbo{"identify", "", "who the receiver is, one `key: value` a line", VerboIdentify},
     VoceVerbo{"ports", "", "the serial ports of this machine, with their COM numbers", VerboPorts},
     VoceVerbo{"scan",
-              "list | show NAME | clear NAME | add NAME (--band B | --start MHZ --stop MHZ)\n"
-              "        [--rbw TEXT] [--detector P,Q,...] [--hold MS] [--step MHZ] [--min-att DB]\n"
-              "        [--preamp on|off] [--presel on|off]",
+              "list | show NAME | clear NAME | remove NAME LINE | copy NAME LINE\n"
+              "        | move NAME LINE TO | add NAME (--band B | --start MHZ --stop MHZ) ...\n"
+              "        | insert NAME LINE (--band B | --start MHZ --stop MHZ) ...\n"
+              "        | set NAME LINE ... with [--start MHZ] [--stop MHZ] [--rbw TEXT]\n"
+              "        [--step MHZ] [--auto-step on|off] [--table NAME|none] [--steps-between N]\n"
+              "        [--detector P,Q,...] [--hold MS] [--smart on|off] [--peak-hold MS]\n"
+              "        [--margin DB] [--limit NAME|none] [--limit-dsd NAME|none] [--min-att DB]\n"
+              "        [--preamp on|off] [--presel on|off] [--prompt TEXT] [--lines L1,L2]\n"
+              "        [--antenna V,H]; all with [--ancillary N]",
               "scan tables", VerboScan},
     VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
               "the run of a scan table, with progress on standard error; Ctrl-C is Stop",

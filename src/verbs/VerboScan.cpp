@@ -1,218 +1,98 @@
-#include <algorithm>
 #include <ostream>
 
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
-#include "base/Testo.h"
-#include "data/ControllaRecord.h"
-#include "data/Panels.h"
+#include "data/Cartelle.h"
+#include "records/SetupRecord.h"
+#include "setup/ModuloScan.h"
+#include "setup/RegoleRiga.h"
+#include "setup/StimaDurata.h"
 #include "setup/TabellaScan.h"
-#include "verbs/Argomenti.h"
 #include "verbs/Json.h"
-#include "verbs/Verbo.h"
+#include "verbs/OpzioniRiga.h"
+#include "verbs/VerboScanModifica.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kNessunAncillary = 0;
+constexpr std::string_view kParole = "list, show, add, insert, set, remove, move, copy or clear?";
 
-/// Index of a filter by its text, blanks and case aside; -1 for none.
-int TrovaRbw(std::string_view testo) {
-    const auto ridotto = [](std::string_view t) { return Maiuscolo(Sostituisci(t, " ", "")); };
-    for (size_t i = 0; i < TabellaRbw().size(); ++i)
-        if (!TabellaRbw()[i].Separatore() && ridotto(TabellaRbw()[i].testo) == ridotto(testo))
-            return static_cast<int>(i);
-    return -1;
-}
-
-/// An option that is a number; `errore` tells of one that is none.
-std::optional<double> Numero(const Argomenti& argomenti, const std::string& nome,
-                             std::string& errore) {
-    const auto testo = argomenti.Opzione(nome);
-    if (!testo)
-        return std::nullopt;
-    const auto numero = LeggiNumero(*testo);
-    if (!numero)
-        errore = "--" + nome + " wants a number, not \"" + *testo + "\"";
-    return numero;
-}
-
-void ApplicaOnOff(const Argomenti& argomenti, const std::string& nome, int16_t& campo,
-                  std::string& errore) {
-    const auto testo = argomenti.Opzione(nome);
-    if (!testo)
-        return;
-    if (*testo != "on" && *testo != "off")
-        errore = "--" + nome + " wants on or off";
-    campo = *testo == "on" ? 1 : 0;
-}
-
-void ApplicaRbw(const Argomenti& argomenti, ScanLine& riga, std::string& errore) {
-    const auto testo = argomenti.Opzione("rbw");
-    if (!testo)
-        return;
-    const int id = TrovaRbw(*testo);
-    if (id < 0)
-        errore = "unknown filter \"" + *testo + "\"";
-    else
-        ScriviCellaScanLine(riga, ColonnaScan::Rbw, {}, id);
-}
-
-void ApplicaDetector(const Argomenti& argomenti, ScanLine& riga, std::string& errore) {
-    const auto testo = argomenti.Opzione("detector");
-    if (!testo)
-        return;
-    if (const auto detector = LeggiDetector(*testo))
-        riga.Detector = *detector;
-    else
-        errore = "unknown detector in \"" + *testo + "\": P, Q, R, A, N, C";
-}
-
-void ApplicaMinAtt(const Argomenti& argomenti, ScanLine& riga, std::string& errore) {
-    const auto dB = Numero(argomenti, "min-att", errore);
-    if (!dB)
-        return;
-    const auto voce = std::find(kMinAttDb.begin(), kMinAttDb.end(), *dB);
-    if (voce == kMinAttDb.end())
-        errore = "--min-att wants 0, 10, 20, 30, 40 or 50";
-    else
-        riga.MinAtt = static_cast<int16_t>(voce - kMinAttDb.begin());
-}
-
-void ApplicaPasso(const Argomenti& argomenti, ScanLine& riga, std::string& errore) {
-    if (const auto passo = Numero(argomenti, "step", errore)) {
-        riga.AutoStep = 0;
-        riga.Step = *passo;
-        if (*passo <= 0)
-            errore = "--step wants a step above 0";
-    }
-    if (const auto tempo = Numero(argomenti, "hold", errore))
-        riga.HoldTime = static_cast<float>(std::clamp(*tempo, 0.0, 30000.0));
-}
-
-/// The options that say more than the band. What is wrong with them; empty when nothing is.
-std::string ApplicaOpzioni(const Argomenti& argomenti, ScanLine& riga) {
-    std::string errore;
-    ApplicaRbw(argomenti, riga, errore);
-    ApplicaDetector(argomenti, riga, errore);
-    ApplicaMinAtt(argomenti, riga, errore);
-    ApplicaPasso(argomenti, riga, errore);
-    ApplicaOnOff(argomenti, "preamp", riga.PreAmp, errore);
-    ApplicaOnOff(argomenti, "presel", riga.PreSel, errore);
-    return errore;
-}
-
-/// Lines of a band, with those that a composite one brings along.
-std::vector<ScanLine> RigheDellaBanda(int indice) {
-    const VoceBanda& banda = TabellaBande()[static_cast<size_t>(indice)];
-    std::vector<ScanLine> righe(1);
-    ImpostaBanda(righe[0], banda, kNessunAncillary);
-    for (const int seguente : banda.seguenti) {
-        if (seguente < 0)
-            continue;
-        ImpostaBanda(righe.emplace_back(), TabellaBande()[static_cast<size_t>(seguente)],
-                     kNessunAncillary);
-    }
-    return righe;
-}
-
-std::vector<ScanLine> RigaDaFrequenze(double startMhz, double stopMhz) {
-    std::vector<ScanLine> righe(1);
-    ScanLine& riga = righe[0];
-    ImpostaLineaDefault(riga, kNessunAncillary);
-    riga.Start = startMhz;
-    riga.Stop = stopMhz;
-    ScriviCellaScanLine(riga, ColonnaScan::Rbw, {}, DetRBWDefault(startMhz, stopMhz));
-    return righe;
-}
-
-std::vector<ScanLine> RigheDaAggiungere(const Argomenti& argomenti, std::string& errore) {
-    if (const auto nome = argomenti.Opzione("band")) {
-        const int indice = TrovaBanda(*nome);
-        if (indice >= 0)
-            return RigheDellaBanda(indice);
-        errore = "unknown band \"" + *nome + "\"";
-        return {};
-    }
-    const auto start = Numero(argomenti, "start", errore);
-    const auto stop = Numero(argomenti, "stop", errore);
-    if (errore.empty() && (!start || !stop || !(*start > 0) || !(*start < *stop)))
-        errore = "wants --band, or --start below --stop, in MHz";
-    return errore.empty() ? RigaDaFrequenze(*start, *stop) : std::vector<ScanLine>{};
-}
-
-/// Loads an existing table into `scan`; kFatto, or why not.
-EsitoVerbo CaricaEsistente(Banco& banco, const std::string& nome, ScanRecord& scan) {
-    const std::string percorso = PercorsoPannello(nome, "EST");
-    if (!banco.scrivania.albero.Esiste(percorso))
-        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
-    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
-        return kGuastoFile;
-    ControllaScan(scan);
-    CompattaScanTable(scan.Righe);
-    return kFatto;
-}
-
-EsitoVerbo Salva(Banco& banco, const std::string& nome, const ScanRecord& scan) {
-    return SalvaPanelEST(banco.scrivania, PercorsoPannello(nome, "EST"), scan) ? kFatto
-                                                                               : kGuastoFile;
-}
-
-EsitoVerbo Aggiungi(Banco& banco, const std::string& nome, const Argomenti& argomenti) {
-    ScanRecord scan;
-    if (banco.scrivania.albero.Esiste(PercorsoPannello(nome, "EST")))
-        if (const auto esito = CaricaEsistente(banco, nome, scan); esito != kFatto)
-            return esito;
-    std::string errore;
-    std::vector<ScanLine> nuove = RigheDaAggiungere(argomenti, errore);
-    for (ScanLine& riga : nuove)
-        if (errore.empty())
-            errore = ApplicaOpzioni(argomenti, riga);
-    size_t usate = RigheInUso(scan.Righe);
-    if (errore.empty() && usate + nuove.size() > kMaxScanLine)
-        errore = "a scan table holds ten lines at most";
-    if (!errore.empty())
-        return UsoErrato(banco, "scan", errore);
-    for (const ScanLine& riga : nuove)
-        scan.Righe[usate++] = riga;
-    return Salva(banco, nome, scan);
-}
-
-void StampaRiga(Banco& banco, Json& json, const ScanLine& riga, size_t numero) {
-    json.Oggetto().Coppia("line", static_cast<double>(numero));
+void CoppiaPasso(Json& json, const ScanLine& riga) {
     json.Coppia("start_mhz", riga.Start).Coppia("stop_mhz", riga.Stop);
     json.Coppia("step_mhz", riga.Step).Coppia("auto_step", riga.AutoStep == 1);
-    json.Coppia("detectors", LettereDetector(riga)).Coppia("hold_ms", riga.HoldTime);
-    json.Coppia("rbw", TestoCella(riga, ColonnaScan::Rbw, kNessunAncillary));
+    json.Coppia("by_table", riga.StepMode == 1).Coppia("table", riga.FreqTable);
+    json.Coppia("steps_between", static_cast<int>(riga.NumStepFT));
+}
+
+void CoppiaDetector(Json& json, const ScanLine& riga) {
+    json.Coppia("detectors", LettereDetector(riga)).Coppia("smart", riga.Smart == 1);
+    json.Coppia("double_smart", ControllaCondizioniDSDScanTab(riga));
+    json.Coppia("hold_ms", riga.HoldTime).Coppia("peak_hold_ms", riga.HoldTimeSD);
+    json.Coppia("margin_db", riga.Margin);
+    json.Coppia("limit_on", riga.LimitOn == 1).Coppia("limit", riga.Limit);
+    json.Coppia("limit_dsd_on", riga.LimitDSDOn == 1).Coppia("limit_dsd", riga.LimitDSD);
+}
+
+void CoppiaIngresso(Json& json, const ScanLine& riga) {
+    json.Coppia("rbw", TestoCella(riga, ColonnaScan::Rbw, 0));
     json.Coppia("min_att_db", kMinAttDb[static_cast<size_t>(riga.MinAtt)]);
     json.Coppia("preamp", riga.PreAmp == 1).Coppia("presel", riga.PreSel == 1);
+    json.Coppia("prompt_on", riga.PromptOn == 1).Coppia("prompt", riga.Prompt);
+}
+
+/// The selections whose flags are on, under the names of a kind.
+void ListaSelezioni(Json& json, std::string_view chiave, const ScanLine& riga, int ancillaryKind) {
+    json.Chiave(chiave).Lista();
+    for (const VoceAncillary& voce : VociAncillary(riga, ancillaryKind))
+        if (voce.accesa)
+            json.Testo(voce.nome);
+    json.Chiudi();
+}
+
+void JsonRiga(Json& json, const ScanLine& riga, size_t numero, int ancillaryKind) {
+    constexpr int kQuattroLinee = 2, kAntenna = 3, kScatola = 4;
+    json.Oggetto().Coppia("line", static_cast<double>(numero));
+    CoppiaPasso(json, riga);
+    CoppiaDetector(json, riga);
+    CoppiaIngresso(json, riga);
+    ListaSelezioni(json, "lines", riga, ancillaryKind == kScatola ? kScatola : kQuattroLinee);
+    ListaSelezioni(json, "antenna", riga, kAntenna);
+    json.Coppia("passes", PassateDellaRiga(riga, ancillaryKind));
     json.Coppia("steps", static_cast<double>(PassiDellaRiga(riga))).Chiudi();
-    if (banco.json)
-        return;
+}
+
+void StampaRiga(Banco& banco, const ScanLine& riga, size_t numero, int ancillaryKind) {
     banco.dati << numero;
     for (int c = 1; c < static_cast<int>(ColonnaScan::NumColonne); ++c)
-        banco.dati << "\t" << TestoCella(riga, static_cast<ColonnaScan>(c), kNessunAncillary);
+        banco.dati << "\t" << TestoCella(riga, static_cast<ColonnaScan>(c), ancillaryKind);
     banco.dati << "\n";
 }
 
-EsitoVerbo Mostra(Banco& banco, const std::string& nome) {
+EsitoVerbo Mostra(Banco& banco, const std::string& nome, int ancillaryKind) {
     ScanRecord scan;
-    if (const auto esito = CaricaEsistente(banco, nome, scan); esito != kFatto)
+    if (const auto esito = CaricaTabellaScan(banco, nome, scan); esito != kFatto)
         return esito;
+    const StimaSweep stima = StimaTabella(banco.scrivania.albero, scan.Righe, ancillaryKind);
     Json json;
-    json.Oggetto().Coppia("name", nome).Chiave("lines").Lista();
-    for (size_t i = 0; i < RigheInUso(scan.Righe); ++i)
-        StampaRiga(banco, json, scan.Righe[i], i + 1);
+    json.Oggetto().Coppia("name", nome).Coppia("ancillary", ancillaryKind);
+    json.Coppia("estimated_s", stima.secondi).Chiave("lines").Lista();
+    for (size_t i = 0; i < RigheInUso(scan.Righe); ++i) {
+        JsonRiga(json, scan.Righe[i], i + 1, ancillaryKind);
+        if (!banco.json)
+            StampaRiga(banco, scan.Righe[i], i + 1, ancillaryKind);
+    }
     json.Chiudi().Chiudi();
     if (banco.json)
         banco.dati << json.Documento() << "\n";
+    else if (stima.punti > 0)
+        banco.messaggi << TestoStima(stima, ancillaryKind) << "\n";
     return kFatto;
 }
 
 EsitoVerbo Elenca(Banco& banco) {
     Json json;
     json.Lista();
-    for (const std::string& file : banco.scrivania.albero.ElencaFile("Panels\\", "EST")) {
+    for (const std::string& file : banco.scrivania.albero.ElencaFile(cartella::kPanels, "EST")) {
         const std::string nome = RimuoviEstensione(file);
         json.Testo(nome);
         if (!banco.json)
@@ -223,30 +103,42 @@ EsitoVerbo Elenca(Banco& banco) {
     return kFatto;
 }
 
+/// What is attached: as the options say, or as the panel has it; empty for a wrong number.
+std::optional<int> LeggiAncillary(const Banco& banco, const Argomenti& argomenti) {
+    const auto testo = argomenti.Opzione("ancillary");
+    if (!testo)
+        return AncillaryDi(banco.scrivania.setup);
+    for (int kind = 0; kind <= kMaxAncillaryKind; ++kind)
+        if (LeggiNumero(*testo) == kind)
+            return kind;
+    return std::nullopt;
+}
+
 } // namespace
 
 EsitoVerbo VerboScan(Banco& banco, Parole parole) {
-    const Argomenti argomenti(parole, {"band", "start", "stop", "rbw", "detector", "hold", "step",
-                                       "min-att", "preamp", "presel"});
+    const Argomenti argomenti(parole, OpzioniDiRiga());
     const auto& posizioni = argomenti.Posizioni();
     if (!argomenti.Errore().empty() || posizioni.empty())
-        return UsoErrato(banco, "scan",
-                         argomenti.Errore().empty() ? "list, show, add or clear?"
-                                                    : argomenti.Errore());
+        return UsoErrato(banco, "scan", argomenti.Errore().empty() ? kParole : argomenti.Errore());
     if (posizioni[0] == "list" && posizioni.size() == 1)
         return Elenca(banco);
-    if (posizioni.size() != 2)
+    const bool modifica = ModificaLineeScan(posizioni[0]);
+    if (posizioni.size() < 2 || (posizioni.size() > 2 && !modifica))
         return UsoErrato(banco, "scan", "wants the name of a scan table");
     const auto nome = NomeDaParola(posizioni[1]);
     if (!nome)
         return UsoErrato(banco, "scan", "\"" + posizioni[1] + "\" is no name for a scan table");
+    const auto ancillary = LeggiAncillary(banco, argomenti);
+    if (!ancillary)
+        return UsoErrato(banco, "scan", "--ancillary wants a number from 0 to 6");
     if (posizioni[0] == "show")
-        return Mostra(banco, *nome);
+        return Mostra(banco, *nome, *ancillary);
     if (posizioni[0] == "clear")
-        return Salva(banco, *nome, ScanRecord{});
-    if (posizioni[0] == "add")
-        return Aggiungi(banco, *nome, argomenti);
-    return UsoErrato(banco, "scan", "list, show, add or clear?");
+        return SalvaTabellaScan(banco, *nome, ScanRecord{});
+    if (modifica)
+        return EseguiModificaScan(banco, *nome, argomenti, *ancillary);
+    return UsoErrato(banco, "scan", kParole);
 }
 
 } // namespace orvane
