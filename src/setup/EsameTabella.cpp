@@ -25,6 +25,7 @@ Segnalazioni EsaminaTabella(const ContestoControlli& contesto) {
     const ReceiverModel modello = ModelloNoto(contesto.modello);
     const std::array<ModelCaps, 2> caps = ImpostaModelCaps(modello);
     Segnalazioni trovate;
+    int numero = 0; // of the check that spoke last
     for (Riscontro& riscontro : EsaminaScan({.tabella = contesto.tabella,
                                 .modello = modello,
                                 .caps = caps,
@@ -33,10 +34,16 @@ Segnalazioni EsaminaTabella(const ContestoControlli& contesto) {
                                 .rigaComando = contesto.rigaComando,
                                 .runKind = contesto.runKind})) {
         Segnalazione& una = riscontro.segnalazione;
-        if (una.riquadro.testo.empty() && una.esito == EsitoControllo::Ferma)
+        const bool ferma = una.esito == EsitoControllo::Ferma;
+        // A check that first repairs and then stops all the same says so once.
+        if (una.riquadro.testo.empty() && ferma && numero == riscontro.numero)
+            trovate.back().esito = EsitoControllo::Ferma;
+        else if (una.riquadro.testo.empty() && ferma)
             una.riquadro.testo = riscontro.motivo;
-        if (!una.riquadro.testo.empty())
-            trovate.push_back(std::move(una));
+        if (una.riquadro.testo.empty())
+            continue;
+        numero = riscontro.numero;
+        trovate.push_back(std::move(una));
     }
     return trovate;
 }

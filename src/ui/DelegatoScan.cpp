@@ -36,6 +36,20 @@ bool RigaScelta(const QAbstractItemView& vista, const QModelIndex& indice) {
            vista.selectionModel()->rowIntersectsSelection(indice.row(), indice.parent());
 }
 
+/// The text, and right behind it the sign of a cell that a check refused.
+void ScriviCella(QPainter& p, const QStyleOptionViewItem& o, const QFontMetrics& misure,
+                 const QColor& colore, bool errata) {
+    const int lato = errata ? misure.ascent() : 0;
+    const QRect dove = o.rect.adjusted(kMargine, 0, -4 - (errata ? lato + 5 : 0), 0);
+    const QString testo = misure.elidedText(o.text, Qt::ElideRight, dove.width());
+    p.drawText(dove, Qt::AlignVCenter | Qt::TextSingleLine, testo);
+    if (errata)
+        DisegnaAvviso(p,
+                      QRectF(dove.left() + misure.horizontalAdvance(testo.trimmed()) + 5,
+                             o.rect.center().y() - lato / 2.0, lato, lato),
+                      colore);
+}
+
 /// Tells when its list goes away, whether an entry was chosen or not.
 class ListaCella : public QComboBox {
 public:
@@ -104,15 +118,8 @@ void DelegatoScan::paint(QPainter* p, const QStyleOptionViewItem& opzione,
     QFont carattere = o.font;
     carattere.setPointSizeF(carattere.pointSizeF() * 1.08);
     p->setFont(carattere);
-    QRect testo = o.rect.adjusted(kMargine, 0, -4, 0);
-    if (indice.data(kRuoloErrata).toBool()) {
-        const int lato = QFontMetrics(carattere).ascent();
-        testo.setRight(testo.right() - lato - 3);
-        DisegnaAvviso(*p, QRectF(testo.right() + 4, o.rect.center().y() - lato / 2.0, lato, lato),
-                      ColoreCella(o, indice));
-    }
-    p->drawText(testo, Qt::AlignVCenter | Qt::TextSingleLine,
-                QFontMetrics(carattere).elidedText(o.text, Qt::ElideRight, testo.width()));
+    ScriviCella(*p, o, QFontMetrics(carattere), ColoreCella(o, indice),
+                indice.data(kRuoloErrata).toBool());
 }
 
 QWidget* DelegatoScan::createEditor(QWidget* padre, const QStyleOptionViewItem&,

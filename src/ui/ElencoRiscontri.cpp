@@ -57,6 +57,7 @@ ElencoRiscontri::ElencoRiscontri(QWidget* padre) : QTreeWidget(padre) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setFrameShape(QFrame::NoFrame);
+    setViewportMargins(6, 0, 0, 0);
     setIconSize({14, 14});
     viewport()->setBackgroundRole(QPalette::Window);
     header()->setStretchLastSection(false);
@@ -77,6 +78,8 @@ void ElencoRiscontri::Mostra(const Segnalazioni& riscontri) {
             new QTreeWidgetItem(this, {Righe(riscontro), Colonne(riscontro), parole,
                                        tr(kEsiti[static_cast<size_t>(riscontro.esito)].testo)});
         voce->setIcon(0, IconaScan(SegnoScan::Avviso));
+        voce->setSizeHint(0,
+                          QSize(fontMetrics().horizontalAdvance(voce->text(0)) + 40, RigaAlta()));
         voce->setForeground(3, palette().placeholderText());
         const bool cella = !riscontro.celle.empty();
         voce->setData(
@@ -91,9 +94,12 @@ void ElencoRiscontri::Mostra(const Segnalazioni& riscontri) {
 }
 
 QSize ElencoRiscontri::sizeHint() const {
-    const int righe = std::min(topLevelItemCount(), kRigheMassime);
-    const int alta = topLevelItemCount() > 0 ? visualItemRect(topLevelItem(0)).height() : 0;
-    return {QTreeWidget::sizeHint().width(), std::max(alta, fontMetrics().height() + 6) * righe};
+    return {QTreeWidget::sizeHint().width(),
+            RigaAlta() * std::min(topLevelItemCount(), kRigheMassime)};
+}
+
+int ElencoRiscontri::RigaAlta() const {
+    return fontMetrics().height() + 7;
 }
 
 void ElencoRiscontri::Scegli(const QTreeWidgetItem* voce) {

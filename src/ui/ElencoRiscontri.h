@@ -22,6 +22,7 @@ Q_SIGNALS:
     void Scelto(int riga, ColonnaScan colonna);
 
 private:
+    int RigaAlta() const;
     void Scegli(const QTreeWidgetItem* voce);
 };
 

@@ -56,6 +56,8 @@ GridScanTab::GridScanTab(ScanTable& tabella, const SetupRecord& setup, bool modi
 }
 
 void GridScanTab::ApriCellaScanTab(const QModelIndex& cella) {
+    if (state() == EditingState)
+        return;
     if (modello_->ConModulo(cella))
         Q_EMIT ModuloChiesto(cella, {});
     else if (cella.isValid() && cella.flags() & Qt::ItemIsEditable)

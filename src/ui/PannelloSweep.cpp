@@ -136,6 +136,8 @@ void PannelloSweep::CollegaComandi() {
 void PannelloSweep::Carica() {
     ElencaTabelle();
     AggiornaGriglia();
+    if (isVisible() && !griglia_->currentIndex().isValid())
+        griglia_->VaiAllaCella(0, ColonnaScan::Start);
 }
 
 void PannelloSweep::MostraFase(FaseCorsa fase) {
