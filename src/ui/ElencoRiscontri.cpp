@@ -57,7 +57,6 @@ ElencoRiscontri::ElencoRiscontri(QWidget* padre) : QTreeWidget(padre) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setFrameShape(QFrame::NoFrame);
-    setViewportMargins(6, 0, 0, 0);
     setIconSize({14, 14});
     viewport()->setBackgroundRole(QPalette::Window);
     header()->setStretchLastSection(false);

@@ -92,6 +92,11 @@ void PannelloSweep::ModuloChiuso(const QModelIndex& cella) {
 }
 
 void PannelloSweep::ApriBande() {
+    if (!picker_->isVisible()) {
+        picker_->adjustSize();
+        const QPoint sopra = piede_->Bande().mapToGlobal(QPoint(0, 0));
+        picker_->move(sopra.x(), std::max(0, sopra.y() - picker_->height() - 40));
+    }
     picker_->show();
     picker_->raise();
     picker_->activateWindow();

@@ -59,7 +59,10 @@ PiedeScan::PiedeScan(const AzioniScan& azioni, QWidget* padre) : QWidget(padre) 
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
     colonna->addWidget(CreaFilo(this));
-    colonna->addWidget(riscontri_);
+    auto* elenco = new QHBoxLayout;
+    elenco->setContentsMargins(6, 0, 0, 0);
+    elenco->addWidget(riscontri_);
+    colonna->addLayout(elenco);
     colonna->addLayout(barra);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }

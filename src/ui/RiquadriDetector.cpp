@@ -74,13 +74,13 @@ void CreaRiquadriDetector(PiantaModulo& pianta) {
     if (!ApreCornice(pianta.modulo.colonna, Cornice::FRMDetector))
         return;
     CreaGruppo(pianta);
-    CreaNumero(pianta, Cornice::FRMHoldTimeSD, "FRMHoldTimeSD", "TBHoldTimeSD",
-               QObject::tr("Hold time of the peak scan in ms, at most 30000; 0 is the lowest"),
-               QLatin1Char('k'), ModificaHoldTimeSD, &ScanLine::HoldTimeSD);
     auto* hold = CreaNumero(pianta, Cornice::FRMHoldTime, "FRMHoldTime", "TBHoldTime",
                             QObject::tr("Hold time in ms, at most 30000; 0 is the lowest"),
                             QLatin1Char('H'), ModificaHoldTime, &ScanLine::HoldTime);
     hold->setPlaceholderText(QObject::tr("Lowest"));
+    CreaNumero(pianta, Cornice::FRMHoldTimeSD, "FRMHoldTimeSD", "TBHoldTimeSD",
+               QObject::tr("Hold time of the peak scan in ms, at most 30000; 0 is the lowest"),
+               QLatin1Char('k'), ModificaHoldTimeSD, &ScanLine::HoldTimeSD);
     auto* margine = CreaNumero(pianta, Cornice::FRMMargin, "FRMMargin", "TBMargin",
                                QObject::tr("Margin to the limit in dB, -19 to 19"),
                                QLatin1Char('M'), ModificaMargin, &ScanLine::Margin);

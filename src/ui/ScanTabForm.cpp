@@ -77,6 +77,7 @@ QLayout* ScanTabForm::CreaPulsanti() {
     connect(bene, &QPushButton::clicked, this, &QDialog::accept);
     auto* riga = new QHBoxLayout;
     riga->setContentsMargins(0, 4, 0, 0);
+    riga->addSpacing(fontMetrics().averageCharWidth() * 14); // room for the title
     riga->addStretch(1);
     riga->addWidget(annulla);
     riga->addWidget(bene);
@@ -96,7 +97,8 @@ void ScanTabForm::Specchia() {
 }
 
 QWidget* ScanTabForm::Primo() const {
-    auto* primo = findChild<QWidget*>(QLatin1String(Cerca(kPrimi, modulo_.colonna)));
+    const QLatin1String nome(Cerca(kPrimi, modulo_.colonna));
+    auto* primo = nome.isEmpty() ? nullptr : findChild<QWidget*>(nome);
     if (primo && primo->isVisible() && primo->isEnabled())
         return primo;
     for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain())
@@ -142,11 +144,12 @@ void ScanTabForm::showEvent(QShowEvent* evento) {
 }
 
 void ScanTabForm::accept() {
-    if (QWidget* aperto = focusWidget())
+    QWidget* aperto = focusWidget();
+    if (aperto)
         aperto->clearFocus(); // commits the text that is being typed
     if (const auto rifiuto = ChiudiModulo(modulo_, linea_)) {
         ambiente_.Mostra(*rifiuto);
-        return;
+        return (aperto ? aperto : this)->setFocus();
     }
     QDialog::accept();
 }

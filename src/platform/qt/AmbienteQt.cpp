@@ -6,7 +6,7 @@
 #include <cstdio>
 
 #include <QAbstractEventDispatcher>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMessageBox>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -134,7 +134,9 @@ void AmbienteQt::ElaboraEventi(double alPiuS, Veglia veglia) {
 
 Risposta AmbienteQt::Mostra(const Riquadro& riquadro) {
     const VocePulsanti& voce = kPulsanti[static_cast<size_t>(riquadro.pulsanti)];
-    QMessageBox scatola(finestra);
+    // Over the window that waits for the answer: a dialog, where one is up.
+    QWidget* sopra = QApplication::activeModalWidget();
+    QMessageBox scatola(sopra ? sopra : finestra);
     scatola.setObjectName(QStringLiteral("Riquadro"));
     scatola.setWindowTitle(
         TestoRiquadro(riquadro.titolo.empty() ? kNomeProgramma : riquadro.titolo));
