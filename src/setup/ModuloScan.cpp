@@ -53,9 +53,9 @@ ModuloScan ApriModulo(const AlberoDati& albero, ColonnaScan colonna, int ancilla
                       .colonna = colonna,
                       .ancillaryKind = ancillaryKind,
                       .riga = riga,
-                      .originale = riga,
-                      .unita = UnitaDelPasso(riga.Step)};
+                      .originale = riga};
     AggiornaStepAuto(modulo.riga);
+    modulo.unita = UnitaDelPasso(modulo.riga.Step);
     return modulo;
 }
 

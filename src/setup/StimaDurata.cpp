@@ -7,6 +7,7 @@
 #include "base/Numeri.h"
 #include "data/Cartelle.h"
 #include "data/TabelleFrequenza.h"
+#include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -39,9 +40,17 @@ double MsDiConferma(const ScanLine& riga, double punti) {
     return punti * kQuotaSmart * volte * (MsDiMisura(riga, riga.HoldTime) + kMsPerPasso);
 }
 
+/// Smart decides by the hold time of its peak scan, and two detectors under it leave no FFT.
+bool PassataFFT(const ScanLine& riga) {
+    constexpr float kHoldFFT = 50; // ms
+    const bool smart = riga.Smart == 1;
+    const bool esclusa = ControllaCondizioniDSDScanTab(riga) || riga.HoldTimeSD >= kHoldFFT;
+    return ControllaScanFFT(riga) && !(smart && esclusa);
+}
+
 double MsDellaPassata(const ScanLine& riga, double punti) {
     const double una = MsDiMisura(riga, riga.Smart == 1 ? riga.HoldTimeSD : riga.HoldTime);
-    const double prese = ControllaScanFFT(riga) ? std::ceil(punti / kPuntiPerFFT) : punti;
+    const double prese = PassataFFT(riga) ? std::ceil(punti / kPuntiPerFFT) : punti;
     return prese * (una + kMsPerPasso) + MsDiConferma(riga, punti);
 }
 
