@@ -24,6 +24,8 @@ constexpr std::array kVerbi = {
               "        [--preamp on|off] [--presel on|off] [--prompt TEXT] [--lines L1,L2]\n"
               "        [--antenna V,H]; all with [--ancillary N]",
               "scan tables", VerboScan},
+    VoceVerbo{"check", "--scan NAME [--name MEASURE]",
+              "what the checks before a run find in a scan table; nothing is changed", VerboCheck},
     VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
               "the run of a scan table, with progress on standard error; Ctrl-C is Stop",
               VerboSweep},

@@ -62,6 +62,7 @@ EsitoVerbo EsitoDelLink(const Banco& banco);
 EsitoVerbo VerboIdentify(Banco& banco, Parole parole);
 EsitoVerbo VerboScan(Banco& banco, Parole parole);
 EsitoVerbo VerboSweep(Banco& banco, Parole parole);
+EsitoVerbo VerboCheck(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);

@@ -31,11 +31,10 @@ def SetupRecord(seme):
     for i in range(10):
         Testo(byte, 1328 + 60 * i, 60, ("Limit %d" % i) if i < 3 else "NONE")
     Campo(byte, 2534, "3h", 1, 2, 90)
-    Campo(byte, 2542, "d", -10.5)
-    Campo(byte, 2552, "dh", 12.5, 1)
+    Campo(byte, 2540, "hdhdh", 0, -10.5, 0, 12.5, 1)
     for i in range(7):
         Testo(byte, 2562 + 60 * i, 60, "NONE")
-    Campo(byte, 2982, "7hhh", *[0] * 7, 0, 1)
+    Campo(byte, 2982, "7hhh5h", *[0] * 7, 0, 1, *[0] * 5)
     Campo(byte, 3610, "hhhhhhhh", -1, -1, 0, 1, 0, -1, 0, 0)  # menu marks among them
     Testo(byte, 3664, 60, "Biconical")
     Campo(byte, 3822, "f", 2.0)
@@ -188,6 +187,8 @@ class ProvaSweep(ProvaStrada):
             banda, generatore, prima, filtro = casi[modello]
             dati = self.Sottocartella(modello.replace("/", "-"))
             opzioni = "--start 7000 --stop 18000" if banda == "22" else "--band " + banda
+            if modello.startswith(("3360", "K3X")):  # no preselector there
+                opzioni += " --presel off"
             self.Tabella("T", opzioni, dati=dati)
             con_header = modello in ("5520F", "GX2207F")
             flusso = Flusso(passi=50, intestazione=5000.0 if con_header else None)
@@ -196,6 +197,8 @@ class ProvaSweep(ProvaStrada):
             da = peer.comandi.index("#SCFA -1*")
             # What the 3360 family lacks never reaches the line.
             tronco = PRIMA if modello != "3360/01" else PRIMA[:1]
+            if modello == "GX2207F":  # brought to swept operation, and identified anew
+                tronco = [PRIMA[0], "#CHGS*", *IDENTIFICA[1:5], *PRIMA[1:]]
             quanti = len(tronco) + len(generatore) + len(prima)
             comandi = peer.comandi[da : da + quanti + 1]
             self.assertEqual([c.split("S80;")[0] for c in comandi[:quanti]],
@@ -203,7 +206,7 @@ class ProvaSweep(ProvaStrada):
             campi = comandi[quanti].split(";")
             self.assertTrue(comandi[quanti].startswith("#SSFD "), comandi)
             self.assertEqual(campi[5], filtro)
-            self.assertEqual(campi[8], "OFF" if modello == "5590" else "ON")
+            self.assertEqual(campi[8], "ON" if modello in ("5520F", "GX2207F") else "OFF")
             self.assertEqual(self.FileMisura("M", "RS0", dati).stat().st_size, 50 * 12)
 
         InParallelo(self, casi, Corpo)
@@ -212,7 +215,7 @@ class ProvaSweep(ProvaStrada):
         """Two overlapping lines: a command and a file each; the trace takes the higher level."""
         self.Tabella("T", f"{BREVE} --detector P,A", "--start 0.65 --stop 1.65 --step 0.01")
         with Peer(flussi=[Flusso(LivelloPlausibile), Flusso(lambda k, d: 4000 + 30 * k)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, risposta="yes")
         inizio = peer.comandi.index("#?BAT*")
         attesi = Linea("#SSFD 150000;1150000;10000;PA;0;6;10;OFF;ON;0*")
         attesi += Linea("#SSFD 650000;1650000;10000;P;0;6;10;OFF;ON;0*")
@@ -315,7 +318,7 @@ class ProvaSweep(ProvaStrada):
 
     def test_sovrascrive(self):
         """With the warning off the old traces give way, all of them."""
-        self.Tabella("T", BREVE, BREVE)
+        self.Tabella("T", BREVE, "--start 2 --stop 3 --step 0.01")
         setup = SetupRecord(3)
         Campo(setup, 3610, "h", 0)
         (self.dati / "Panels" / "Untitled.EAM").write_bytes(setup)
@@ -331,7 +334,7 @@ class ProvaSweep(ProvaStrada):
     def test_rifiuti_dei_controlli(self):
         """The checks before a run refuse with their words; no file of the measure is made."""
         casi = {
-            "--start 40 --stop 50": ("5520", "Start/Stop Frequency Error"),
+            "--start 19000 --stop 20000": ("5520", "Start/Stop Frequency Error"),
             "--start 0.15 --stop 1 --step 0.6": ("5520", "Too big step"),
             "--start 0.15 --stop 1 --step 0.00005": ("5520", "Too small step"),
             "--start 0.15 --stop 0.15005 --step 0.001": ("5520", "Too small Span"),

@@ -114,6 +114,7 @@ TEST_F(CorsaTest, AnOlderMeasureStandsUntilTheNewOneHasBegun) {
 TEST_F(CorsaTest, TrackingIsSetOnceMoreBeforeEachLine) {
     banco.scrivania.setup.TGOn = 1;
     MettiBanda(banco.scan.Righe[1], "B", "A");
+    banco.scan.Righe[1].Start = 1;
     ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
     const auto& comandi = banco.simulato.Comandi();
     EXPECT_EQ(std::count(comandi.begin(), comandi.end(), "#STGTON*"), 3);
@@ -255,7 +256,12 @@ TEST_F(CorsaTest, ChecksRefuseBeforeAnythingIsWritten) {
     };
     const Caso casi[] = {
         {"span turned round", [](ScanLine& r) { r.Stop = r.Start; }, "Start/Stop Frequency Error"},
-        {"out of reach", [](ScanLine& r) { r.Stop = 31; }, "Start/Stop Frequency Error"},
+        {"out of reach",
+         [](ScanLine& r) {
+             r.Start = 19000;
+             r.Stop = 20000;
+         },
+         "Start/Stop Frequency Error"},
         {"step too small",
          [](ScanLine& r) {
              r.AutoStep = 0;
