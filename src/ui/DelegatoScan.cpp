@@ -112,7 +112,7 @@ void DelegatoScan::paint(QPainter* p, const QStyleOptionViewItem& opzione,
     if (cella) {
         p->setPen(QPen(Tinta(o.palette, Ruolo::Accento), 1));
         p->setBrush(Qt::NoBrush);
-        p->drawRect(o.rect.adjusted(0, 0, -1, -2));
+        p->drawRect(o.rect.adjusted(0, 1, -1, -2));
     }
     p->setPen(ColoreCella(o, indice));
     QFont carattere = o.font;

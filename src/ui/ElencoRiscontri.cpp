@@ -1,5 +1,7 @@
 #include "ui/ElencoRiscontri.h"
 
+#include <algorithm>
+
 #include <QHeaderView>
 
 #include "ui/IconeScan.h"
@@ -17,10 +19,11 @@ constexpr int kRuoloColonna = Qt::UserRole + 1;
 struct ParolaEsito {
     EsitoControllo esito;
     const char* testo;
+    int posto; ///< in the list, the worst first
 };
-constexpr ParolaEsito kEsiti[] = {{EsitoControllo::Ferma, "stops the run"},
-                                  {EsitoControllo::Corregge, "is corrected"},
-                                  {EsitoControllo::Chiede, "asks"}};
+constexpr ParolaEsito kEsiti[] = {{EsitoControllo::Ferma, "stops the run", 0},
+                                  {EsitoControllo::Corregge, "is corrected", 2},
+                                  {EsitoControllo::Chiede, "asks", 1}};
 
 QString NomeColonna(ColonnaScan colonna) {
     return Q(TitoloColonna(colonna)).section(QLatin1Char('\n'), 0, 0);
@@ -69,27 +72,33 @@ ElencoRiscontri::ElencoRiscontri(QWidget* padre) : QTreeWidget(padre) {
     hide();
 }
 
-void ElencoRiscontri::Mostra(const Segnalazioni& riscontri) {
+void ElencoRiscontri::Mostra(Segnalazioni riscontri) {
     clear();
-    for (const Segnalazione& riscontro : riscontri) {
-        const QString parole = ParoleRiscontro(riscontro);
-        auto* voce =
-            new QTreeWidgetItem(this, {Righe(riscontro), Colonne(riscontro), parole,
-                                       tr(kEsiti[static_cast<size_t>(riscontro.esito)].testo)});
-        voce->setIcon(0, IconaScan(SegnoScan::Avviso));
-        voce->setSizeHint(0,
-                          QSize(fontMetrics().horizontalAdvance(voce->text(0)) + 40, RigaAlta()));
-        voce->setForeground(3, palette().placeholderText());
-        const bool cella = !riscontro.celle.empty();
-        voce->setData(
-            0, kRuoloRiga,
-            static_cast<int>(cella ? riscontro.celle.front().riga : riscontro.riga.value_or(0)));
-        voce->setData(
-            0, kRuoloColonna,
-            static_cast<int>(cella ? riscontro.celle.front().colonna : ColonnaScan::Start));
-    }
+    std::stable_sort(riscontri.begin(), riscontri.end(),
+                     [](const Segnalazione& a, const Segnalazione& b) {
+                         return kEsiti[static_cast<size_t>(a.esito)].posto <
+                                kEsiti[static_cast<size_t>(b.esito)].posto;
+                     });
+    for (const Segnalazione& riscontro : riscontri)
+        Aggiungi(riscontro);
     setVisible(topLevelItemCount() > 0);
     updateGeometry();
+}
+
+void ElencoRiscontri::Aggiungi(const Segnalazione& riscontro) {
+    const QString parole = ParoleRiscontro(riscontro);
+    auto* voce =
+        new QTreeWidgetItem(this, {Righe(riscontro), Colonne(riscontro), parole,
+                                   tr(kEsiti[static_cast<size_t>(riscontro.esito)].testo)});
+    voce->setIcon(0, IconaScan(SegnoScan::Avviso));
+    voce->setSizeHint(0, QSize(fontMetrics().horizontalAdvance(voce->text(0)) + 40, RigaAlta()));
+    voce->setForeground(3, palette().placeholderText());
+    const bool cella = !riscontro.celle.empty();
+    voce->setData(
+        0, kRuoloRiga,
+        static_cast<int>(cella ? riscontro.celle.front().riga : riscontro.riga.value_or(0)));
+    voce->setData(0, kRuoloColonna,
+                  static_cast<int>(cella ? riscontro.celle.front().colonna : ColonnaScan::Start));
 }
 
 QSize ElencoRiscontri::sizeHint() const {

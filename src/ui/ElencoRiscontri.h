@@ -13,7 +13,7 @@ public:
     explicit ElencoRiscontri(QWidget* padre);
 
     /// Hides itself where there is none.
-    void Mostra(const Segnalazioni& riscontri);
+    void Mostra(Segnalazioni riscontri);
     /// As high as its rows need, a few at most.
     QSize sizeHint() const override;
 
@@ -22,6 +22,7 @@ Q_SIGNALS:
     void Scelto(int riga, ColonnaScan colonna);
 
 private:
+    void Aggiungi(const Segnalazione& riscontro);
     int RigaAlta() const;
     void Scegli(const QTreeWidgetItem* voce);
 };

@@ -94,8 +94,9 @@ void PannelloSweep::ModuloChiuso(const QModelIndex& cella) {
 void PannelloSweep::ApriBande() {
     if (!picker_->isVisible()) {
         picker_->adjustSize();
-        const QPoint sopra = piede_->Bande().mapToGlobal(QPoint(0, 0));
-        picker_->move(sopra.x(), std::max(0, sopra.y() - picker_->height() - 40));
+        // Above the grid: the row that it works on stays in sight.
+        const QPoint angolo = mapToGlobal(QPoint(0, 0));
+        picker_->move(angolo.x() + 10, std::max(0, angolo.y() - picker_->height() - 40));
     }
     picker_->show();
     picker_->raise();
