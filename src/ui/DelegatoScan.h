@@ -21,6 +21,8 @@ public:
 Q_SIGNALS:
     /// The cell was committed by Return or by a choice: the next one is wanted.
     void Confermata();
+    /// The cell was committed by a key that leads away from it.
+    void Spostata(int righe, int colonne);
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;

@@ -7,9 +7,8 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
-#include "setup/ModificaTabella.h"
+#include "setup/TastiScan.h"
 #include "ui/DelegatoScan.h"
-#include "ui/SceltaDetector.h"
 
 namespace orvane {
 namespace {
@@ -19,15 +18,16 @@ constexpr std::array<int, 12> kQuote = {4, 8, 8, 8, 9, 10, 10, 8, 9, 8, 12, 9};
 
 } // namespace
 
-GridScanTab::GridScanTab(ScanTable& tabella, bool modificabile, QWidget* padre)
-    : QTableView(padre), modello_(new ModelloScan(tabella, modificabile, this)) {
+GridScanTab::GridScanTab(ScanTable& tabella, const SetupRecord& setup, bool modificabile,
+                         QWidget* padre)
+    : QTableView(padre), modello_(new ModelloScan(tabella, setup, modificabile, this)) {
     setModel(modello_);
     setItemDelegate(new DelegatoScan(this));
     setAccessibleName(tr("Scan table"));
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
     viewport()->setBackgroundRole(QPalette::Window);
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
     setTabKeyNavigation(false);
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -37,9 +37,19 @@ GridScanTab::GridScanTab(ScanTable& tabella, bool modificabile, QWidget* padre)
     horizontalHeader()->setMinimumSectionSize(30);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ScalaTesto(100);
-    connect(this, &QTableView::clicked, this, &GridScanTab::ApriCellaScanTab);
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& cella) {
+        if (apreIlClick_)
+            ApriCellaScanTab(cella);
+    });
     connect(static_cast<DelegatoScan*>(itemDelegate()), &DelegatoScan::Confermata, this,
             &GridScanTab::Avanza, Qt::QueuedConnection);
+    connect(static_cast<DelegatoScan*>(itemDelegate()), &DelegatoScan::Spostata, this,
+            [this](int righe, int colonne) {
+                const QModelIndex cella = modello_->index(currentIndex().row() + righe,
+                                                          currentIndex().column() + colonne);
+                if (cella.isValid() && cella.column() > 0)
+                    setCurrentIndex(cella);
+            });
 }
 
 void GridScanTab::ScalaTesto(int percento) {
@@ -54,45 +64,59 @@ void GridScanTab::ScalaTesto(int percento) {
 }
 
 void GridScanTab::ApriCellaScanTab(const QModelIndex& cella) {
-    if (!modello_->Modificabile() || !cella.isValid())
+    if (state() == EditingState)
         return;
-    if (static_cast<ColonnaScan>(cella.column()) == ColonnaScan::Detector)
-        return ApriDetector(cella);
-    if (cella.flags() & Qt::ItemIsEditable)
+    if (modello_->ConModulo(cella))
+        Q_EMIT ModuloChiesto(cella, {});
+    else if (cella.isValid() && cella.flags() & Qt::ItemIsEditable)
         edit(cella);
-}
-
-void GridScanTab::ApriDetector(const QModelIndex& cella) {
-    if (!modello_->Modificabile() || !RigaCompleta(modello_->Riga(cella.row())))
-        return;
-    const auto riga = static_cast<size_t>(cella.row());
-    auto* scelta = new SceltaDetector(modello_->Riga(cella.row()).Detector, this);
-    connect(scelta, &SceltaDetector::Cambiato, this, [this, scelta, riga](int detector, bool si) {
-        ScanLine& linea = modello_->Tabella()[riga];
-        CambiaDetector(linea, static_cast<DetectorKind>(detector), si);
-        scelta->Mostra(linea.Detector);
+    else
         modello_->Aggiorna();
-        Q_EMIT modello_->Modificata();
-    });
-    scelta->Apri(viewport()->mapToGlobal(visualRect(cella).bottomLeft()));
 }
 
-/// To the next cell that can be edited, at the end of the row to the first of the next.
+std::pair<int, int> GridScanTab::RigheScelte() const {
+    int prima = currentIndex().isValid() ? currentIndex().row() : -1;
+    int ultima = prima;
+    for (const QModelIndex& cella : selectionModel()->selectedIndexes()) {
+        prima = std::min(prima, cella.row());
+        ultima = std::max(ultima, cella.row());
+    }
+    return {prima, ultima};
+}
+
+void GridScanTab::ScegliRighe(int prima, int ultima) {
+    const int colonna = std::max(currentIndex().column(), 1);
+    setCurrentIndex(modello_->index(prima, colonna));
+    if (ultima > prima)
+        selectionModel()->select(
+            QItemSelection(modello_->index(prima, colonna), modello_->index(ultima, colonna)),
+            QItemSelectionModel::ClearAndSelect);
+}
+
+void GridScanTab::VaiAllaCella(int riga, ColonnaScan colonna) {
+    const QModelIndex cella = modello_->index(riga, static_cast<int>(colonna));
+    if (!cella.isValid())
+        return;
+    setFocus();
+    setCurrentIndex(cella);
+    scrollTo(cella);
+}
+
 void GridScanTab::Avanza() {
-    int riga = currentIndex().row();
-    int colonna = currentIndex().column();
+    PostoScan posto{static_cast<size_t>(std::max(currentIndex().row(), 0)),
+                    static_cast<ColonnaScan>(currentIndex().column())};
     for (int passo = 0; passo < modello_->columnCount() * 2; ++passo) {
-        if (++colonna >= modello_->columnCount()) {
-            colonna = 1;
-            ++riga;
-        }
-        const QModelIndex cella = modello_->index(riga, colonna);
-        if (!cella.isValid())
+        posto = CellaSeguente(posto.riga, posto.colonna, static_cast<size_t>(modello_->rowCount()));
+        const QModelIndex cella =
+            modello_->index(static_cast<int>(posto.riga), static_cast<int>(posto.colonna));
+        if (posto.oltre || !cella.isValid())
             return;
-        const bool detector = static_cast<ColonnaScan>(colonna) == ColonnaScan::Detector &&
-                              RigaCompleta(modello_->Riga(riga));
-        if (detector || cella.flags() & Qt::ItemIsEditable)
-            return setCurrentIndex(cella);
+        if (modello_->ConModulo(cella) || cella.flags() & Qt::ItemIsEditable) {
+            setCurrentIndex(cella);
+            if (ModelloScan::InTesto(cella))
+                edit(cella);
+            return;
+        }
     }
 }
 
@@ -106,14 +130,26 @@ void GridScanTab::keyPressEvent(QKeyEvent* evento) {
     case Qt::Key_Space:
     case Qt::Key_F2:
         return ApriCellaScanTab(cella);
-    case Qt::Key_Delete:
-        CancellaRiga(modello_->Tabella(), static_cast<size_t>(cella.row()));
-        modello_->Aggiorna();
-        Q_EMIT modello_->Modificata();
-        return;
     default:
-        QTableView::keyPressEvent(evento);
+        break;
     }
+    const bool comando = evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (modello_->ConModulo(cella) && !comando && !evento->text().isEmpty() &&
+        evento->text().front().isPrint())
+        Q_EMIT ModuloChiesto(cella, evento->text());
+    else
+        QTableView::keyPressEvent(evento);
+}
+
+/// The other button brings the menu and opens nothing.
+void GridScanTab::mousePressEvent(QMouseEvent* evento) {
+    QTableView::mousePressEvent(evento);
+    apreIlClick_ = evento->button() == Qt::LeftButton && !(evento->modifiers() & Qt::ShiftModifier);
+}
+
+void GridScanTab::currentChanged(const QModelIndex& ora, const QModelIndex& prima) {
+    QTableView::currentChanged(ora, prima);
+    Q_EMIT RigaCorrenteCambiata();
 }
 
 void GridScanTab::resizeEvent(QResizeEvent* evento) {

@@ -11,6 +11,7 @@
 #include "base/Versione.h"
 #include "data/Panels.h"
 #include "link/Protocollo.h"
+#include "setup/EsameTabella.h"
 #include "ui/FrmRemoteLink.h"
 #include "ui/InitForm.h"
 #include "ui/Tema.h"
@@ -46,6 +47,15 @@ MainForm::MainForm(Scrivania& scrivania, ScanRecord& scan) : scrivania_(scrivani
 void MainForm::Collega(Console& console, CatalogoPorte& catalogo) {
     console_ = &console;
     catalogo_ = &catalogo;
+    sweep_->ImpostaEsame([this] {
+        const Ricevitore& r = console_->ricevitore;
+        return EsaminaTabella({.tabella = scan_.Righe,
+                               .modello = r.modello,
+                               .caps = r.caps,
+                               .setup = scrivania_.setup,
+                               .albero = scrivania_.albero,
+                               .rigaComando = scrivania_.ambiente.RigaComando()});
+    });
 }
 
 void MainForm::CreaFinestra() {
@@ -107,7 +117,7 @@ QWidget* MainForm::CreaCentro() {
     conPiede->addWidget(piede_);
     conPiede->setStretchFactor(0, 3);
     conPiede->setStretchFactor(1, 1);
-    conPiede->setSizes({560, 250});
+    conPiede->setSizes({500, 310});
     ricevitore_ = new PaginaRicevitore(pagine_);
     pagine_->addWidget(conPiede);
     pagine_->addWidget(ricevitore_);
@@ -143,7 +153,7 @@ QWidget* MainForm::CreaPiedeArchivio() {
     QFont carattere = titoloMisura_->font();
     carattere.setWeight(QFont::DemiBold);
     titoloMisura_->setFont(carattere);
-    righeMisura_ = new GridScanTab(righeAperte_, false, piede);
+    righeMisura_ = new GridScanTab(righeAperte_, misura_.header.Setup, false, piede);
     righeMisura_->setObjectName(QStringLiteral("GridRigheMisura"));
     righeMisura_->setAccessibleName(tr("Scan lines of the measure"));
     colonna->addWidget(titoloMisura_);

@@ -109,6 +109,7 @@ void MainForm::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {
 
 void MainForm::MostraModello() {
     AggiornaEtichette();
+    sweep_->RinnovaEsame();
 }
 
 /// The axis of the table that is being edited; a trace stays as long as it fits the axis.

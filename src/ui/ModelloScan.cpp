@@ -2,8 +2,8 @@
 
 #include <QFont>
 
-#include "base/Numeri.h"
 #include "setup/ModificaTabella.h"
+#include "setup/ModuloScan.h"
 #include "ui/Testi.h"
 
 namespace orvane {
@@ -30,8 +30,9 @@ constexpr const char* kAiutoColonna[] = {
 
 } // namespace
 
-ModelloScan::ModelloScan(ScanTable& tabella, bool modificabile, QObject* padre)
-    : QAbstractTableModel(padre), tabella_(tabella), modificabile_(modificabile) {
+ModelloScan::ModelloScan(ScanTable& tabella, const SetupRecord& setup, bool modificabile,
+                         QObject* padre)
+    : QAbstractTableModel(padre), tabella_(tabella), setup_(setup), modificabile_(modificabile) {
     Aggiorna();
 }
 
@@ -54,17 +55,16 @@ QVariant ModelloScan::data(const QModelIndex& indice, int ruolo) const {
             (riga.Stop == 0 && colonna == ColonnaScan::Stop) ||
             (!RigaCompleta(riga) && colonna > ColonnaScan::Stop))
             return QString();
-        return Q(TestoCella(riga, colonna, kAncillaryKind));
+        return Q(TestoCella(riga, colonna, Ancillary()));
     case Qt::EditRole:
-        if (colonna == ColonnaScan::HoldTime)
-            return Q(TestoDaNumero(riga.HoldTime));
         return data(indice, Qt::DisplayRole);
-    case Qt::ToolTipRole: // what the column is too narrow for
-        return data(indice, Qt::DisplayRole);
-    case Qt::UserRole:
-        return Errata(indice);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return Aiuto(indice);
+    case kRuoloErrata:
+        return Del(indice).corsa || !Del(indice).perche.isEmpty();
     case Qt::FontRole:
-        if (Errata(indice)) {
+        if (data(indice, kRuoloErrata).toBool()) {
             QFont carattere;
             carattere.setBold(true);
             return carattere;
@@ -91,10 +91,8 @@ Qt::ItemFlags ModelloScan::flags(const QModelIndex& indice) const {
     Qt::ItemFlags bandiere = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     if (!modificabile_ || !indice.isValid())
         return bandiere;
-    const ColonnaScan colonna = Colonna(indice);
-    const bool frequenza = colonna == ColonnaScan::Start || colonna == ColonnaScan::Stop;
-    const bool scelta = colonna == ColonnaScan::HoldTime || !ElencoCella(colonna).isEmpty();
-    if (frequenza || (scelta && RigaCompleta(Riga(indice.row()))))
+    const bool scelta = !ElencoCella(Colonna(indice)).isEmpty();
+    if (InTesto(indice) || (scelta && RigaCompleta(Riga(indice.row()))))
         bandiere |= Qt::ItemIsEditable;
     return bandiere;
 }
@@ -104,12 +102,8 @@ bool ModelloScan::setData(const QModelIndex& indice, const QVariant& valore, int
         return false;
     const auto riga = static_cast<size_t>(indice.row());
     const ColonnaScan colonna = Colonna(indice);
-    if (colonna == ColonnaScan::HoldTime)
-        ModificaHoldTime(tabella_[riga], S(valore.toString()));
-    else
-        ModificaCella(tabella_, riga, colonna, S(valore.toString()), valore.toInt(),
-                      kAncillaryKind);
-    errate_[riga][static_cast<size_t>(colonna)] = false;
+    ModificaCella(tabella_, riga, colonna, S(valore.toString()), valore.toInt(), Ancillary());
+    DimenticaSegno(indice.row(), colonna);
     Aggiorna();
     Q_EMIT Modificata();
     return true;
@@ -127,6 +121,10 @@ void ModelloScan::Aggiorna() {
         righe_ = volute;
         endRemoveRows();
     }
+    TuttoCambiato();
+}
+
+void ModelloScan::TuttoCambiato() {
     if (righe_ > 0)
         Q_EMIT dataChanged(index(0, 0), index(righe_ - 1, columnCount() - 1));
 }
@@ -134,7 +132,7 @@ void ModelloScan::Aggiorna() {
 void ModelloScan::EvidenziaErrore(int riga, ColonnaScan colonna, bool errata) {
     if (riga < 0 || riga >= static_cast<int>(kMaxScanLine))
         return;
-    errate_[static_cast<size_t>(riga)][static_cast<size_t>(colonna)] = errata;
+    Del(static_cast<size_t>(riga), colonna).corsa = errata;
     const QModelIndex cella = index(riga, static_cast<int>(colonna));
     if (cella.isValid())
         Q_EMIT dataChanged(cella, cella);
@@ -145,8 +143,57 @@ void ModelloScan::ImpostaModificabile(bool si) {
     Aggiorna();
 }
 
-bool ModelloScan::Errata(const QModelIndex& indice) const {
-    return errate_[static_cast<size_t>(indice.row())][static_cast<size_t>(indice.column())];
+void ModelloScan::DimenticaSegno(int riga, ColonnaScan colonna) {
+    EvidenziaErrore(riga, colonna, false);
+}
+
+void ModelloScan::DimenticaSegni() {
+    for (auto& riga : segni_)
+        for (Segno& segno : riga)
+            segno.corsa = false;
+    TuttoCambiato();
+}
+
+void ModelloScan::MostraRiscontri(const Segnalazioni& riscontri) {
+    for (auto& riga : segni_)
+        for (Segno& segno : riga)
+            segno.perche.clear();
+    for (const Segnalazione& riscontro : riscontri)
+        for (const CellaErrata& cella : riscontro.celle) {
+            QString& perche = Del(cella.riga, cella.colonna).perche;
+            perche +=
+                (perche.isEmpty() ? QString() : QStringLiteral("\n")) + ParoleRiscontro(riscontro);
+        }
+    TuttoCambiato();
+}
+
+const ModelloScan::Segno& ModelloScan::Del(const QModelIndex& indice) const {
+    return segni_[static_cast<size_t>(indice.row())][static_cast<size_t>(indice.column())];
+}
+
+/// Why the cell is marked; else what the column may be too narrow for.
+QString ModelloScan::Aiuto(const QModelIndex& indice) const {
+    const Segno& segno = Del(indice);
+    if (!segno.perche.isEmpty())
+        return segno.perche;
+    if (segno.corsa)
+        return tr("The last run was refused because of this cell");
+    return data(indice, Qt::DisplayRole).toString();
+}
+
+bool ModelloScan::ConModulo(const QModelIndex& cella) const {
+    return modificabile_ && cella.isValid() && RigaCompleta(Riga(cella.row())) &&
+           ApriCellaScanTab(Colonna(cella), static_cast<size_t>(cella.row()), Ancillary()) ==
+               AperturaCella::Finestra;
+}
+
+bool ModelloScan::InTesto(const QModelIndex& cella) {
+    return Colonna(cella) == ColonnaScan::Start || Colonna(cella) == ColonnaScan::Stop;
+}
+
+// The boxes center their words with blanks.
+QString ParoleRiscontro(const Segnalazione& riscontro) {
+    return Q(riscontro.riquadro.testo).simplified();
 }
 
 QStringList ElencoCella(ColonnaScan colonna) {

@@ -6,18 +6,21 @@
 #include <QAbstractTableModel>
 
 #include "records/ScanRecord.h"
+#include "records/SetupRecord.h"
+#include "setup/Controlli.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
 
-/// The one ancillary that this release drives: none.
-inline constexpr int kAncillaryKind = 0;
+/// Roles of a cell beside Qt's own.
+inline constexpr int kRuoloErrata = Qt::UserRole; ///< a run or a finding marks it
 
 class ModelloScan : public QAbstractTableModel {
     Q_OBJECT
 public:
-    /// `modificabile`: shows one row more than there are lines, and takes edits.
-    ModelloScan(ScanTable& tabella, bool modificabile, QObject* padre);
+    /// `modificabile`: shows one row more than there are lines, and takes edits. The ancillary
+    /// that the last column speaks of is the set-up's.
+    ModelloScan(ScanTable& tabella, const SetupRecord& setup, bool modificabile, QObject* padre);
 
     int rowCount(const QModelIndex& padre = {}) const override;
     int columnCount(const QModelIndex& padre = {}) const override;
@@ -29,26 +32,51 @@ public:
 
     /// The table behind has changed.
     void Aggiorna();
+    /// A mark of a run: stays until the next run clears it or the cell is edited.
     void EvidenziaErrore(int riga, ColonnaScan colonna, bool errata);
+    /// Drops the marks of the last run: of a cell that was edited, or all of them where lines
+    /// moved.
+    void DimenticaSegno(int riga, ColonnaScan colonna);
+    void DimenticaSegni();
+    /// Marks the cells that findings name, in place of those of the findings before.
+    void MostraRiscontri(const Segnalazioni& riscontri);
     void ImpostaModificabile(bool si);
     bool Modificabile() const { return modificabile_; }
     ScanTable& Tabella() { return tabella_; }
     const ScanLine& Riga(int i) const { return tabella_[static_cast<size_t>(i)]; }
+    int Ancillary() const { return AncillaryDi(setup_); }
+    /// Whether the settings window opens over the cell.
+    bool ConModulo(const QModelIndex& cella) const;
+    /// Whether `TBCella` is what edits the cell.
+    static bool InTesto(const QModelIndex& cella);
 
 Q_SIGNALS:
     /// A cell was committed: the panel is to be saved.
     void Modificata();
 
 private:
-    bool Errata(const QModelIndex& indice) const;
+    struct Segno {
+        bool corsa = false; ///< marked by the last run
+        QString perche;     ///< what the findings say, a line each
+    };
+
+    Segno& Del(size_t riga, ColonnaScan colonna) {
+        return segni_[riga][static_cast<size_t>(colonna)];
+    }
+    const Segno& Del(const QModelIndex& indice) const;
+    QString Aiuto(const QModelIndex& indice) const;
+    void TuttoCambiato();
 
     ScanTable& tabella_;
+    const SetupRecord& setup_;
     bool modificabile_;
     int righe_ = 0;
-    std::array<std::array<bool, static_cast<size_t>(ColonnaScan::NumColonne)>, kMaxScanLine>
-        errate_{};
+    std::array<std::array<Segno, static_cast<size_t>(ColonnaScan::NumColonne)>, kMaxScanLine>
+        segni_{};
 };
 
+/// The words of a finding in one line.
+QString ParoleRiscontro(const Segnalazione& riscontro);
 /// Entries of the drop-down list of a cell; empty where the cell has none.
 QStringList ElencoCella(ColonnaScan colonna);
 /// The entry that a line has now.

@@ -10,6 +10,7 @@
 #include "base/Testo.h"
 #include "data/Panels.h"
 #include "setup/ModificaTabella.h"
+#include "setup/SceltaBande.h"
 #include "ui/Moduli.h"
 #include "ui/StileConsole.h"
 #include "ui/Testi.h"
@@ -49,10 +50,15 @@ PannelloSweep::PannelloSweep(Scrivania& scrivania, ScanRecord& scan, QWidget* pa
     colonna->setSpacing(0);
     colonna->addWidget(CreaComandi());
     colonna->addWidget(CreaFilo(this));
-    griglia_ = new GridScanTab(scan_.Righe, true, this);
+    griglia_ = new GridScanTab(scan_.Righe, scrivania_.setup, true, this);
     griglia_->setObjectName(QStringLiteral("GridScanTab"));
+    azioni_ = new AzioniScan(*griglia_);
+    piede_ = new PiedeScan(*azioni_, this);
+    picker_ = new FRMTDScanTab(scrivania_.ambiente, *griglia_, this);
     colonna->addWidget(griglia_, 1);
+    colonna->addWidget(piede_);
     CollegaComandi();
+    CollegaGriglia();
     MostraFase(FaseCorsa::Ferma);
 }
 
@@ -76,7 +82,7 @@ QWidget* PannelloSweep::CreaComandi() {
                           tr("Begins an empty scan table"), barra);
     cancella_ = CreaPulsante(QStringLiteral("CMBDeleteScanTab"), tr("Delete"),
                              tr("Deletes this scan table"), barra);
-    banda_ = CreaPulsante(QStringLiteral("CBXBanda"), tr("Add band"),
+    banda_ = CreaPulsante(QStringLiteral("CMBAddBanda"), tr("Add band"),
                           tr("Appends the lines of a standard band"), barra);
     CreaBande(banda_);
     misura_ = Nomina(new QLineEdit(Q(kSenzaNome), barra), QStringLiteral("TBMisura"),
@@ -84,10 +90,6 @@ QWidget* PannelloSweep::CreaComandi() {
     misura_->setMaxLength(60);
     misura_->setMaximumWidth(misura_->fontMetrics().averageCharWidth() * 30);
     misura_->setMinimumWidth(misura_->fontMetrics().averageCharWidth() * 14);
-    riassunto_ = CreaDidascalia(QString(), barra);
-    riassunto_->setObjectName(QStringLiteral("LBRiassunto"));
-    riassunto_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    riassunto_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     riga->addWidget(esegui_);
     riga->addWidget(pausa_);
     riga->addSpacing(8);
@@ -98,7 +100,7 @@ QWidget* PannelloSweep::CreaComandi() {
     riga->addSpacing(8);
     riga->addWidget(CreaDidascalia(tr("Measure"), barra));
     riga->addWidget(misura_, 1);
-    riga->addWidget(riassunto_, 3);
+    riga->addStretch(1);
     return barra;
 }
 
@@ -112,12 +114,10 @@ void PannelloSweep::CreaBande(QPushButton* pulsante) {
             continue;
         }
         menu->addAction(Q(banda.nome), this, [this, &banda] {
-            if (!AggiungiBanda(scan_.Righe, banda, kAncillaryKind)) {
-                scrivania_.ambiente.Mostra(
-                    {.testo = "A scan table has ten lines at most", .icona = Icona::Esclamazione});
-                return;
-            }
-            SalvaTabella();
+            if (AggiungiBanda(scan_.Righe, banda, AncillaryDi(scrivania_.setup)))
+                SalvaTabella();
+            else
+                Rifiuta(tr("A scan table has ten lines at most"));
         });
     }
     pulsante->setMenu(menu);
@@ -130,21 +130,14 @@ void PannelloSweep::CollegaComandi() {
     connect(tabelle_, &QComboBox::textActivated, this, &PannelloSweep::ScegliTabella);
     connect(tabelle_->lineEdit(), &QLineEdit::returnPressed, this,
             [this] { ScegliTabella(tabelle_->currentText()); });
-    connect(&griglia_->Modello(), &ModelloScan::Modificata, this, &PannelloSweep::SalvaTabella);
+    tabelle_->lineEdit()->installEventFilter(this);
 }
 
 void PannelloSweep::Carica() {
     ElencaTabelle();
     AggiornaGriglia();
-}
-
-void PannelloSweep::AggiornaGriglia() {
-    griglia_->Modello().Aggiorna();
-    ScriviRiassunto();
-}
-
-void PannelloSweep::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {
-    griglia_->Modello().EvidenziaErrore(riga, colonna, errata);
+    if (isVisible() && !griglia_->currentIndex().isValid())
+        griglia_->VaiAllaCella(0, ColonnaScan::Start);
 }
 
 void PannelloSweep::MostraFase(FaseCorsa fase) {
@@ -162,7 +155,12 @@ void PannelloSweep::MostraFase(FaseCorsa fase) {
                            static_cast<QWidget*>(cancella_), static_cast<QWidget*>(banda_),
                            static_cast<QWidget*>(misura_)})
         pezzo->setEnabled(ferma);
+    ferma_ = ferma;
     griglia_->Modello().ImpostaModificabile(ferma);
+    azioni_->Aggiorna();
+    picker_->Aggiorna();
+    if (ferma)
+        RinnovaEsame();
 }
 
 std::string PannelloSweep::Misura() const {
@@ -172,12 +170,6 @@ std::string PannelloSweep::Misura() const {
 
 void PannelloSweep::ImpostaMisura(const std::string& nome) {
     misura_->setText(Q(nome));
-}
-
-void PannelloSweep::SalvaTabella() {
-    SalvaPanelEST(scrivania_, scrivania_.env.ScanPanelPath, scan_);
-    AggiornaGriglia();
-    Q_EMIT TabellaCambiata();
 }
 
 void PannelloSweep::ElencaTabelle() {
@@ -219,17 +211,12 @@ void PannelloSweep::NuovaTabella() {
         nome = "New table " + TestoIntero(i);
     Imposta({}, nome);
     tabelle_->lineEdit()->selectAll();
-    griglia_->setFocus();
-    griglia_->setCurrentIndex(griglia_->Modello().index(0, 1));
+    griglia_->VaiAllaCella(0, ColonnaScan::Start);
 }
 
 void PannelloSweep::CancellaTabella() {
     const std::string nome = EstraiNomeFile(scrivania_.env.ScanPanelPath);
-    const Risposta risposta =
-        scrivania_.ambiente.Mostra({.testo = "Are you sure you want to delete " + nome + " ?",
-                                    .icona = Icona::Domanda,
-                                    .pulsanti = Pulsanti::SiNo});
-    if (risposta != Risposta::Si)
+    if (scrivania_.ambiente.Mostra(DomandaCancella(nome)) != Risposta::Si)
         return;
     scrivania_.albero.Cancella(scrivania_.env.ScanPanelPath);
     const auto restano = scrivania_.albero.ElencaFile("Panels\\", "EST");
@@ -239,20 +226,6 @@ void PannelloSweep::CancellaTabella() {
     if (!restano.empty())
         CaricaPanelEST(scrivania_, PercorsoPannello(altra, "EST"), scelta);
     Imposta(scelta, altra);
-}
-
-void PannelloSweep::ScriviRiassunto() {
-    long long punti = 0;
-    for (const ScanLine& riga : scan_.Righe)
-        punti += riga.Start != 0 ? PassiDellaRiga(riga) : 0;
-    const size_t righe = RigheInUso(scan_.Righe);
-    if (righe == 0)
-        return riassunto_->setText(tr("Type a start and a stop frequency, or add a band"));
-    QString numero = QString::number(punti);
-    for (int posto = static_cast<int>(numero.size()) - 3; posto > 0; posto -= 3)
-        numero.insert(posto, QChar(0x202F));
-    riassunto_->setText(righe == 1 ? tr("%1 points").arg(numero)
-                                   : tr("%1 points in %2 lines").arg(numero).arg(righe));
 }
 
 } // namespace orvane

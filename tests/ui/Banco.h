@@ -75,7 +75,7 @@ public:
     void Fra(int ms, std::function<void()> cosa) { QTimer::singleShot(ms, this, std::move(cosa)); }
     void Banda(const char* nome) { QVERIFY(AggiungiLaBanda(nome)); }
     bool AggiungiLaBanda(const char* nome) {
-        for (QAction* voce : Trova<QPushButton>("CBXBanda")->menu()->actions())
+        for (QAction* voce : Trova<QPushButton>("CMBAddBanda")->menu()->actions())
             if (voce->text() == QLatin1String(nome)) {
                 voce->trigger();
                 return true;

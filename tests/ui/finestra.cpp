@@ -34,7 +34,7 @@ void Finestra::NomiDocumentati_data() {
                              "CMBPauseSweep",
                              "CBXScanTab",
                              "TBMisura",
-                             "CBXBanda",
+                             "CMBAddBanda",
                              "CBXSweepsArchive",
                              "CBXDetectorMeasSweep",
                              "FRMErrore",

@@ -1,5 +1,6 @@
 // The scan grid as a user edits it: keys, lists, detectors, bands, panels.
 #include <QCheckBox>
+#include <QDialog>
 #include <QMenu>
 
 #include "Banco.h"
@@ -18,7 +19,6 @@ private Q_SLOTS:
     void InvioVaAvanti();
     void ElencoRbwCambiaIlPasso();
     void DetectorAlmenoUno();
-    void QuartoDetectorRestaSolo();
     void HoldTime_data();
     void HoldTime();
     void CancCancellaLaRiga();
@@ -35,6 +35,8 @@ private:
     /// Opens a cell, types over it and presses Return.
     void Scrivi(int riga, ColonnaScan colonna, const char* testo);
     void ScegliElenco(int riga, ColonnaScan colonna, int voce);
+    /// Opens the settings window over a cell.
+    QDialog* Modulo(int riga, ColonnaScan colonna);
 
     std::unique_ptr<Banco> banco_;
     QTableView* griglia_ = nullptr;
@@ -45,6 +47,7 @@ void Griglia::init() {
     banco_->Scheda(Modalita::Sweep);
     griglia_ = banco_->Trova<QTableView>("GridScanTab");
     griglia_->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&banco_->Finestra()));
 }
 
 void Griglia::Scrivi(int riga, ColonnaScan colonna, const char* testo) {
@@ -53,8 +56,9 @@ void Griglia::Scrivi(int riga, ColonnaScan colonna, const char* testo) {
     auto* cella = griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella"));
     QVERIFY(cella);
     QTest::keyClicks(cella, QLatin1String(testo));
+    const QPointer<QLineEdit> questa = cella;
     QTest::keyClick(cella, Qt::Key_Return);
-    QTRY_VERIFY(!griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella")));
+    QTRY_VERIFY(!questa);
 }
 
 void Griglia::ScegliElenco(int riga, ColonnaScan colonna, int voce) {
@@ -65,6 +69,12 @@ void Griglia::ScegliElenco(int riga, ColonnaScan colonna, int voce) {
     elenco->setCurrentIndex(voce);
     Q_EMIT elenco->activated(voce);
     QTRY_VERIFY(!griglia_->findChild<QComboBox*>(QStringLiteral("CBXCella")));
+}
+
+QDialog* Griglia::Modulo(int riga, ColonnaScan colonna) {
+    griglia_->setCurrentIndex(Cella(riga, colonna));
+    QTest::keyClick(griglia_, Qt::Key_Return);
+    return griglia_->findChild<QDialog*>(QStringLiteral("ScanTabForm"));
 }
 
 void Griglia::UnaRigaNuovaPrendeIPredefiniti() {
@@ -105,28 +115,22 @@ void Griglia::ElencoRbwCambiaIlPasso() {
     QCOMPARE(Cella(0, ColonnaScan::MinAtt).data().toString(), QStringLiteral("30 dB"));
 }
 
+/// The window works on a copy: Escape leaves the line, Return keeps and goes on.
 void Griglia::DetectorAlmenoUno() {
     banco_->Banda("B");
-    griglia_->setCurrentIndex(Cella(0, ColonnaScan::Detector));
-    QTest::keyClick(griglia_, Qt::Key_Return);
-    auto* scelta = griglia_->findChild<QWidget*>(QStringLiteral("FRMDetector"));
-    QVERIFY(scelta && scelta->isVisible());
-    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->click();
-    QCOMPARE(LettereDetector(Riga(0)), std::string("PQ"));
-    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector0"))->click();
-    scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->click();
-    QCOMPARE(LettereDetector(Riga(0)), std::string("Q"));
-    QVERIFY(scelta->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"))->isChecked());
-    scelta->close();
-}
-
-void Griglia::QuartoDetectorRestaSolo() {
-    ScanLine riga;
-    for (const auto d : {DetectorKind::Peak, DetectorKind::QPeak, DetectorKind::Avg})
-        CambiaDetector(riga, d, true);
-    QCOMPARE(LettereDetector(riga), std::string("PQA"));
-    CambiaDetector(riga, DetectorKind::Rms, true);
-    QCOMPARE(LettereDetector(riga), std::string("R"));
+    for (const Qt::Key tasto : {Qt::Key_Escape, Qt::Key_Return}) {
+        QPointer<QDialog> modulo = Modulo(0, ColonnaScan::Detector);
+        QVERIFY(modulo && modulo->isVisible());
+        auto* qpeak = modulo->findChild<QCheckBox*>(QStringLiteral("OPTDetector1"));
+        qpeak->click();
+        modulo->findChild<QCheckBox*>(QStringLiteral("OPTDetector0"))->click();
+        qpeak->click();
+        QVERIFY(qpeak->isChecked());
+        QTest::keyClick(modulo, tasto);
+        QTRY_VERIFY(!modulo);
+        QCOMPARE(LettereDetector(Riga(0)), std::string(tasto == Qt::Key_Escape ? "P" : "Q"));
+    }
+    QCOMPARE(griglia_->currentIndex(), Cella(0, ColonnaScan::HoldTime));
 }
 
 void Griglia::HoldTime_data() {
@@ -146,7 +150,15 @@ void Griglia::HoldTime() {
     QFETCH(double, ms);
     QFETCH(QString, mostrato);
     banco_->Banda("B");
-    Scrivi(0, ColonnaScan::HoldTime, testo.toLatin1().constData());
+    // Typed over the cell: the window opens with the first letter in its text.
+    griglia_->setCurrentIndex(Cella(0, ColonnaScan::HoldTime));
+    QTest::keyClick(griglia_, testo.front().toLatin1());
+    QPointer<QDialog> modulo = griglia_->findChild<QDialog*>(QStringLiteral("ScanTabForm"));
+    QVERIFY(modulo);
+    auto* hold = modulo->findChild<QLineEdit*>(QStringLiteral("TBHoldTime"));
+    QTest::keyClicks(hold, testo.mid(1));
+    QTest::keyClick(hold, Qt::Key_Return);
+    QTRY_VERIFY(!modulo);
     QCOMPARE(static_cast<double>(Riga(0).HoldTime), ms);
     QCOMPARE(Cella(0, ColonnaScan::HoldTime).data().toString(), mostrato);
 }

@@ -1,0 +1,30 @@
+// The foot of the scan grid: findings, buttons for whole lines, and what a run would take.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include "ui/AzioniScan.h"
+#include "ui/ElencoRiscontri.h"
+
+namespace orvane {
+
+class PiedeScan : public QWidget {
+    Q_OBJECT
+public:
+    PiedeScan(const AzioniScan& azioni, QWidget* padre);
+
+    ElencoRiscontri& Riscontri() { return *riscontri_; }
+    QPushButton& Bande() { return *bande_; }
+    /// `riga` may be empty.
+    void MostraStima(const QString& tabella, const QString& riga);
+
+private:
+    ElencoRiscontri* riscontri_;
+    QPushButton* bande_;
+    QLabel* riga_;
+    QLabel* riassunto_;
+};
+
+} // namespace orvane
