@@ -37,7 +37,8 @@ FrmTableLimFacFT::FrmTableLimFacFT(Console& console, TableKind kind, std::string
     colonna->setContentsMargins(0, 12, 0, 12);
     colonna->setSpacing(10);
     colonna->addLayout(CreaBarraFile());
-    colonna->addLayout(CreaIntestazione());
+    if (LimiteOFattore(kind))
+        colonna->addLayout(CreaIntestazione());
     colonna->addWidget(CreaFilo(this));
     colonna->addWidget(CreaCentro(), 1);
     colonna->addWidget(CreaFilo(this));
@@ -69,7 +70,6 @@ QLayout* FrmTableLimFacFT::CreaBarraFile() {
             connect(p, &QPushButton::clicked, this, cosa);
         else
             NonAncora(p);
-        return p;
     };
     pulsante("CMBLoadFT", tr("Load…"), tr("Opens a table (Ctrl+O)"), &FrmTableLimFacFT::Carica);
     auto* salva = CreaPulsante(QStringLiteral("CMBSaveFTAs"), tr("Save As…"),
@@ -88,7 +88,20 @@ QLayout* FrmTableLimFacFT::CreaBarraFile() {
         pulsante("CMBStoreCFL", tr("Upload to receiver…"),
                  tr("Stores the table in a memory of the receiver"),
                  &FrmTableLimFacFT::CaricaNelRicevitore);
+    else
+        AggiungiUnita(*riga);
     return riga;
+}
+
+void FrmTableLimFacFT::AggiungiUnita(QHBoxLayout& riga) {
+    unita_ = Nomina(new QComboBox(this), QStringLiteral("CBXUMTableLim"), tr("Unit of the levels"),
+                    tr("The levels are shown and typed in this unit"));
+    for (const VoceUnita& unita : TabellaUnitaGrafico())
+        unita_->addItem(Q(unita.testo));
+    connect(unita_, &QComboBox::activated, this, &FrmTableLimFacFT::CambiaUnita);
+    riga.addSpacing(8);
+    riga.addWidget(CreaDidascalia(tr("Unit"), this));
+    riga.addWidget(unita_);
 }
 
 QLayout* FrmTableLimFacFT::CreaIntestazione() {
@@ -96,25 +109,14 @@ QLayout* FrmTableLimFacFT::CreaIntestazione() {
     riga->setContentsMargins(14, 0, 14, 0);
     riga->setSpacing(10);
     const TableKind kind = modifica_.Contenuto().kind;
-    if (LimiteOFattore(kind)) {
-        titolo_ = Nomina(new QLineEdit(this), QStringLiteral("TBTitleFT"), tr("Title"),
-                         tr("Title of the table, kept in its file"));
-        titolo_->setMaxLength(static_cast<int>(kLarghezzaTitolo));
-        connect(titolo_, &QLineEdit::editingFinished, this, &FrmTableLimFacFT::CambiaTitolo);
-        connect(titolo_, &QLineEdit::returnPressed, this, &FrmTableLimFacFT::TornaAllaGriglia);
-        riga->addWidget(CreaDidascalia(tr("Title"), this));
-        riga->addWidget(titolo_, 1);
-    } else {
-        riga->addStretch(1);
-    }
-    unita_ = Nomina(new QComboBox(this), QStringLiteral("CBXUMTableLim"), tr("Unit of the levels"),
-                    tr("The levels are shown and typed in this unit"));
-    for (const VoceUnita& unita : TabellaUnitaGrafico())
-        unita_->addItem(Q(unita.testo));
-    connect(unita_, &QComboBox::activated, this, &FrmTableLimFacFT::CambiaUnita);
-    riga->addSpacing(8);
-    riga->addWidget(CreaDidascalia(tr("Unit"), this));
-    riga->addWidget(unita_);
+    titolo_ = Nomina(new QLineEdit(this), QStringLiteral("TBTitleFT"), tr("Title"),
+                     tr("Title of the table, kept in its file"));
+    titolo_->setMaxLength(static_cast<int>(kLarghezzaTitolo));
+    connect(titolo_, &QLineEdit::editingFinished, this, &FrmTableLimFacFT::CambiaTitolo);
+    connect(titolo_, &QLineEdit::returnPressed, this, &FrmTableLimFacFT::TornaAllaGriglia);
+    riga->addWidget(CreaDidascalia(tr("Title"), this));
+    riga->addWidget(titolo_, 1);
+    AggiungiUnita(*riga);
     if (kind == TableKind::Limite) {
         lineare_ = Nomina(new QCheckBox(tr("Linear frequency axis"), this),
                           QStringLiteral("CHKBoxLimLin"), tr("Linear frequency axis"),

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -41,7 +42,8 @@ Q_SIGNALS:
 
 private:
     QLayout* CreaBarraFile();
-    QLayout* CreaIntestazione();
+    QLayout* CreaIntestazione(); ///< limits and factors only: the others have no title
+    void AggiungiUnita(QHBoxLayout& riga);
     QWidget* CreaCentro();
     QLayout* CreaPiede();
     void CreaScorciatoie();

@@ -53,6 +53,8 @@ void MainForm::ApriTabelle(AzioneMenu azione) {
             // Not a loop of its own: a live mode goes on behind it.
             auto* editor = new FrmTableLimFacFT(*console_, voce.kind, {}, this);
             editor->setAttribute(Qt::WA_DeleteOnClose);
+            // A box that closed with the editor leaves some window managers without one to go to.
+            connect(editor, &QDialog::finished, this, &MainForm::activateWindow);
             editor->open();
         }
 }

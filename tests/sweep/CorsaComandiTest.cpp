@@ -136,7 +136,6 @@ TEST(CorsaComandiTest, EachLineGetsItsLimitMarginAndListAheadOfItsCommand) {
 TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
     struct {
         const char* modello;
-        const char* banda;
         const char* comando; ///< of the line
     } const casi[] = {
         {"5520+5590", "#SSFD 6001000000;7000000000;1000000;P;10;9;10;OFF;OFF;0*"},

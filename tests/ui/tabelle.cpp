@@ -45,8 +45,8 @@ private:
         return griglia_->model()->index(riga, colonna).data().toString();
     }
     const ContenutoTabella& Contenuto() { return editor_->Modifica().Contenuto(); }
-    /// What is to be done in the next load and save window.
-    void NellaFinestra(std::function<void(FrmLoadSave&)> cosa);
+    /// What is to be done in the next load and save window that has this control.
+    void NellaFinestra(const char* controllo, std::function<void(FrmLoadSave&)> cosa);
     /// As a window manager does once a dialog above it has closed.
     static void Attiva(QWidget& finestra) {
         finestra.activateWindow();
@@ -92,11 +92,11 @@ void Tabelle::Scrivi(const char* testo) {
     QTRY_VERIFY(!griglia_->findChild<QLineEdit*>(QStringLiteral("TBCella")));
 }
 
-void Tabelle::NellaFinestra(std::function<void(FrmLoadSave&)> cosa) {
+void Tabelle::NellaFinestra(const char* controllo, std::function<void(FrmLoadSave&)> cosa) {
     auto* attesa = new QTimer(banco_.get());
-    connect(attesa, &QTimer::timeout, this, [attesa, cosa] {
+    connect(attesa, &QTimer::timeout, this, [attesa, cosa, controllo] {
         auto* finestra = qobject_cast<FrmLoadSave*>(QApplication::activeModalWidget());
-        if (!finestra)
+        if (!finestra || !finestra->findChild<QWidget*>(QLatin1String(controllo)))
             return;
         attesa->deleteLater();
         attesa->stop();
@@ -127,7 +127,7 @@ void Tabelle::StradaASolaTastiera() {
     // What is being typed belongs to what is saved.
     QTest::keyClicks(editor_->findChild<QLineEdit*>(QStringLiteral("TBTitleFT")),
                      QStringLiteral("Lamp"));
-    NellaFinestra([](FrmLoadSave& f) {
+    NellaFinestra("TBSave", [](FrmLoadSave& f) {
         QCOMPARE(f.windowTitle(), QStringLiteral("Save Limit As"));
         auto* nome = f.findChild<QLineEdit*>(QStringLiteral("TBSave"));
         QTest::keyClicks(nome, QStringLiteral("Mine"));
@@ -138,7 +138,7 @@ void Tabelle::StradaASolaTastiera() {
     Tasto(Qt::Key_Escape);
     QTRY_VERIFY(!editor_);
     ApriEditor();
-    NellaFinestra([](FrmLoadSave& f) {
+    NellaFinestra("CmdLoad", [](FrmLoadSave& f) {
         QCOMPARE(f.windowTitle(), QStringLiteral("Load Limit"));
         QTest::keyClick(f.findChild<QWidget*>(QStringLiteral("FileList")), Qt::Key_Return);
     });
@@ -262,7 +262,7 @@ void Tabelle::ChiudereChiede() {
     QVERIFY(editor_ && editor_->isVisible());
     QCOMPARE(banco_->riquadri.size(), 2);
     banco_->risposte = {QMessageBox::Yes};
-    NellaFinestra([](FrmLoadSave& f) { f.reject(); });
+    NellaFinestra("TBSave", [](FrmLoadSave& f) { f.reject(); });
     editor_->close();
     QVERIFY(editor_ && editor_->isVisible());
     banco_->risposte = {QMessageBox::No, QMessageBox::Yes};
@@ -331,10 +331,10 @@ void Tabelle::CaricamentoNelRicevitore() {
     Scrivi("66.5");
     // Unsaved rows first: the save window leads on.
     banco_->risposte = {QMessageBox::Yes, QMessageBox::Yes};
-    NellaFinestra([this](FrmLoadSave& f) {
+    NellaFinestra("TBSave", [this](FrmLoadSave& f) {
         QCOMPARE(f.findChild<QPushButton*>(QStringLiteral("CmdSave"))->text(),
                  QStringLiteral("Continue"));
-        NellaFinestra([](FrmLoadSave& g) {
+        NellaFinestra("TBNameStoreCFL", [](FrmLoadSave& g) {
             auto* nome = g.findChild<QLineEdit*>(QStringLiteral("TBNameStoreCFL"));
             QCOMPARE(nome->text(), QStringLiteral("CISPR 32 B mains QP"));
             nome->setText(QStringLiteral("Mains B"));
@@ -357,15 +357,18 @@ void Tabelle::CaricamentoFermato() {
     std::string errore;
     banco_->simulato.Aggiungi(*LeggiCapriccio("mute:SLIW2", errore));
     QString esito;
-    NellaFinestra([&](FrmLoadSave& f) {
+    NellaFinestra("TBNameStoreCFL", [&](FrmLoadSave& f) {
         auto* nome = f.findChild<QLineEdit*>(QStringLiteral("TBNameStoreCFL"));
         nome->setText(QStringLiteral("X"));
         auto* ferma = f.findChild<QPushButton*>(QStringLiteral("CMBStop"));
-        banco_->Fra(150, [&f, ferma] {
-            QVERIFY(ferma->isVisible());
-            QCOMPARE(f.findChild<QProgressBar*>()->value(), 2);
-            QTest::keyClick(ferma, Qt::Key_Escape);
+        // Once two points are out and the third waits for its reply.
+        auto* avanzamento = f.findChild<QProgressBar*>(QStringLiteral("PBStoreCFLOn5520"));
+        QTimer guarda;
+        connect(&guarda, &QTimer::timeout, &f, [&] {
+            if (avanzamento->value() == 2 && ferma->isVisible())
+                QTest::keyClick(ferma, Qt::Key_Escape);
         });
+        guarda.start(5);
         QTest::keyClick(nome, Qt::Key_Return);
         QVERIFY(f.isVisible() && !ferma->isVisible());
         esito = f.findChild<QLabel*>(QStringLiteral("LBEsito"))->text();
