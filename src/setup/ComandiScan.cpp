@@ -99,9 +99,7 @@ bool ComponiCorsa(const Scrivania& s, const ReceiverModel& modello, const ScanTa
     return true;
 }
 
-} // namespace
-
-ScanComposto ComponiScan(Scrivania& s, const ReceiverModel& modello, const ScanTable& tabella) {
+ScanComposto ComponiTutti(Scrivania& s, const ReceiverModel& modello, const ScanTable& tabella) {
     ScanComposto composto;
     if (!ComponiCorsa(s, modello, tabella, composto))
         return composto;
@@ -122,6 +120,24 @@ ScanComposto ComponiScan(Scrivania& s, const ReceiverModel& modello, const ScanT
         }
     }
     composto.intero = true;
+    return composto;
+}
+
+/// What the 3360 family lacks is answered without a word to the receiver.
+void TogliRisposteFisse(Testi& testi) {
+    std::erase_if(testi,
+                  [](const std::string& comando) { return !RisposteFisse(comando).empty(); });
+}
+
+} // namespace
+
+ScanComposto ComponiScan(Scrivania& s, const ReceiverModel& modello, const ScanTable& tabella) {
+    ScanComposto composto = ComponiTutti(s, modello, tabella);
+    if (!modello.Is3360)
+        return composto;
+    TogliRisposteFisse(composto.corsa);
+    for (PassataComposta& passata : composto.passate)
+        TogliRisposteFisse(passata.comandi);
     return composto;
 }
 

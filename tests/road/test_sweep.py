@@ -180,7 +180,7 @@ class ProvaSweep(ProvaStrada):
             "3360/01": ("B", [], ["#SSTP*", "#S3PRC*"], "6"),
             "K3X low": ("C", GENERATORE, ["#?BAT*", "#SSTP*", "#S3PRR*"], "10"),
             "5590": ("22", GENERATORE, ["#?BAT*"], "9"),
-            "GX2207F": ("B", [], ["#SIHPOFF*", "#SMODA*", "#SITG 0*", "#?BAT*"], "6"),
+            "GX2207F": ("B", ["#SIHPOFF*", "#SMODA*", "#SITG 0*"], ["#?BAT*"], "6"),
         }
 
         def Corpo(modello):

@@ -143,6 +143,7 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
         {"3360/01", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;OFF;0*"},
         {"5520F", "#SSFDS 150000;3000000;10000;P;10;6;10;OFF;ON;0*"},
         {"5520+GX2207", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
+        {"GX2207F", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
         {"GX2207", "#SSFD 150000;3000000;5000;P;10;6;10;OFF;ON;0*"},
     };
     for (const auto& caso : casi) {
@@ -167,10 +168,7 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
         ASSERT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
         const Testi mandati = SoloImpostazioni(banco.simulato.Comandi());
         EXPECT_EQ(mandati.back(), caso.comando);
-        // The 3360 family is told nothing of what it lacks; the console answers itself.
-        if (!banco.ricevitore.modello.Is3360) {
-            EXPECT_EQ(mandati, Composti(banco));
-        }
+        EXPECT_EQ(mandati, Composti(banco));
     }
 }
 
