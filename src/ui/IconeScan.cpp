@@ -89,7 +89,9 @@ public:
         const QPalette tavolozza = QApplication::palette();
         const bool acceso = modo != QIcon::Disabled;
         if (segno_ == SegnoScan::Avviso)
-            return DisegnaAvviso(*p, dove, Tinta(tavolozza, Ruolo::Errore));
+            return DisegnaAvviso(
+                *p, dove,
+                Tinta(tavolozza, modo == QIcon::Selected ? Ruolo::SuAccento : Ruolo::Errore));
         p->save();
         p->setRenderHint(QPainter::Antialiasing);
         p->translate(dove.topLeft());

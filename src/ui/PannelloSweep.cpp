@@ -1,6 +1,7 @@
 #include "ui/PannelloSweep.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QMenu>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -52,6 +53,8 @@ PannelloSweep::PannelloSweep(Scrivania& scrivania, ScanRecord& scan, QWidget* pa
     colonna->addWidget(CreaFilo(this));
     griglia_ = new GridScanTab(scan_.Righe, scrivania_.setup, true, this);
     griglia_->setObjectName(QStringLiteral("GridScanTab"));
+    griglia_->setMinimumHeight(griglia_->horizontalHeader()->sizeHint().height() +
+                               2 * griglia_->verticalHeader()->defaultSectionSize());
     azioni_ = new AzioniScan(*griglia_);
     piede_ = new PiedeScan(*azioni_, this);
     picker_ = new FRMTDScanTab(scrivania_.ambiente, *griglia_, this);

@@ -69,7 +69,19 @@ PiedeScan::PiedeScan(const AzioniScan& azioni, QWidget* padre) : QWidget(padre) 
 
 void PiedeScan::MostraStima(const QString& tabella, const QString& riga) {
     riassunto_->setText(tabella);
-    riga_->setText(riga);
+    testoRiga_ = riga;
+    ScriviRiga();
+}
+
+void PiedeScan::ScriviRiga() {
+    layout()->activate();
+    riga_->setText(riga_->fontMetrics().elidedText(testoRiga_, Qt::ElideRight, riga_->width()));
+    riga_->setToolTip(testoRiga_);
+}
+
+void PiedeScan::resizeEvent(QResizeEvent* evento) {
+    QWidget::resizeEvent(evento);
+    ScriviRiga();
 }
 
 } // namespace orvane

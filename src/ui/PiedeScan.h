@@ -20,11 +20,17 @@ public:
     /// `riga` may be empty.
     void MostraStima(const QString& tabella, const QString& riga);
 
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
+
 private:
+    void ScriviRiga();
+
     ElencoRiscontri* riscontri_;
     QPushButton* bande_;
     QLabel* riga_;
     QLabel* riassunto_;
+    QString testoRiga_; ///< whole, also where there is room for a part of it only
 };
 
 } // namespace orvane
