@@ -57,7 +57,7 @@ struct ModuloScan {
 ModuloScan ApriModulo(const AlberoDati& albero, ColonnaScan colonna, int ancillaryKind,
                       const ScanLine& riga);
 
-struct StatoControllo {
+struct StatoCampo {
     bool visibile = false;
     bool abilitato = true;
     bool avviso = false; ///< drawn in the warning colour
@@ -75,14 +75,14 @@ struct VoceAncillary {
 /// All that the window shows.
 struct VistaModulo {
     std::array<StatoCornice, kNumCornici> cornici = {};
-    StatoControllo OPTStep; ///< the group of the two ways to step
-    StatoControllo TBStep;
-    StatoControllo CHKSmart;
-    StatoControllo TBMargin;
-    StatoControllo CHKLimits;
-    StatoControllo ComboBoxLimits;
-    StatoControllo CHKLimitsDSD;
-    StatoControllo ComboBoxLimitsDSD;
+    StatoCampo OPTStep; ///< the group of the two ways to step
+    StatoCampo TBStep;
+    StatoCampo CHKSmart;
+    StatoCampo TBMargin;
+    StatoCampo CHKLimits;
+    StatoCampo ComboBoxLimits;
+    StatoCampo CHKLimitsDSD;
+    StatoCampo ComboBoxLimitsDSD;
     bool detectorUnico = false; ///< `OPTDetector` behaves as a group of which one is on
     std::string testoStep;      ///< of `TBStep`, in `ModuloScan::unita`
     std::vector<VoceAncillary> ancillary;

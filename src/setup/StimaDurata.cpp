@@ -7,6 +7,8 @@
 #include "base/Numeri.h"
 #include "data/Cartelle.h"
 #include "data/TabelleFrequenza.h"
+#include "setup/CommutatoriSweep.h"
+#include "setup/ListaFrequenze.h"
 #include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
 
@@ -54,21 +56,6 @@ double MsDellaPassata(const ScanLine& riga, double punti) {
     return prese * (una + kMsPerPasso) + MsDiConferma(riga, punti);
 }
 
-template <class Flag> int Accesi(const Flag& flag) {
-    return static_cast<int>(std::count(flag.begin(), flag.end(), int16_t{1}));
-}
-
-/// Frequencies between which a table line steps: the ends of the span and the entries inside.
-std::vector<double> Estremi(const ScanLine& riga, const FrequencyTable& tabella) {
-    std::vector<double> mhz = {riga.Start, riga.Stop};
-    for (const FreqTableElem& voce : tabella.Elementi)
-        if (voce.Freq > riga.Start && voce.Freq < riga.Stop)
-            mhz.push_back(voce.Freq);
-    std::sort(mhz.begin(), mhz.end());
-    mhz.erase(std::unique(mhz.begin(), mhz.end()), mhz.end());
-    return mhz;
-}
-
 std::string_view NomePassata(int ancillaryKind) {
     if (ancillaryKind == 3)
         return "polarisation";
@@ -97,31 +84,14 @@ std::string DueUnita(long long grande, const char* nome, long long piccola, cons
 
 } // namespace
 
-int PassateDellaRiga(const ScanLine& riga, int ancillaryKind) {
-    switch (ancillaryKind) {
-    case 1:
-    case 6: // these networks have no other lines
-        return std::max(1, Accesi(std::span(riga.LineSwitch).subspan(1, 2)));
-    case 2:
-    case 4:
-        return std::max(1, Accesi(riga.LineSwitch));
-    case 3:
-        return std::max(1, Accesi(riga.Antenna));
-    default:
-        return 1;
-    }
-}
-
 long long PuntiDaFreqTable(const ScanLine& riga, const FrequencyTable& tabella) {
     if (!(riga.Stop > riga.Start))
         return 0;
-    const auto tratti = static_cast<long long>(Estremi(riga, tabella).size()) - 1;
-    const long long punti = tratti * std::max<int>(1, riga.NumStepFT) + 1;
-    return std::min<long long>(punti, kMaxFreqTable);
+    return static_cast<long long>(std::min(CreaElencoFreqTab(tabella, riga).size(), kMaxFreqTable));
 }
 
 StimaSweep StimaRiga(const ScanLine& riga, int ancillaryKind, const FrequencyTable* tabella) {
-    StimaSweep stima{.passate = PassateDellaRiga(riga, ancillaryKind)};
+    StimaSweep stima{.passate = static_cast<int>(PassateDellaRiga(riga, ancillaryKind).size())};
     if (riga.StepMode != 1)
         stima.punti = PassiDellaRiga(riga);
     else if (tabella)

@@ -24,11 +24,7 @@ struct StimaSweep {
     double secondi = 0; ///< of all passes
 };
 
-/// Passes of a line: its selected network lines, outputs or polarisations; 1 without any, and with
-/// positioners, whose number of positions the table does not know.
-int PassateDellaRiga(const ScanLine& riga, int ancillaryKind);
-/// Points that a frequency table gives a line: its entries within the span, both ends of the span,
-/// and the steps between; as many as the receiver takes at most.
+/// Points that a frequency table gives a line, as many as the receiver takes at most.
 long long PuntiDaFreqTable(const ScanLine& riga, const FrequencyTable& tabella);
 /// `tabella`: the frequency table of a line that has one; without it the line has no points.
 StimaSweep StimaRiga(const ScanLine& riga, int ancillaryKind,

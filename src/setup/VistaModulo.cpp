@@ -102,7 +102,7 @@ std::string TitoloCornice(const ScanLine& riga, Cornice cornice) {
 }
 
 /// The pair of a limit: in the warning colour where the line must have it and has not.
-StatoControllo StatoLimite(const ModuloScan& modulo, CoppiaLimite coppia, bool visibile) {
+StatoCampo StatoLimite(const ModuloScan& modulo, CoppiaLimite coppia, bool visibile) {
     const bool chiesto = modulo.riga.Smart == 1 && (coppia == CoppiaLimite::Prima ||
                                                     ControllaCondizioniDSDScanTab(modulo.riga));
     const bool mastTable = modulo.ancillaryKind == kAncillaryMastTable;

@@ -15,8 +15,8 @@ struct VoceCoppia {
     const char* nomeElenco;
     const char* usa;
     char lettera;
-    StatoControllo VistaModulo::*casella;
-    StatoControllo VistaModulo::*elenco;
+    StatoCampo VistaModulo::*casella;
+    StatoCampo VistaModulo::*elenco;
 };
 constexpr VoceCoppia kCoppie[] = {
     {CoppiaLimite::Prima, Cornice::FRMCustomLimits, "FRMCustomLimits", "CHKLimits",

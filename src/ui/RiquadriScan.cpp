@@ -77,7 +77,7 @@ void ScegliNome(QComboBox& elenco, const std::string& nome) {
     elenco.setCurrentIndex(elenco.findText(Q(nome), Qt::MatchFixedString));
 }
 
-void Mostra(QWidget& controllo, const StatoControllo& stato) {
+void Mostra(QWidget& controllo, const StatoCampo& stato) {
     controllo.setVisible(stato.visibile);
     controllo.setEnabled(stato.abilitato);
     Avvisa(controllo, stato.avviso);

@@ -50,7 +50,7 @@ QComboBox* CreaElencoNomi(PiantaModulo& pianta, const char* nome, const QString&
                           const std::vector<std::string>& nomi);
 void ScegliNome(QComboBox& elenco, const std::string& nome);
 /// Shows a control as the rules have it.
-void Mostra(QWidget& controllo, const StatoControllo& stato);
+void Mostra(QWidget& controllo, const StatoCampo& stato);
 /// Paints it in the warning colour, or in its own.
 void Avvisa(QWidget& controllo, bool avviso);
 

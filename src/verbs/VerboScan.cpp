@@ -4,6 +4,7 @@
 #include "base/Percorsi.h"
 #include "data/Cartelle.h"
 #include "records/SetupRecord.h"
+#include "setup/CommutatoriSweep.h"
 #include "setup/ModuloScan.h"
 #include "setup/RegoleRiga.h"
 #include "setup/StimaDurata.h"
@@ -57,7 +58,7 @@ void JsonRiga(Json& json, const ScanLine& riga, size_t numero, int ancillaryKind
     CoppiaIngresso(json, riga);
     ListaSelezioni(json, "lines", riga, ancillaryKind == kScatola ? kScatola : kQuattroLinee);
     ListaSelezioni(json, "antenna", riga, kAntenna);
-    json.Coppia("passes", PassateDellaRiga(riga, ancillaryKind));
+    json.Coppia("passes", static_cast<double>(PassateDellaRiga(riga, ancillaryKind).size()));
     json.Coppia("steps", static_cast<double>(PassiDellaRiga(riga))).Chiudi();
 }
 

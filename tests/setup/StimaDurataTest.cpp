@@ -50,11 +50,11 @@ TEST(StimaDurataTest, WhatALineTakes) {
 TEST(StimaDurataTest, PassesByWhatIsAttached) {
     ScanLine riga{
         .Start = 1, .Stop = 2, .Step = 0.5, .LineSwitch = {1, 1, 0, 1}, .Antenna = {1, 1}};
-    const std::array<int, 7> passate = {1, 1, 3, 2, 3, 1, 1};
+    const std::array<int, 7> passate = {3, 3, 3, 2, 3, 1, 3};
     for (int kind = 0; kind < 7; ++kind)
-        EXPECT_EQ(PassateDellaRiga(riga, kind), passate[static_cast<size_t>(kind)]) << kind;
+        EXPECT_EQ(StimaRiga(riga, kind).passate, passate[static_cast<size_t>(kind)]) << kind;
     riga.LineSwitch = {};
-    EXPECT_EQ(PassateDellaRiga(riga, 2), 1);
+    EXPECT_EQ(StimaRiga(riga, 2).passate, 1);
     const StimaSweep una{.punti = 10, .passate = 2, .secondi = 1};
     const StimaSweep altra{.punti = 5, .passate = 1, .secondi = 2};
     EXPECT_EQ(SommaStime(una, una).punti, 20);
@@ -69,7 +69,7 @@ TEST(StimaDurataTest, PointsOfAFrequencyTable) {
     tabella.Elementi[1].Freq = 0.5;
     tabella.Elementi[2].Freq = 30;
     ScanLine riga{.Start = 0.15, .Stop = 30, .StepMode = 1};
-    EXPECT_EQ(PuntiDaFreqTable(riga, tabella), 3) << "start, the entry inside, stop";
+    EXPECT_EQ(PuntiDaFreqTable(riga, tabella), 2) << "the table's own";
     riga.NumStepFT = 10;
     EXPECT_EQ(PuntiDaFreqTable(riga, tabella), 21);
     for (size_t i = 0; i < tabella.Elementi.size(); ++i)
