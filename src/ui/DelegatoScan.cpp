@@ -87,6 +87,14 @@ DecisioneTasto Decidi(QObject* oggetto, const QKeyEvent& evento) {
                                testo && testo->text().isEmpty());
 }
 
+/// Undo and redo over a text that was not touched are the table's.
+bool DellaTabella(QObject* oggetto, QEvent* evento) {
+    const auto* testo = qobject_cast<QLineEdit*>(oggetto);
+    const auto* tasto = static_cast<QKeyEvent*>(evento);
+    return testo && !testo->isModified() &&
+           (tasto->matches(QKeySequence::Undo) || tasto->matches(QKeySequence::Redo));
+}
+
 /// By pages of the list, separators skipped.
 void Sfoglia(QComboBox& elenco, int pagine) {
     const int verso = pagine < 0 ? -1 : 1;
@@ -174,21 +182,15 @@ void DelegatoScan::setModelData(QWidget* editore, QAbstractItemModel* modello,
         modello->setData(indice, testo->text());
 }
 
-/// Keys of the edit helpers. A text that was not touched leaves undo and redo to the table.
 bool DelegatoScan::eventFilter(QObject* oggetto, QEvent* evento) {
-    const auto* tasto = static_cast<QKeyEvent*>(evento);
-    if (evento->type() == QEvent::ShortcutOverride) {
-        const auto* testo = qobject_cast<QLineEdit*>(oggetto);
-        if (testo && !testo->isModified() &&
-            (tasto->matches(QKeySequence::Undo) || tasto->matches(QKeySequence::Redo))) {
-            evento->ignore();
-            return true;
-        }
+    if (evento->type() == QEvent::ShortcutOverride && DellaTabella(oggetto, evento)) {
+        evento->ignore();
+        return true;
     }
     if (evento->type() != QEvent::KeyPress)
         return QStyledItemDelegate::eventFilter(oggetto, evento);
     auto* editore = static_cast<QWidget*>(oggetto);
-    const DecisioneTasto decisione = Decidi(oggetto, *tasto);
+    const DecisioneTasto decisione = Decidi(oggetto, *static_cast<QKeyEvent*>(evento));
     switch (decisione.azione) {
     case AzioneTasto::ConfermaAvanti:
     case AzioneTasto::ConfermaSposta:
