@@ -109,8 +109,8 @@ TEST(DescriviCampiTest, TellsPlacesTypesAndValues) {
                 return campo;
         return CampoDescritto{.offset = SIZE_MAX, .tipo = "absent"};
     };
-    EXPECT_EQ(trova(2540).nome, "");
-    EXPECT_EQ(trova(2540).byte, 2u);
+    EXPECT_EQ(trova(1928).nome, "");
+    EXPECT_EQ(trova(1928).byte, 606u);
     EXPECT_EQ(std::get<double>(trova(2542).valori.at(0)), -3.5);
     EXPECT_EQ(trova(1328).valori.size(), 10u);
     EXPECT_EQ(std::get<std::string>(trova(1328).valori.at(1)), "B");
