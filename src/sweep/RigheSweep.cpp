@@ -1,6 +1,7 @@
 // A run's lines and the passes of each: prompts, switches, limit and margin, command, data.
 #include <algorithm>
 
+#include "base/Interruttori.h"
 #include "base/Numeri.h"
 #include "link/Comandi.h"
 #include "link/Interrogazioni.h"
@@ -59,7 +60,9 @@ bool Svolgimento::EseguiRiga(size_t indice) {
 /// depends on the unit in charge.
 bool Svolgimento::ControllaUnita(size_t indice) {
     const ScanLine& riga = scan_.Righe[indice];
-    if (!UnitaPerRiga(r_.modello, riga.Start, riga.Stop))
+    // Who has the frequencies checked by nobody has their line checked by nobody either.
+    if (Acceso(r_.ambiente.RigaComando(), interruttore::kNoContFreq) ||
+        !UnitaPerRiga(r_.modello, riga.Start, riga.Stop))
         return true;
     limite_ = {}; // which a unit that was switched off does not keep
     const ContestoControlli contesto{.tabella = scan_.Righe,
