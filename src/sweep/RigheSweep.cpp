@@ -60,7 +60,7 @@ bool Svolgimento::EseguiRiga(size_t indice) {
 /// depends on the unit in charge.
 bool Svolgimento::ControllaUnita(size_t indice) {
     const ScanLine& riga = scan_.Righe[indice];
-    // Who has the frequencies checked by nobody has their line checked by nobody either.
+    // With /NOCONTFREQ the receiver itself is left to say whether it can sweep the line.
     if (Acceso(r_.ambiente.RigaComando(), interruttore::kNoContFreq) ||
         !UnitaPerRiga(r_.modello, riga.Start, riga.Stop))
         return true;

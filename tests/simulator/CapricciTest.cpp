@@ -176,6 +176,7 @@ TEST(TestoOpzioni, ReadsModelAndWords) {
     EXPECT_EQ(opzioni->byteAlSecondo, kByteAlSecondoLinea);
     EXPECT_EQ(LeggiOpzioniSimulatore("", errore)->modello, "5520");
     EXPECT_EQ(LeggiOpzioniSimulatore(",seed=2", errore)->seme, 2u);
+    EXPECT_EQ(LeggiOpzioniSimulatore(",port=4", errore)->userPort, 4);
     EXPECT_EQ(LeggiOpzioniSimulatore("5520+gx2207,speed=full", errore)->byteAlSecondo, 0);
 }
 

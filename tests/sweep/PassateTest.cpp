@@ -84,6 +84,7 @@ TEST_F(PassateTest, ASmartLineRunsThroughBothLinesOfItsNetwork) {
     riga.Limit = "QP";
     riga.Margin = 6;
     riga.Prompt = "Plug in";
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Testo, .comando = "?UHT", .testo = "UHT=25"});
     ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
     const std::string sweep = "#SSFD 150000;650000;5000;SP;10;6;10;OFF;ON;";
     Testi comandi = ComandiDa("#SUPP");
@@ -95,6 +96,12 @@ TEST_F(PassateTest, ASmartLineRunsThroughBothLinesOfItsNetwork) {
     EXPECT_EQ(Riquadri(), (Testi{"Plug in (L1)", "Plug in (L2)"}));
     EXPECT_EQ(vista.detti, (Testi{"1: Line: L1", "1: Line: L2"}));
     EXPECT_EQ(vista.frazione, 1);
+    // The second pass was asked for as the first; what the receiver made of it is in the header.
+    ScanRecord scan;
+    SetupRecord setup;
+    ASSERT_TRUE(CaricaHeaderSweep(banco.scrivania, PercorsoKSH("M"), scan, setup));
+    EXPECT_EQ(scan.Righe[0].HoldTime, 25);
+    EXPECT_EQ(riga.HoldTime, 10);
     for (const char* base : {"M", "Sub_Measure\\M-L1", "Sub_Measure\\M-L2"})
         EXPECT_EQ(Passi(base), 101u) << base;
     EXPECT_EQ(
