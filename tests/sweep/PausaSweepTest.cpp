@@ -68,16 +68,20 @@ struct Banco : BancoSimulato {
     bool tastiInPausa = false;
 };
 
+constexpr auto kErrore = Capriccio::Tipo::Errore;
+
 TEST(PausaSweep, LosesNoStepWhateverItTakes) {
     struct {
         const char* nome;
-        const char* comando; ///< refused...
+        const char* comando; ///< refused, or unheard...
         int volte;           ///< ...so often
+        Capriccio::Tipo come;
         std::vector<std::string> comandi;
     } const casi[] = {
-        {"at once", "", 0, {"#ASPA*", "#ASRE*", "#?UHT*"}},
-        {"third try", "ASPA", 2, {"#ASPA*", "#ASPA*", "#ASPA*", "#ASRE*", "#?UHT*"}},
-        {"resume refused", "ASRE", 2, {"#ASPA*", "#ASRE*", "#ASRE*", "#ASRE*", "#?UHT*"}},
+        {"at once", "", 0, kErrore, {"#ASPA*", "#ASRE*", "#?UHT*"}},
+        {"unheard", "ASPA", 1, Capriccio::Tipo::Muto, {"#ASPA*", "#ASPA*", "#ASRE*", "#?UHT*"}},
+        {"third try", "ASPA", 2, kErrore, {"#ASPA*", "#ASPA*", "#ASPA*", "#ASRE*", "#?UHT*"}},
+        {"resume refused", "ASRE", 2, kErrore, {"#ASPA*", "#ASRE*", "#ASRE*", "#ASRE*", "#?UHT*"}},
     };
     Banco senza;
     senza.pausa.alPasso = {};
@@ -89,7 +93,7 @@ TEST(PausaSweep, LosesNoStepWhateverItTakes) {
         Banco banco;
         if (caso.volte > 0)
             banco.simulato.Aggiungi(
-                {.tipo = Capriccio::Tipo::Errore, .comando = caso.comando, .volte = caso.volte});
+                {.tipo = caso.come, .comando = caso.comando, .volte = caso.volte});
         EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);
         EXPECT_EQ(banco.Dietro(), caso.comandi);
         EXPECT_EQ(banco.File(PercorsoRS("M", "M", 0)), attesa);
