@@ -11,14 +11,9 @@ namespace {
 
 using namespace prova;
 
-struct Caso {
-    std::function<void(Ricevitore&)> imposta;
-    const char* comando;
-};
-
 TEST(Comandi, EachSetterAsItGoesOut) {
     using R = Ricevitore;
-    const Caso kCasi[] = {
+    const std::pair<std::function<void(R&)>, const char*> kCasi[] = {
         {[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
         {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
         {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
@@ -64,9 +59,9 @@ TEST(Comandi, EachSetterAsItGoesOut) {
     BancoAperto b;
     b.stato.AbbandonaComandi = true; // one try is enough
     Testi attesi;
-    for (const Caso& caso : kCasi) {
-        caso.imposta(b.r);
-        attesi.push_back(caso.comando);
+    for (const auto& [imposta, comando] : kCasi) {
+        imposta(b.r);
+        attesi.push_back(comando);
     }
     EXPECT_EQ(b.peer.scritti, attesi);
 }
@@ -93,23 +88,17 @@ TEST(Comandi, The18GHzUnitHasAFixedPreselector) {
 
 TEST(Comandi, AmAndFmWhereTheReceiverKnowsThem) {
     using enum Demodulazione;
-    struct Forma {
-        bool is3360;
-        int16_t oem;
-        Demodulazione modo;
-        const char* comando;
-    };
-    for (const Forma& forma :
-         {Forma{false, 0, Spenta, "#SDMDOFF*"}, Forma{false, 0, Accesa, "#SDMDON*"},
-          Forma{false, 0, FM, "#SDMDON*"}, Forma{true, 0, AM, "#SDMDAM*"},
-          Forma{true, 0, FM, "#SDMDFM*"}, Forma{false, 3, FM, "#SDMDFM*"},
-          Forma{false, 3, Spenta, "#SDMDOFF*"}}) {
+    const std::tuple<bool, int16_t, Demodulazione, const char*> casi[] = {
+        {false, 0, Spenta, "#SDMDOFF*"}, {false, 0, Accesa, "#SDMDON*"}, {false, 0, FM, "#SDMDON*"},
+        {true, 0, AM, "#SDMDAM*"},       {true, 0, FM, "#SDMDFM*"},      {false, 3, FM, "#SDMDFM*"},
+        {false, 3, Spenta, "#SDMDOFF*"}};
+    for (const auto& [is3360, oem, modo, comando] : casi) {
         BancoAperto b;
-        b.r.modello.Is3360 = forma.is3360;
-        b.r.modello.ModelloOEM = forma.oem;
-        b.peer.alComando = [&](const std::string&) { b.peer.Rispondi("DMD=OK\r\n"); };
-        ImpostaDemodulatore(b.r, forma.modo);
-        EXPECT_EQ(b.peer.scritti, Testi{forma.comando});
+        b.r.modello.Is3360 = is3360;
+        b.r.modello.ModelloOEM = oem;
+        b.peer.RispondiInFila({"DMD=OK\r\n"});
+        ImpostaDemodulatore(b.r, modo);
+        EXPECT_EQ(b.peer.scritti, Testi{comando});
     }
 }
 
