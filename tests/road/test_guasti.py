@@ -46,7 +46,8 @@ class ProvaGuasti(ProvaStrada):
 
     def test_silenzio_prima_dei_dati(self):
         """In each phase: the words of what was asked, status 3, and next to no processor time."""
-        casi = {"SDIS": "Dynamics - Ref Level", "?BAT": "Read battery", "?UHT": "Read Hold Time"}
+        casi = {"SCFA": "Disabling conv factor", "SDIS": "Dynamics - Ref Level",
+                "?BAT": "Read battery", "?UHT": "Read Hold Time"}  # fmt: skip
 
         def Corpo(comando):
             dati = self.Sottocartella(comando)

@@ -1,5 +1,7 @@
 """`orvane identify` against every form of receiver: the lines it prints, and the commands it sent."""
 
+import json
+
 from comune import Esegui, InParallelo, ProvaStrada
 from peer import Peer
 
@@ -84,6 +86,11 @@ class ProvaIdentify(ProvaStrada):
             self.assertEqual(voci["mil"], "yes")
 
         InParallelo(self, casi, Corpo)
+
+    def test_json(self):
+        with Peer("5570") as peer:
+            voci = json.loads(self.Identifica(peer, "--json").out)
+        self.assertEqual((voci["mil"], voci["fmin"], voci["serial"]), (True, 28, "KR-0042"))
 
     def test_nessuno_risponde(self):
         """The banner comes after four tries; patience ends the wait, and it costs no processor."""

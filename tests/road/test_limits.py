@@ -144,6 +144,14 @@ class Limits(unittest.TestCase):
         self.assertEqual((self.data / "Mast-Table/F.FTM").stat().st_size, 2828)
         self.assertIn("30\t60.50\t---\t---\n", self.orvane("table", "show", "F", "--mast").stdout)
         self.orvane("table", "show", "F", status=4)
+        self.assertEqual(self.orvane("limit", "list").stdout, "Mine\n")
+        self.orvane("limit", "import", "X", self.data / "absent.txt", status=4)
+        self.orvane("limit", "import", "X", self.data / "Header.TXT", status=1)  # no points
+        # Damaged points are told.
+        self.put("Limits", "Bad.5SL", record([(3e6, 3), (float("nan"), 9), (1e6, 1)]))
+        shown = self.orvane("limit", "show", "Bad")
+        self.assertIn("damaged points", shown.stderr)
+        self.assertTrue(shown.stdout.endswith("1\t0.01\n3\t0.03\n"), shown.stdout)
         # An existing table is replaced only on a Yes.
         before = (self.data / "Limits/Mine.5SL").read_bytes()
         self.orvane("limit", "import", "Mine", text, status=1)
