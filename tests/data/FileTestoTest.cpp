@@ -8,20 +8,10 @@ namespace {
 
 using FileTestoTest = ProvaDati;
 
-TEST_F(FileTestoTest, TheCommentLiesBesideWhatItIsAbout) {
-    EXPECT_EQ(PercorsoCommento(""), "Test Comment.TXT");
-    EXPECT_EQ(PercorsoCommento("m"), "Sweep\\m\\Test Comment.TXT");
-}
-
 TEST_F(FileTestoTest, TextIsAnsiOnDisk) {
     ASSERT_TRUE(SalvaTesto(s, kFileHeader, "5 \xC2\xB5V\n\xE2\x82\xAC\r\n\xCE\xA9"));
     EXPECT_EQ(Prendi("Header.TXT"), "5 \xB5V\r\n\x80\r\n?");
     EXPECT_EQ(CaricaTesto(s, "header.txt"), "5 \xC2\xB5V\n\xE2\x82\xAC\n?");
-    ASSERT_TRUE(SalvaTesto(s, kFileHeader, ""));
-    EXPECT_EQ(CaricaTesto(s, kFileHeader), "");
-}
-
-TEST_F(FileTestoTest, LinesEndInAnyWay) {
     Metti("Test Comment.TXT", "a\r\nb\rc\nd");
     EXPECT_EQ(CaricaTesto(s, PercorsoCommento("")), "a\nb\nc\nd");
 }
