@@ -20,18 +20,6 @@ std::string NomeColonna(ColonnaScan colonna) {
     return Sostituisci(std::string(TitoloColonna(colonna)), "\n", " ");
 }
 
-/// Words of a box on one line.
-std::string InRiga(std::string_view testo) {
-    std::string riga;
-    for (const std::string& pezzo : Dividi(testo, '\r')) {
-        const std::string pulito = Rifila(pezzo);
-        if (!riga.empty() && !pulito.empty())
-            riga += ' ';
-        riga += pulito;
-    }
-    return riga;
-}
-
 /// What a finding says; one without words of its own says why it stops.
 std::string ParoleDi(const Riscontro& r) {
     const std::string& testo = r.segnalazione.riquadro.testo;
@@ -53,7 +41,7 @@ std::string_view Esito(const Riscontro& r) {
 void StampaRighe(Banco& banco, const Riscontro& r) {
     const auto riga = [&](const std::string& linea, const std::string& colonna) {
         banco.dati << r.numero << "\t" << r.nome << "\t" << linea << "\t" << colonna << "\t"
-                   << InRiga(ParoleDi(r)) << "\t" << Esito(r) << "\n";
+                   << ParoleInRiga(ParoleDi(r)) << "\t" << Esito(r) << "\n";
     };
     for (const CellaErrata& cella : r.segnalazione.celle)
         riga(TestoIntero(static_cast<long long>(cella.riga) + 1), NomeColonna(cella.colonna));

@@ -31,8 +31,9 @@ void StampaTesto(std::ostream& dati, const ScanComposto& scan) {
     for (const PassataComposta& passata : scan.passate) {
         dati << "line " << NumeroRiga(passata);
         dati << (passata.nome.empty() ? "" : " ") << passata.nome << "\n";
-        if (!passata.riquadro.testo.empty())
-            dati << "[box] " << passata.riquadro.testo << "\n";
+        for (const Riquadro* riquadro : {&passata.unita, &passata.riquadro})
+            if (!riquadro->testo.empty())
+                dati << "[box] " << ParoleInRiga(riquadro->testo) << "\n";
         StampaTesto(dati, passata.comandi);
     }
 }
@@ -51,7 +52,8 @@ void StampaJson(std::ostream& dati, const ScanComposto& scan) {
     json.Chiave("passes").Lista();
     for (const PassataComposta& passata : scan.passate) {
         json.Oggetto().Coppia("line", static_cast<int>(passata.riga) + 1);
-        json.Coppia("pass", passata.nome).Coppia("prompt", passata.riquadro.testo);
+        json.Coppia("pass", passata.nome).Coppia("unit", passata.unita.testo);
+        json.Coppia("prompt", passata.riquadro.testo);
         Lista(json, "commands", passata.comandi);
         json.Chiudi();
     }
