@@ -8,6 +8,7 @@
 #include "data/Panels.h"
 #include "setup/PreVolo.h"
 #include "verbs/Argomenti.h"
+#include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
 
@@ -99,19 +100,6 @@ std::string RisolviNome(Banco& banco, const std::string& misura,
     return nome;
 }
 
-std::vector<Riscontro> Esamina(Banco& banco, const ScanRecord& scan) {
-    const ContestoControlli contesto{.tabella = scan.Righe,
-                                     .modello = banco.ricevitore.modello,
-                                     .caps = banco.ricevitore.caps,
-                                     .setup = banco.scrivania.setup,
-                                     .albero = banco.scrivania.albero,
-                                     .rigaComando = banco.scrivania.ambiente.RigaComando()};
-    return EsaminaScan(contesto, [&](const Segnalazione& s) {
-        const Risposta risposta = banco.scrivania.ambiente.Mostra(s.riquadro);
-        return risposta == Risposta::Si || risposta == Risposta::Ok;
-    });
-}
-
 EsitoVerbo Controlla(Banco& banco, const ScanRecord& scan, const std::string& misura) {
     Ricevitore& r = banco.ricevitore;
     std::string motivo;
@@ -122,7 +110,8 @@ EsitoVerbo Controlla(Banco& banco, const ScanRecord& scan, const std::string& mi
                       banco.interrotto  ? "stopped"
                       : !motivo.empty() ? motivo
                                         : "no receiver answered");
-    std::vector<Riscontro> riscontri = Esamina(banco, scan);
+    std::vector<Riscontro> riscontri =
+        EsaminaScan(ContestoDiScan(banco, scan.Righe), RispostaDiScan(banco));
     const std::string nome = misura.empty() ? std::string() : RisolviNome(banco, misura, riscontri);
     const bool rifiutato = std::any_of(riscontri.begin(), riscontri.end(), Rifiuta);
     Stampa(banco, riscontri, nome, rifiutato);

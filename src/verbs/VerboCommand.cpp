@@ -7,9 +7,10 @@
 #include "link/Identificazione.h"
 #include "setup/ComandiScan.h"
 #include "setup/CommutatoriSweep.h"
-#include "setup/RegoleScan.h"
+#include "setup/PreVolo.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
+#include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
 
@@ -70,11 +71,15 @@ bool Riconosci(Ricevitore& r) {
     return !r.stato.AbbandonaComandi && r.modello.FwTesto != "---";
 }
 
-/// The table as the checks would leave it.
-void Riordina(ScanTable& tabella, const SetupRecord& setup) {
+/// Table and set-up as the checks would leave them; what only a run would ask is put in order
+/// first.
+ScanTable Correggi(Banco& banco, ScanTable tabella) {
+    SetupRecord& setup = banco.scrivania.setup;
     CompattaScanTable(tabella);
-    RicalcolaPassiAuto(tabella);
     SelLineParaSweep(tabella, setup);
+    ScanCorretto corretto = CorreggiScan(ContestoDiScan(banco, tabella), RispostaDiScan(banco));
+    setup = std::move(corretto.setup);
+    return corretto.tabella;
 }
 
 EsitoVerbo Racconta(Banco& banco, const ScanTable& tabella) {
@@ -104,11 +109,10 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole) {
     if (!CaricaPanelEST(banco.scrivania, percorso, scan))
         return kGuastoFile;
     ControllaScan(scan);
-    Riordina(scan.Righe, banco.scrivania.setup);
     if (!Riconosci(banco.ricevitore))
         return Guasto(banco, EsitoDelLink(banco),
                       banco.interrotto ? "stopped" : "no receiver answered");
-    return Racconta(banco, scan.Righe);
+    return Racconta(banco, Correggi(banco, scan.Righe));
 }
 
 } // namespace orvane

@@ -64,6 +64,20 @@ class ProvaCommand(ProvaStrada):
             "line 4", "[box] Switch OFF 5520 and 5590 Then switch back ON 5520 only and click OK.",
             "#SSFD 1000000;2000000;5000;P;0;6;10;OFF;ON;0*", ""], str(esito))  # fmt: skip
 
+    def test_corretto(self):
+        """What the checks of a run would put right is as they would leave it."""
+        riga = ScanLine(0.15, 30, 0.005, 2, (1,), HoldTime=10, AutoStep=0)
+        for modello, tenuta in (("5520", 10), ("5520F", 500)):
+            self.Prepara(0, riga)
+            eam = bytearray(5094)
+            Campo(eam, 2540, "h", 1)  # pulse limiter
+            (self.dati / "Panels" / "Untitled.EAM").write_bytes(eam)
+            with Peer(modello) as peer:
+                righe = self.Riesce("command", "--scan", "T", peer=peer).out.split("\n")
+            self.assertIn("#SPLMOFF*", righe)
+            self.assertEqual([r.split(";")[4] for r in righe if "#SSFD" in r], [str(tenuta)])
+            self.assertEqual((self.dati / "Panels" / "Untitled.EAM").read_bytes(), bytes(eam))
+
     def test_testo_e_rifiuti(self):
         riga = bytearray(ScanLine(0.15, 30, 0.005, 2, HoldTime=10))
         self.Prepara(0, riga)
