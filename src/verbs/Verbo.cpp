@@ -77,6 +77,17 @@ std::optional<std::string> NomeDaParola(std::string_view parola) {
     return nome;
 }
 
+std::string ParoleInRiga(std::string_view testo) {
+    std::string riga;
+    for (const std::string& pezzo : Dividi(testo, '\r')) {
+        const std::string pulito = Rifila(pezzo);
+        if (!riga.empty() && !pulito.empty())
+            riga += ' ';
+        riga += pulito;
+    }
+    return riga;
+}
+
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche) {
     banco.messaggi << "orvane " << verbo << ": " << perche << "\n";
     if (const VoceVerbo* voce = TrovaVerbo(verbo))

@@ -53,6 +53,9 @@ const VoceVerbo* TrovaVerbo(std::string_view nome);
 /// A name that a file may bear, trimmed; empty for any other.
 std::optional<std::string> NomeDaParola(std::string_view parola);
 
+/// Words of a box on one line, without the blanks that centre them.
+std::string ParoleInRiga(std::string_view testo);
+
 /// Says what is wrong with the words, and how the verb is used.
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);
 EsitoVerbo Guasto(Banco& banco, EsitoVerbo esito, std::string_view perche);
