@@ -4,6 +4,7 @@
 
 #include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 
@@ -101,6 +102,7 @@ std::vector<VoceArchivio> ElencaMisure(const Scrivania& s) {
         VoceArchivio& voce = voci.emplace_back();
         voce.nome = std::move(nome);
         LeggiHeader(s, voce);
+        voce.incompiuta = MisuraIncompiuta(s.albero, voce.nome);
         const FileTraccia tracce = TracceDellaMisura(s, voce.nome);
         voce.passi = tracce.passi;
         const DateMisura date = Date(tracce);

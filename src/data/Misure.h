@@ -62,8 +62,9 @@ struct VoceArchivio {
     std::string ultima; ///< of the latest
     int righe = 0;      ///< scan lines in use
     long long passi = 0;
-    bool leggibile = false; ///< the header is there and whole
-    std::string detector;   ///< letters of all detectors in use
+    bool leggibile = false;  ///< the header is there and whole
+    bool incompiuta = false; ///< its run was cut off, or is on
+    std::string detector;    ///< letters of all detectors in use
 };
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s);
 

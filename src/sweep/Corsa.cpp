@@ -305,4 +305,23 @@ void ChiediStop(StatoCorsa& stato) {
     stato.StopRichiesto = true;
 }
 
+void ChiediPausa(StatoCorsa& stato) {
+    if (stato.fase == FaseCorsa::Misura)
+        stato.PausaRichiesta = 1;
+    else if (stato.fase == FaseCorsa::Pausa)
+        stato.PausaRichiesta = 2;
+}
+
+void ScegliTimer(StatoCorsa& stato, int secondi) {
+    stato.TimerSweepSec = secondi;
+    if (secondi > 0)
+        stato.TriggerSweepMode = 0;
+}
+
+void ScegliTrigger(StatoCorsa& stato, int16_t modo) {
+    stato.TriggerSweepMode = modo;
+    if (modo != 0)
+        stato.TimerSweepSec = 0;
+}
+
 } // namespace orvane

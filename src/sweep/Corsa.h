@@ -40,12 +40,22 @@ struct Avanzamento {
     double restanoS = -1; ///< measured from the speed so far; -1 while unknown
 };
 
+/// The pass under way.
+struct PassataInCorso {
+    int riga = 0;          ///< 0 to 9
+    std::string nome;      ///< "L1", "V"; empty for a plain pass
+    std::string base;      ///< name of its trace file: the measure's, or "<measure>-L1"
+    std::string etichetta; ///< for the status line: "1: ", "1: Line: L1"
+};
+
 /// What a run says to its window, besides what its checks show in the grid.
 struct VistaCorsa : VistaGriglia {
     /// Captions and enabled controls follow from the phase.
     virtual void MostraFase(FaseCorsa fase) = 0;
     /// The axis spans the lines of this table; what was drawn is gone.
     virtual void IniziaTraccia(const ScanTable& tabella, const std::string& misura) = 0;
+    /// A pass is about to send its command: its steps begin at the start of the line again.
+    virtual void IniziaPassata(const PassataInCorso& /*passata*/) {}
     /// New steps of the current line, the first of them at `freqMhz`, one each `passoMhz`.
     virtual void AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
                                std::span<const SampleRecord> passi) = 0;
@@ -53,6 +63,19 @@ struct VistaCorsa : VistaGriglia {
     virtual void MostraFreqLivello(double freqMhz, int16_t livelloCent) = 0;
     virtual void MostraAvanzamento(const Avanzamento& avanzamento) = 0;
     virtual void MostraBatteria(const std::string& livello) = 0;
+
+    /// `PBTimerSweep`, once a second: "<n> s to start Sweep".
+    virtual void MostraAttesaTimer(int /*restanoS*/, int /*totaleS*/) {}
+    /// `FrmPBTriggerSweep`, at each reading of the user port.
+    virtual void MostraAttesaTrigger(int16_t /*modo*/, int /*userPort*/) {}
+    /// The wait for timer or trigger is over, or was given up.
+    virtual void NascondiAttesaInizio() {}
+    /// `CMBPauseSweep` is there, with the caption "Pause"; it is hidden at `FaseCorsa::Ferma`.
+    virtual void MostraCMBPausa(bool /*visibile*/) {}
+    /// `CMBPauseSweep` and `CMBExecuteSweep`, disabled while the receiver is asked to pause.
+    virtual void AbilitaTastiCorsa(bool /*abilitati*/) {}
+    /// A message that goes away by itself, such as "Pause Failed".
+    virtual void MostraMessaggioBreve(const std::string& /*testo*/, int /*ms*/) {}
 };
 
 enum class EsitoCorsa {
@@ -71,8 +94,10 @@ struct StatoCorsa {
     bool StopRichiesto = false;
     int16_t PausaRichiesta = 0; ///< 0 none, 1 pause wanted, 2 resume wanted
     bool SweepFinito = false;
-    std::string misura; ///< name of the measure under way, or of the last one
-    std::string motivo; ///< why the run ended, in words; empty when it was completed
+    int TimerSweepSec = 0;        ///< delayed start; 0 none. A run leaves it as it is
+    int16_t TriggerSweepMode = 0; ///< start when the user port is 0 (1), or is not (2); 0 none
+    std::string misura;           ///< name of the measure under way, or of the last one
+    std::string motivo;           ///< why the run ended, in words; empty when it was completed
 };
 
 struct Corsa {
@@ -87,7 +112,16 @@ struct Corsa {
 /// events. `misura` is the wished name of the measure.
 EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura);
 
-/// Asks a run to stop. It sends `#ASBK*` itself as soon as no command is in flight.
+/// Asks a run to stop, from within the event pump. It sends `#ASBK*` itself as soon as no command
+/// is in flight.
 void ChiediStop(StatoCorsa& stato);
+
+/// `CMBPauseSweep`: pause while a pass is measuring, resume while it is paused; nothing in any
+/// other phase.
+void ChiediPausa(StatoCorsa& stato);
+
+/// `ChkTimerSweep` and `ChkTriggerSweep`: setting one clears the other.
+void ScegliTimer(StatoCorsa& stato, int secondi);
+void ScegliTrigger(StatoCorsa& stato, int16_t modo);
 
 } // namespace orvane
