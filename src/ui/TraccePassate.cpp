@@ -12,7 +12,8 @@ constexpr std::array kQuiete = {0.58, 0.46, 0.36, 0.28};
 } // namespace
 
 void TraccePassate::Inizia(double startMhz, double stopMhz) {
-    strati_.assign(1, {});
+    strati_.clear();
+    strati_.emplace_back();
     corrente_ = 0;
     Corrente().Inizia(startMhz, stopMhz);
     Corrente().ImpostaLarghezza(colonne_);
