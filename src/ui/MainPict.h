@@ -39,6 +39,7 @@ public:
     void ImpostaInvito(const QString& testo);
     /// Of the pass under way.
     const DepositoTracce& Deposito() const { return tracce_.Corrente(); }
+    const TraccePassate& Tracce() const { return tracce_; }
     /// Level of the axis at a height of the picture, dB in the display unit.
     double LivelloA(double y) const;
 

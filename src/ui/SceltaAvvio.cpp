@@ -20,6 +20,7 @@ SceltaAvvio::SceltaAvvio(QWidget* padre) : QWidget(padre) {
                       tr("Seconds to the start"), tr("Seconds from Execute to the start"));
     secondi_->setRange(1, kSecondiMassimi);
     secondi_->setValue(kSecondi);
+    secondi_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     secondi_->setSuffix(QStringLiteral(" s"));
     trigger_ = Nomina(new QCheckBox(tr("Trigger"), this), QStringLiteral("ChkTriggerSweep"),
                       tr("Start by the user port"),

@@ -2,12 +2,18 @@
 
 namespace orvane {
 
+void GuidaPausa::Chiedi() {
+    piano_.dopoS.reset();
+    if (vista_.PuoPausare())
+        ChiediPausa(stato_);
+    else
+        vista_.MostraMessaggioBreve("This receiver cannot pause", 0);
+}
+
 void GuidaPausa::Gira() {
     if (piano_.dopoS && vista_.DatiDaS().value_or(-1) >= *piano_.dopoS &&
-        stato_.fase == FaseCorsa::Misura && stato_.PausaRichiesta == 0) {
-        piano_.dopoS.reset();
-        return ChiediPausa(stato_);
-    }
+        stato_.fase == FaseCorsa::Misura && stato_.PausaRichiesta == 0)
+        return Chiedi();
     if (stato_.fase != FaseCorsa::Pausa) {
         inPausaDa_.reset();
         return;

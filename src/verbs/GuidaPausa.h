@@ -23,7 +23,7 @@ struct PianoPausa {
 
 class GuidaPausa {
 public:
-    GuidaPausa(const Ambiente& ambiente, StatoCorsa& stato, const VistaTerminale& vista,
+    GuidaPausa(const Ambiente& ambiente, StatoCorsa& stato, VistaTerminale& vista,
                PianoPausa piano, TastoInvio tastiera)
         : ambiente_(ambiente), stato_(stato), vista_(vista), piano_(piano),
           tastiera_(std::move(tastiera)) {}
@@ -32,9 +32,11 @@ public:
     void Gira();
 
 private:
+    void Chiedi();
+
     const Ambiente& ambiente_;
     StatoCorsa& stato_;
-    const VistaTerminale& vista_;
+    VistaTerminale& vista_;
     PianoPausa piano_;
     TastoInvio tastiera_;
     std::optional<double> inPausaDa_;

@@ -24,6 +24,8 @@ public:
     void AvviaEventi(std::ostream& dove) { eventi_ = &dove; }
     /// Seconds since the first data of the run; empty before they came.
     std::optional<double> DatiDaS() const;
+    /// The run has said that its receiver can pause.
+    bool PuoPausare() const { return puoPausare_; }
     /// Seconds that the banner has been up; 0 while it is not.
     double StrisciaDaS() const;
     /// Ends a progress line that is being written over.
@@ -48,6 +50,7 @@ public:
     void MostraAttesaTimer(int restanoS, int totaleS) override;
     void MostraAttesaTrigger(int16_t modo, int userPort) override;
     void NascondiAttesaInizio() override { FineRiga(); }
+    void MostraCMBPausa(bool visibile) override { puoPausare_ = visibile; }
     void MostraMessaggioBreve(const std::string& testo, int ms) override;
     /// A box was answered.
     void MostraRisposta(std::string_view testo, std::string_view risposta);
@@ -67,6 +70,7 @@ private:
     double ultimo_ = -1;
     double primiDati_ = -1;
     int portaDetta_ = -1; ///< the user port as it was told last
+    bool puoPausare_ = false;
     FaseCorsa fase_ = FaseCorsa::Ferma;
     bool intero_ = false; ///< the last word was of a whole run
     double freqMhz_ = 0;
