@@ -33,6 +33,13 @@ void Taglia(const fs::path& file, uintmax_t byte) {
         fs::resize_file(file, byte, errore);
 }
 
+template <class Record> void Componi(std::span<const Record> record, std::vector<uint8_t>& byte) {
+    byte.resize(record.size() * kByteRecord<Record>);
+    PosatoreCampi posatore{byte.data()};
+    for (const Record& uno : record)
+        Campi(posatore, const_cast<Record&>(uno)); // which changes none of them
+}
+
 } // namespace
 
 template <class Record>
@@ -48,14 +55,18 @@ bool ScrittoreRecord<Record>::Apri(const Scrivania& s, std::string_view percorso
 template <class Record> bool ScrittoreRecord<Record>::Scrivi(std::span<const Record> record) {
     if (!file_ || record.empty())
         return file_ != nullptr;
-    byte_.resize(record.size() * kByteRecord<Record>);
-    PosatoreCampi posatore{byte_.data()};
-    for (const Record& uno : record)
-        Campi(posatore, const_cast<Record&>(uno)); // which changes none of them
+    Componi(record, byte_);
     if (std::fwrite(byte_.data(), 1, byte_.size(), file_.get()) == byte_.size())
         return true;
     Chiudi(); // whatever came behind a torn record would be read shifted
     return false;
+}
+
+bool SalvaTraccia(const Scrivania& s, std::string_view percorso,
+                  std::span<const SampleRecord> passi) {
+    std::vector<uint8_t> byte;
+    Componi(passi, byte);
+    return s.albero.Salva(percorso, byte);
 }
 
 template class ScrittoreRecord<SampleRecord>;

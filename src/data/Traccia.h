@@ -54,6 +54,10 @@ private:
 /// A trace file's whole steps; a part-step at the end is left out, an absent file gives none.
 std::vector<SampleRecord> LeggiTraccia(const Scrivania& s, std::string_view percorso);
 
+/// Puts a whole trace in the place of the one that is there. False on failure, which leaves it.
+bool SalvaTraccia(const Scrivania& s, std::string_view percorso,
+                  std::span<const SampleRecord> passi);
+
 /// One sample of a shown trace, as the winner of its frequency left it.
 struct CampioneTraccia {
     double freqMhz = 0;

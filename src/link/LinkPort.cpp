@@ -220,6 +220,12 @@ std::optional<size_t> Porta::Arretrato() {
     return flusso->DaSpedire();
 }
 
+std::string Porta::NomePorta() const {
+    if (fisso)
+        return fisso->descrizione;
+    return link.TipoLink == 1 ? "USB 5520 / 5540" : NomeCom(link.NumeroCom);
+}
+
 std::string Porta::Descrizione() const {
     if (fisso)
         return " (" + fisso->descrizione + ")";

@@ -101,6 +101,8 @@ public:
     bool Seriale() const;
     /// Bytes written and not yet sent; empty when that cannot be read.
     std::optional<size_t> Arretrato();
+    /// "COM Port COM3", "USB 5520 / 5540", or what stands in their place.
+    std::string NomePorta() const;
     /// " (USB)", or the COM number with " Bluetooth" where it applies.
     std::string Descrizione() const;
 

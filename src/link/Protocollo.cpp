@@ -78,8 +78,10 @@ void Annota(Ricevitore& r, const std::string& risposta) {
     r.stato.rispostaDaRegistrare = true;
 }
 
-/// The first line of what arrives before the deadline, with its CR; "Error" without one.
+/// The first line of what arrives before the deadline, with its CR; "Error" without one. A user who
+/// gives up meanwhile is not kept waiting.
 std::string AttendiRiga(Ricevitore& r, double tempoMax) {
+    const bool giaAbbandonato = r.stato.AbbandonaComandi;
     const Scadenza fine(r.ambiente, tempoMax);
     Byte ricevuto;
     r.ambiente.ElaboraEventi(0, Veglia::EventiELink);
@@ -93,7 +95,7 @@ std::string AttendiRiga(Ricevitore& r, double tempoMax) {
         // Of what is no reply only a CR at the end may still matter.
         if (ricevuto.size() > kMaxRiga)
             ricevuto.erase(ricevuto.begin(), ricevuto.end() - 1);
-        if (fine.Passata())
+        if (fine.Passata() || r.stato.AbbandonaComandi != giaAbbandonato)
             break;
         r.ambiente.ElaboraEventi(fine.Rimane(), Veglia::EventiELink);
     }

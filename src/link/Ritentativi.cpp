@@ -34,8 +34,9 @@ void RallentaSeFermo(Ricevitore& r, double inizio) {
 
 /// What a setter does between two silent tries.
 void PausaFraTentativi(Ricevitore& r) {
-    if (r.modello.Is5520F)
-        Attendi(r.ambiente, kPausa5520F);
+    const Scadenza fine(r.ambiente, r.modello.Is5520F ? kPausa5520F : 0);
+    while (!fine.Passata() && !r.stato.AbbandonaComandi)
+        r.ambiente.ElaboraEventi(fine.Rimane(), Veglia::Eventi);
     r.porta.SvuotaRicezione();
 }
 

@@ -96,8 +96,11 @@ struct StatoCorsa {
     bool SweepFinito = false;
     int TimerSweepSec = 0;        ///< delayed start; 0 none. A run leaves it as it is
     int16_t TriggerSweepMode = 0; ///< start when the user port is 0 (1), or is not (2); 0 none
-    std::string misura;           ///< name of the measure under way, or of the last one
-    std::string motivo;           ///< why the run ended, in words; empty when it was completed
+    StatoProtocollo* protocollo =
+        nullptr;                 ///< while a run is on: a Stop ends a command that repeats
+    bool ComandoFermato = false; ///< a Stop has done so
+    std::string misura;          ///< name of the measure under way, or of the last one
+    std::string motivo;          ///< why the run ended, in words; empty when it was completed
 };
 
 struct Corsa {

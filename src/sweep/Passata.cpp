@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "base/Testo.h"
 #include "link/Protocollo.h"
 #include "setup/TabellaScan.h"
+#include "sweep/PausaSweep.h"
 
 namespace orvane {
 namespace {
@@ -22,17 +24,10 @@ constexpr size_t kBloccoLettura = 256 * 1024;
 
 } // namespace
 
-Passata::Passata(const Corsa& corsa, Progresso& progresso, ScanLine& riga)
-    : r_(corsa.ricevitore), s_(corsa.scrivania), stato_(corsa.stato), vista_(corsa.vista),
-      progresso_(progresso), riga_(riga), passoMhz_(riga.Step) {}
-
-bool Passata::ApriFile(std::string percorso) {
-    percorso_ = std::move(percorso);
-    if (traccia_.Apri(s_, percorso_))
-        return true;
-    r_.ambiente.Mostra({.testo = "Cannot open file " + s_.albero.DataRoot() + percorso_});
-    return false;
-}
+Passata::Passata(const Corsa& corsa, Progresso& progresso, ScanLine& riga, TracciaRiga& file,
+                 float holdMs)
+    : c_(corsa), r_(corsa.ricevitore), vista_(corsa.vista), progresso_(progresso), riga_(riga),
+      file_(file), holdMs_(holdMs), passoMhz_(riga.Step) {}
 
 Passata::Fine Passata::Esegui(const ComandoSweep& comando) {
     comando_ = comando;
@@ -59,7 +54,7 @@ bool Passata::Avvia() {
 }
 
 double Passata::TempoMassimo() const {
-    return static_cast<double>(riga_.HoldTime + riga_.HoldTimeSD) / 1000 * 8 + kInizioConcessoS;
+    return static_cast<double>(holdMs_ + riga_.HoldTimeSD) / 1000 * 8 + kInizioConcessoS;
 }
 
 bool Passata::Ricevi() {
@@ -71,6 +66,8 @@ bool Passata::Ricevi() {
                                   ? std::min(termine.Rimane(), intestazione.Rimane())
                                   : termine.Rimane();
         r_.ambiente.ElaboraEventi(subito ? 0 : attesa, Veglia::EventiELink);
+        if (c_.stato.PausaRichiesta != 0 && !Interrotta() && !Pausa(termine))
+            return false;
         if (Interrotta())
             return Finisci(EsitoCorsa::Fermata);
         if (LeggiArrivati()) {
@@ -86,6 +83,14 @@ bool Passata::Ricevi() {
         if (!Attendi5520F(intestazione))
             return false;
     }
+}
+
+/// False: what had come by then could not be stored, or was no sweep.
+bool Passata::Pausa(Scadenza& termine) {
+    bool bene = true;
+    ControllaPausaSweep(c_, [&] { bene = Elabora(); });
+    termine.Rinnova(TempoMassimo());
+    return bene && Elabora();
 }
 
 /// Whether any bytes came; the log has them.
@@ -113,9 +118,13 @@ bool Passata::Attendi5520F(Scadenza& intestazione) {
     return Avvia();
 }
 
+/// Nothing came for too long, or the carrier is gone and nothing more can come.
 bool Passata::LetturaFallita() {
-    r_.ambiente.Mostra({.testo = "5520 Time out", .icona = Icona::Esclamazione});
-    return Finisci(EsitoCorsa::GuastoLink, "5520 Time out");
+    std::string testo = "5520 Time out";
+    if (!r_.porta.Aperta())
+        testo += "\r" + r_.porta.NomePorta() + " not Available";
+    r_.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione});
+    return Finisci(EsitoCorsa::GuastoLink, Sostituisci(testo, "\r", ": "));
 }
 
 /// What has just been read: through the decoder, to the file, to the picture.
@@ -123,14 +132,15 @@ bool Passata::Elabora() {
     bool scritti = true;
     const auto stato = lettore_->Avanza(r_.porta.accumulo, [&](Passi passi) {
         ApplicaPassoAnnunciato();
-        scritti = traccia_.Scrivi(passi);
+        scritti = file_.Scrivi(passi);
         MostraDati(passi);
     });
     if (!scritti) {
-        r_.ambiente.Mostra({.testo = "Cannot save file " + s_.albero.DataRoot() + percorso_,
-                            .icona = Icona::Esclamazione});
+        r_.ambiente.Mostra(
+            {.testo = "Cannot save file " + c_.scrivania.albero.DataRoot() + file_.Percorso(),
+             .icona = Icona::Esclamazione});
         FermaFlusso();
-        return Finisci(EsitoCorsa::GuastoFile, "cannot write " + percorso_);
+        return Finisci(EsitoCorsa::GuastoFile, "cannot write " + file_.Percorso());
     }
     if (passi_ > 2 * PassiDellaRiga(riga_) + kPassiDiTroppo) {
         FermaFlusso();
@@ -148,7 +158,7 @@ void Passata::FermaFlusso() {
 }
 
 /// Of a line with a frequency table: the table's, its last one for whatever comes behind it.
-double Passata::Frequenza(long long passo) const {
+double Passata::DeterminaFreqValFC(long long passo) const {
     const auto& elenco = comando_.frequenzeMhz;
     if (elenco.empty())
         return riga_.Start + static_cast<double>(passo) * passoMhz_;
@@ -157,11 +167,11 @@ double Passata::Frequenza(long long passo) const {
 
 void Passata::AggiungiPassi(Passi passi) {
     if (comando_.frequenzeMhz.empty())
-        return vista_.AggiungiPassi(riga_, Frequenza(passi_), passoMhz_, passi);
+        return vista_.AggiungiPassi(riga_, DeterminaFreqValFC(passi_), passoMhz_, passi);
     for (size_t i = 0; i < passi.size(); ++i) {
         const long long passo = passi_ + static_cast<long long>(i);
-        const double mhz = Frequenza(passo);
-        vista_.AggiungiPassi(riga_, mhz, mhz - Frequenza(std::max(passo - 1, 0LL)),
+        const double mhz = DeterminaFreqValFC(passo);
+        vista_.AggiungiPassi(riga_, mhz, mhz - DeterminaFreqValFC(std::max(passo - 1, 0LL)),
                              passi.subspan(i, 1));
     }
 }
@@ -175,7 +185,7 @@ void Passata::MostraDati(Passi passi) {
     ultimoTesto_ = r_.ambiente.Adesso();
     const auto& livelli = passi.back().Livello;
     const auto piuAlto = *std::max_element(livelli.begin(), livelli.end());
-    vista_.MostraFreqLivello(Frequenza(passi_ - 1), piuAlto);
+    vista_.MostraFreqLivello(DeterminaFreqValFC(passi_ - 1), piuAlto);
     vista_.MostraAvanzamento(progresso_.Adesso());
 }
 

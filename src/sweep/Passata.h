@@ -6,11 +6,11 @@
 #include <span>
 #include <string>
 
-#include "data/Traccia.h"
 #include "setup/ComandoSweep.h"
 #include "sweep/Corsa.h"
 #include "sweep/FlussoSweep.h"
 #include "sweep/Progresso.h"
+#include "sweep/TracciaRiga.h"
 
 namespace orvane {
 
@@ -23,11 +23,11 @@ public:
         std::string motivo = {};
     };
 
-    /// `riga` takes over the step that the receiver announces.
-    Passata(const Corsa& corsa, Progresso& progresso, ScanLine& riga);
+    /// `riga` takes over the step that the receiver announces; `file` is open. `holdMs`: what a
+    /// step may take, as far as is known.
+    Passata(const Corsa& corsa, Progresso& progresso, ScanLine& riga, TracciaRiga& file,
+            float holdMs);
 
-    /// The file of the pass; false after a box.
-    bool ApriFile(std::string percorso);
     /// Sends the command and stays until the end mark has come and the line is silent.
     Fine Esegui(const ComandoSweep& comando);
 
@@ -39,30 +39,30 @@ private:
     bool LeggiArrivati();
     bool AttendeIntestazione() const;
     bool Attendi5520F(Scadenza& intestazione);
+    bool Pausa(Scadenza& termine);
     bool LetturaFallita();
     bool Elabora();
     void FermaFlusso();
-    double Frequenza(long long passo) const;
+    double DeterminaFreqValFC(long long passo) const;
     void AggiungiPassi(Passi passi);
     void MostraDati(Passi passi);
     void ApplicaPassoAnnunciato();
     bool SweepRifiutato();
     void ScarigaDatiSweepRestanti();
-    bool Interrotta() const { return stato_.StopRichiesto || r_.stato.AbbandonaComandi; }
+    bool Interrotta() const { return c_.stato.StopRichiesto || r_.stato.AbbandonaComandi; }
     bool Finisci(EsitoCorsa esito, std::string motivo = {});
     double TempoMassimo() const;
 
+    const Corsa& c_;
     Ricevitore& r_;
-    Scrivania& s_;
-    const StatoCorsa& stato_;
     VistaCorsa& vista_;
     Progresso& progresso_;
     ScanLine& riga_;
     ComandoSweep comando_;
     Fine fine_;
     std::optional<LettoreFlusso> lettore_;
-    ScrittoreTraccia traccia_;
-    std::string percorso_;
+    TracciaRiga& file_;
+    float holdMs_;
     double passoMhz_;
     long long passi_ = 0;
     double ultimoTesto_ = 0;

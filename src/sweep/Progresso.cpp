@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/FreqTableRecord.h"
+#include "setup/CommutatoriSweep.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -15,15 +16,17 @@ constexpr double kFrazioneMinima = 0.005;
 
 } // namespace
 
-Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella)
+Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella, int ancillaryKind)
     : ambiente_(ambiente), inizio_(ambiente.Adesso()) {
     for (size_t i = 0; i < RigheInUso(tabella); ++i) {
         const ScanLine& riga = tabella[i];
         // How many a frequency table has is known when its line is about to run.
         const PesoRiga peso{.passi = riga.StepMode == 1 ? static_cast<long long>(kMaxFreqTable)
                                                         : PassiDellaRiga(riga),
-                            .perPasso = std::max<double>(riga.HoldTime, 0) + kMsPerPasso};
-        totale_ += peso.Peso();
+                            .perPasso = std::max<double>(riga.HoldTime, 0) + kMsPerPasso,
+                            .passate =
+                                static_cast<int>(PassateDellaRiga(riga, ancillaryKind).size())};
+        totale_ += peso.Peso() * peso.passate;
         righe_.push_back(peso);
     }
 }
@@ -31,10 +34,16 @@ Progresso::Progresso(const Ambiente& ambiente, const ScanTable& tabella)
 void Progresso::IniziaRiga(int riga) {
     finite_ = 0;
     for (int i = 0; i < riga; ++i)
-        finite_ += righe_[static_cast<size_t>(i)].Peso();
+        finite_ += righe_[static_cast<size_t>(i)].Peso() * righe_[static_cast<size_t>(i)].passate;
     riga_ = riga;
-    passiRiga_ = 0;
     rigaFinita_ = false;
+    IniziaPassata(0, {});
+}
+
+void Progresso::IniziaPassata(int passata, std::string_view nome) {
+    passata_ = passata;
+    nomePassata_ = nome;
+    passiRiga_ = 0;
 }
 
 void Progresso::CorreggiRiga(long long passi) {
@@ -49,14 +58,20 @@ void Progresso::CorreggiRiga(long long passi) {
 double Progresso::PesoFatto() const {
     const PesoRiga& riga = righe_[static_cast<size_t>(riga_)];
     if (rigaFinita_)
-        return riga.Peso();
-    return static_cast<double>(std::min(passiRiga_, riga.passi)) * riga.perPasso;
+        return riga.Peso() * riga.passate;
+    return riga.Peso() * passata_ +
+           static_cast<double>(std::min(passiRiga_, riga.passi)) * riga.perPasso;
 }
 
 Avanzamento Progresso::Adesso() const {
     Avanzamento ora{.riga = riga_, .numRighe = static_cast<int>(righe_.size())};
     ora.passiRiga = passiRiga_;
-    ora.totaleRiga = righe_.empty() ? 0 : righe_[static_cast<size_t>(riga_)].passi;
+    ora.passata = passata_;
+    ora.nomePassata = nomePassata_;
+    if (!righe_.empty()) {
+        ora.totaleRiga = righe_[static_cast<size_t>(riga_)].passi;
+        ora.numPassate = righe_[static_cast<size_t>(riga_)].passate;
+    }
     ora.trascorsiS = ambiente_.Adesso() - inizio_;
     if (totale_ > 0)
         ora.frazione = std::min(1.0, (finite_ + PesoFatto()) / totale_);

@@ -1,0 +1,191 @@
+#include "sweep/PausaSweep.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "link/Interrogazioni.h"
+#include "link/Protocollo.h"
+#include "records/SetupRecord.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kTentativi = 4;
+constexpr double kAttesaComandoS = 0.2;
+constexpr double kSilenzioS = 0.1;
+constexpr double kArretratoS = 1.0; ///< what was on its way when the receiver fell silent
+constexpr double kFraTentativiS = 0.5;
+constexpr double kPeriodoBatteriaS = 5;
+constexpr int kMessaggioMs = 1500;
+constexpr size_t kBloccoLettura = 64 * 1024;
+constexpr std::string_view kRifiuto = "SERR";
+constexpr std::string_view kFineSweep = "SFD_END";
+constexpr int kAncillaryMastTable = 5;
+
+class Pausa {
+public:
+    explicit Pausa(const Corsa& c) : c_(c), r_(c.ricevitore) {}
+    /// True: the receiver is silent in the midst of its sweep.
+    bool Sospendi();
+    void RestaInPausa();
+    void Riprendi();
+
+private:
+    bool ProvaSospensione();
+    bool ProvaRipresa();
+    void Attendi(double secondi);
+    bool Raccogli();
+    bool TogliRifiuto();
+    bool SweepGiaFinito() const { return CercaSequenza(r_.porta.accumulo.Dati(), kFineSweep) > 0; }
+    bool VuoleUscire() const { return c_.stato.StopRichiesto || r_.stato.AbbandonaComandi; }
+    void Fase(FaseCorsa fase) {
+        c_.stato.fase = fase;
+        c_.vista.MostraFase(fase);
+    }
+
+    const Corsa& c_;
+    Ricevitore& r_;
+};
+
+/// A wait that the user's way out ends.
+void Pausa::Attendi(double secondi) {
+    const Scadenza fine(r_.ambiente, secondi);
+    while (!fine.Passata() && !VuoleUscire())
+        r_.ambiente.ElaboraEventi(fine.Rimane(), Veglia::Eventi);
+}
+
+bool Pausa::Raccogli() {
+    if (r_.porta.ByteInCoda() == 0)
+        return false;
+    const size_t letti = r_.porta.LeggiInAccumulo(kBloccoLettura);
+    if (letti > 0)
+        r_.log.BloccoSweep(r_.porta.accumulo.Dati().last(letti));
+    return letti > 0;
+}
+
+/// Cuts a refusal, with its line end, out of the stream that goes on around it.
+bool Pausa::TogliRifiuto() {
+    const auto dati = r_.porta.accumulo.Dati();
+    const int32_t qui = CercaSequenza(dati, kRifiuto);
+    if (qui == 0)
+        return false;
+    std::vector<uint8_t> tutti(dati.begin(), dati.end());
+    const auto da = tutti.begin() + (qui - 1);
+    auto a = da + static_cast<std::ptrdiff_t>(kRifiuto.size());
+    if (tutti.end() - a >= 2 && a[0] == '\r' && a[1] == '\n')
+        a += 2;
+    tutti.erase(da, a);
+    r_.porta.accumulo.Azzera();
+    std::ranges::copy(tutti, r_.porta.accumulo.Spazio(tutti.size()).begin());
+    r_.porta.accumulo.Aggiunti(tutti.size());
+    return true;
+}
+
+/// True: the receiver has fallen silent.
+bool Pausa::ProvaSospensione() {
+    if (!InviaGrezzo(r_, "#ASPA*"))
+        return false;
+    Attendi(kAttesaComandoS);
+    Scadenza silenzio(r_.ambiente, kSilenzioS);
+    const Scadenza arretrato(r_.ambiente, kArretratoS);
+    while (!VuoleUscire()) {
+        if (Raccogli()) {
+            silenzio.Rinnova(kSilenzioS);
+        } else if (TogliRifiuto()) {
+            return false;
+        } else if (silenzio.Passata()) {
+            return true;
+        }
+        if (arretrato.Passata())
+            return false;
+        r_.ambiente.ElaboraEventi(silenzio.Rimane(), Veglia::EventiELink);
+    }
+    return false;
+}
+
+bool Pausa::Sospendi() {
+    c_.vista.AbilitaTastiCorsa(false);
+    bool riuscita = false;
+    for (int i = 0; i < kTentativi && !riuscita && !VuoleUscire() && !SweepGiaFinito(); ++i) {
+        if (i > 0)
+            Attendi(kFraTentativiS);
+        riuscita = ProvaSospensione();
+    }
+    c_.vista.AbilitaTastiCorsa(true);
+    if (riuscita && !SweepGiaFinito())
+        return true;
+    c_.stato.PausaRichiesta = 0;
+    if (VuoleUscire() || SweepGiaFinito())
+        return false;
+    c_.stato.StopRichiesto = true;
+    c_.stato.motivo = "Pause Failed";
+    c_.vista.MostraMessaggioBreve("Pause Failed", kMessaggioMs);
+    return false;
+}
+
+void Pausa::RestaInPausa() {
+    Fase(FaseCorsa::Pausa);
+    Scadenza batteria(r_.ambiente, 0);
+    while (c_.stato.PausaRichiesta == 1 && !VuoleUscire()) {
+        if (batteria.Passata()) {
+            VisualizzaBatteriaInPausa(c_);
+            batteria.Rinnova(kPeriodoBatteriaS);
+        }
+        r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
+    }
+}
+
+/// False: the receiver has refused. Its steps may be there again at once.
+bool Pausa::ProvaRipresa() {
+    InviaGrezzo(r_, "#ASRE*");
+    const Scadenza risposta(r_.ambiente, kSilenzioS);
+    while (!Raccogli() && !risposta.Passata() && !VuoleUscire() && r_.porta.Aperta())
+        r_.ambiente.ElaboraEventi(risposta.Rimane(), Veglia::EventiELink);
+    return !TogliRifiuto();
+}
+
+void Pausa::Riprendi() {
+    Fase(FaseCorsa::Misura);
+    VisualizzaBatteriaInPausa(c_);
+    while (!VuoleUscire() && !ProvaRipresa()) {
+        MostraErrore(r_, "set Resume Sweep", true);
+        Attendi(kFraTentativiS);
+    }
+    MostraErrore(r_, "set Resume Sweep", false);
+    c_.stato.PausaRichiesta = 0;
+}
+
+} // namespace
+
+void ControllaVisCMBPausa(Corsa& corsa) {
+    const ReceiverModel& modello = corsa.ricevitore.modello;
+    const bool mastTable = AncillaryDi(corsa.scrivania.setup) == kAncillaryMastTable;
+    corsa.vista.MostraCMBPausa(modello.FwVersione >= firmware::kPausaBatteria &&
+                               !(mastTable && modello.EstensioneAttiva));
+}
+
+void ControllaPausaSweep(const Corsa& corsa, const std::function<void()>& elabora) {
+    Pausa pausa(corsa);
+    if (corsa.stato.PausaRichiesta == 1 && pausa.Sospendi()) {
+        elabora();
+        pausa.RestaInPausa();
+    }
+    if (corsa.stato.PausaRichiesta == 2 && !corsa.stato.StopRichiesto)
+        pausa.Riprendi();
+}
+
+void VisualizzaBatteriaInPausa(const Corsa& corsa) {
+    Ricevitore& r = corsa.ricevitore;
+    if (r.modello.FwVersione < firmware::kPausaBatteria || !HaBatteria(r.modello))
+        return;
+    // The query empties the accumulation buffer, in which part of a step may wait.
+    const auto dati = r.porta.accumulo.Dati();
+    const std::vector<uint8_t> tenuti(dati.begin(), dati.end());
+    const auto batteria = LeggiRispostaBAT(InviaComando(r, kTempoRisposta, "#?BAT*", true));
+    std::ranges::copy(tenuti, r.porta.accumulo.Spazio(tenuti.size()).begin());
+    r.porta.accumulo.Aggiunti(tenuti.size());
+    if (batteria)
+        corsa.vista.MostraBatteria(batteria->livello);
+}
+
+} // namespace orvane

@@ -1,0 +1,21 @@
+// Pause and resume of a pass, in the midst of its stream.
+#pragma once
+
+#include <functional>
+
+#include "sweep/Corsa.h"
+
+namespace orvane {
+
+/// Whether a run with this receiver can pause: shows `CMBPauseSweep` where it can.
+void ControllaVisCMBPausa(Corsa& corsa);
+
+/// Carries out what `PausaRichiesta` asks for, and stays until the pass runs on or the user wants
+/// out. What arrives meanwhile goes into the accumulation buffer; `elabora` is called when all that
+/// came ahead of the pause is there. A receiver that cannot be made to pause flags a stop.
+void ControllaPausaSweep(const Corsa& corsa, const std::function<void()>& elabora);
+
+/// Asks the battery, once, in the midst of a pass: what has been accumulated stays.
+void VisualizzaBatteriaInPausa(const Corsa& corsa);
+
+} // namespace orvane

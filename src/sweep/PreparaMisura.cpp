@@ -1,0 +1,61 @@
+// A run's preparation: what the receiver is told ahead of the first line, and the measure's files.
+#include "base/Testo.h"
+#include "base/Versione.h"
+#include "data/Incompiute.h"
+#include "data/Panels.h"
+#include "setup/FrontEndSweep.h"
+#include "sweep/Svolgimento.h"
+
+namespace orvane {
+
+bool Svolgimento::PreparaMisura() {
+    Fase(FaseCorsa::Preparazione);
+    c_.stato.misura = misura_;
+    s_.env.SweepPath = PercorsoKSH(misura_);
+    SalvaPanelEPN(s_, kPannelloEPN);
+    if (!InviaImpostazioniCorsa() || Interrotta())
+        return ControllaInterruzioni();
+    CompilaIntestazione();
+    if (!PreparaFile())
+        return false;
+    InizializzaHTOriginale();
+    progresso_.emplace(r_.ambiente, scan_.Righe, AncillaryDi(s_.setup));
+    c_.vista.IniziaTraccia(scan_.Righe, misura_);
+    return true;
+}
+
+bool Svolgimento::InviaImpostazioniCorsa() {
+    if (!InviaInOrdine(r_, ComponiImpostazioniCorsa(r_.modello, s_.setup)))
+        return false;
+    ControllaFiltroAntennaGX2207(r_.modello, s_);
+    return InviaInOrdine(r_, ComponiFiltroAntennaGX2207(r_.modello, s_.setup));
+}
+
+/// What the header tells of receiver and program.
+void Svolgimento::CompilaIntestazione() {
+    const std::string& serie = r_.modello.SerialNumber;
+    s_.setup.FwRelease = r_.modello.FwTesto;
+    s_.setup.SwRelease = Sostituisci(RelSoftware(), "Rel. ", "");
+    s_.setup.SerialA = serie.substr(0, 10);
+    s_.setup.SerialB = serie.size() > 10 ? serie.substr(10) : "";
+    s_.setup.ModelText = NomeModello(r_.modello, false);
+}
+
+bool Svolgimento::PreparaFile() {
+    PreparaCartellaMisura(s_, misura_);
+    preparata_ = true;
+    CopiaFileLimSweep(s_, misura_, scan_.Righe);
+    CopiaFileFacSweep(s_, misura_);
+    // A power cut between the two leaves a header that is known to be one of no whole measure.
+    const bool segnata = SegnaCorsa(s_.albero, misura_);
+    return (SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup) && segnata) ||
+           Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
+}
+
+/// Each pass is asked for with the hold times of the user, whatever the receiver made of them in
+/// the pass before.
+void Svolgimento::InizializzaHTOriginale() {
+    originale_ = scan_.Righe;
+}
+
+} // namespace orvane
