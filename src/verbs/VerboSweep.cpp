@@ -80,6 +80,8 @@ ModoCorsa LeggiModo(const Argomenti& argomenti, bool conTerminale) {
     modo.pausa.perS = Secondi(argomenti, "pause-for", 0, modo);
     const double timer = Secondi(argomenti, "timer", 1, modo).value_or(0);
     const auto trigger = argomenti.Opzione("trigger");
+    if (!modo.errore.empty())
+        return modo;
     if (timer != std::floor(timer))
         modo.errore = "--timer wants whole seconds";
     if (trigger && *trigger != "0" && *trigger != "1")

@@ -94,6 +94,8 @@ void VistaTerminale::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) 
 }
 
 void VistaTerminale::MostraFase(FaseCorsa fase) {
+    if (fase == fase_)
+        return;
     Evento(EventoFase(fase));
     if (fase == FaseCorsa::Pausa)
         Riga("paused");

@@ -29,8 +29,7 @@ class ProvaCorsa(ProvaStrada):
             esito = self.Riesce(*self.Parole(), peer=peer)
         eventi = self.Eventi(esito)
         fasi = [e["phase"] for e in eventi if e["event"] == "phase"]
-        attese = ["checks", "preparation", "line", "sweep", "idle"]
-        self.assertEqual([f for f in fasi if f in attese], attese)
+        self.assertEqual(fasi, ["checks", "preparation", "line", "sweep", "line", "idle"])
         passata = next(e for e in eventi if e["event"] == "pass")
         self.assertEqual((passata["line"], passata["pass"], passata["trace"]), (1, "", "M"))
         ultimo = [e for e in eventi if e["event"] == "progress"][-1]
