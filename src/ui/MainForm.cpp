@@ -1,6 +1,7 @@
 #include "ui/MainForm.h"
 
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QShortcut>
@@ -130,7 +131,7 @@ QWidget* MainForm::CreaCentro() {
     sopra->addWidget(striscia_);
     sopra->addStretch(1);
     pila->addLayout(sopra, 0, 0);
-    CreaAvvisiQuadro(*pila, mezzo);
+    CreaAvvisiQuadro();
     comuni_ = new ColonnaComuni(scrivania_, centro);
     const int m = fontMetrics().averageCharWidth();
     archivio_->setMinimumWidth(28 * m);

@@ -2,7 +2,6 @@
 // records, and calls the procedures; it decides nothing.
 #pragma once
 
-#include <QGridLayout>
 #include <QMainWindow>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -97,7 +96,7 @@ private:
     void ClickScheda(int scheda);
     void Esegui();
     void AbilitaDisabilitaControlli();
-    void CreaAvvisiQuadro(QGridLayout& pila, QWidget* padre);
+    void CreaAvvisiQuadro();
     void MostraEsito(EsitoCorsa esito);
     void ApriMisuraScelta(const QString& nome);
     void DisegnaMisura(int detector);

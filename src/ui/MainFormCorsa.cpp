@@ -1,4 +1,5 @@
 // What a run and the protocol say to the main window.
+#include <QGridLayout>
 #include <QMenuBar>
 
 #include "base/Numeri.h"
@@ -23,6 +24,10 @@ constexpr ParoleEsito kEsiti[] = {
     {EsitoCorsa::GuastoFile, "File could not be written"},
 };
 
+/// What the status line says in each phase, the measure's name in place of %1; empty: as before.
+constexpr const char* kParoleFase[] = {
+    "", "", "Waiting for the start", "Starting", "", "Sweeping %1", "Paused", "Stopping", ""};
+
 } // namespace
 
 void MainForm::Esegui() {
@@ -30,6 +35,8 @@ void MainForm::Esegui() {
         ClickExecuteSweep(console_->corsa, {});
         return;
     }
+    stato_->CancellaBarre();
+    stato_->NascondiFreqLivello();
     stato_->MostraMessaggio(tr("Checking"));
     sweep_->Avvio().Scrivi(console_->corsa.stato);
     MostraEsito(ClickExecuteSweep(console_->corsa, sweep_->Misura()));
@@ -38,7 +45,9 @@ void MainForm::Esegui() {
 void MainForm::MostraEsito(EsitoCorsa esito) {
     const StatoCorsa& s = console_->corsa.stato;
     QString testo = tr(kEsiti[static_cast<size_t>(esito)].testo);
-    if (esito == EsitoCorsa::Compiuta)
+    if (esito == EsitoCorsa::Fermata && s.misura.empty())
+        testo = tr("Stopped before the start: nothing was stored");
+    else if (esito == EsitoCorsa::Compiuta)
         testo += QStringLiteral(": ") + Q(s.misura);
     else if (esito != EsitoCorsa::Fermata && !s.motivo.empty())
         testo += QStringLiteral(": ") + Q(s.motivo);
@@ -49,23 +58,26 @@ void MainForm::MostraEsito(EsitoCorsa esito) {
 }
 
 /// The windows over the picture that a run shows for a while: waits for its start, brief messages.
-void MainForm::CreaAvvisiQuadro(QGridLayout& pila, QWidget* padre) {
-    attesaTimer_ = new FrmAttesaInizio(QStringLiteral("FrmPBTimerSweep"),
-                                       QStringLiteral("PBTimerSweep"), tr("Delayed start"), padre);
+void MainForm::CreaAvvisiQuadro() {
+    auto* pila = new QGridLayout(quadro_);
+    attesaTimer_ =
+        new FrmAttesaInizio(QStringLiteral("FrmPBTimerSweep"), QStringLiteral("PBTimerSweep"),
+                            tr("Delayed start"), quadro_);
     attesaTrigger_ =
         new FrmAttesaInizio(QStringLiteral("FrmPBTriggerSweep"), QStringLiteral("PBTriggerSweep"),
-                            tr("Waiting for the trigger"), padre);
+                            tr("Waiting for the trigger"), quadro_);
     for (FrmAttesaInizio* attesa : {attesaTimer_, attesaTrigger_}) {
-        pila.addWidget(attesa, 0, 0, Qt::AlignCenter);
+        pila->addWidget(attesa, 0, 0, Qt::AlignCenter);
         connect(attesa, &FrmAttesaInizio::Ferma, this,
                 [this] { ChiediStop(console_->corsa.stato); });
     }
-    messaggioBreve_ = Nomina(new QLabel(padre), QStringLiteral("LBMessaggioBreve"), tr("Message"));
+    messaggioBreve_ =
+        Nomina(new QLabel(quadro_), QStringLiteral("LBMessaggioBreve"), tr("Message"));
     messaggioBreve_->setFrameShape(QFrame::StyledPanel);
     messaggioBreve_->setAutoFillBackground(true);
     messaggioBreve_->setMargin(18);
     messaggioBreve_->hide();
-    pila.addWidget(messaggioBreve_, 0, 0, Qt::AlignCenter);
+    pila->addWidget(messaggioBreve_, 0, 0, Qt::AlignCenter);
     scadenzaMessaggio_.setSingleShot(true);
     connect(&scadenzaMessaggio_, &QTimer::timeout, messaggioBreve_, &QWidget::hide);
 }
@@ -76,12 +88,8 @@ void MainForm::MostraFase(FaseCorsa fase) {
         riceveTasti_ = true;
     }
     AbilitaDisabilitaControlli();
-    if (fase == FaseCorsa::Arresto)
-        stato_->MostraMessaggio(tr("Stopping"));
-    else if (fase == FaseCorsa::Pausa)
-        stato_->MostraMessaggio(tr("Paused"));
-    else if (fase == FaseCorsa::Misura)
-        stato_->MostraMessaggio(tr("Sweeping %1").arg(Q(nomeCorsa_)));
+    if (const char* parole = kParoleFase[static_cast<size_t>(fase)]; *parole != 0)
+        stato_->MostraMessaggio(tr(parole).replace(QStringLiteral("%1"), Q(nomeCorsa_)));
     AggiornaEtichette();
 }
 

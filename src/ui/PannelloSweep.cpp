@@ -143,7 +143,8 @@ void PannelloSweep::AbilitaDisabilitaControlli(const ControlliFase& controlli) {
     Vesti(esegui_, ferma ? "accento" : "stop");
     for (QWidget* pezzo : {static_cast<QWidget*>(tabelle_), static_cast<QWidget*>(nuova_),
                            static_cast<QWidget*>(cancella_), static_cast<QWidget*>(banda_),
-                           static_cast<QWidget*>(misura_), static_cast<QWidget*>(avvio_)})
+                           static_cast<QWidget*>(misura_), static_cast<QWidget*>(avvio_),
+                           static_cast<QWidget*>(&piede_->Bande())})
         pezzo->setEnabled(ferma);
     ferma_ = ferma;
     griglia_->Modello().ImpostaModificabile(ferma);

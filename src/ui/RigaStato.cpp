@@ -54,7 +54,9 @@ void RigaStato::MostraAvanzamento(const Avanzamento& a) {
     QStringList parti;
     if (!a.nomePassata.empty())
         parti << etichetta_;
-    parti << tr("Line %1 of %2").arg(a.riga + 1).arg(a.numRighe);
+    parti << (parti.isEmpty() ? tr("Line %1 of %2") : tr("line %1 of %2"))
+                 .arg(a.riga + 1)
+                 .arg(a.numRighe);
     if (a.numPassate > 1)
         parti << tr("pass %1 of %2").arg(a.passata + 1).arg(a.numPassate);
     passata_->setText(parti.join(QStringLiteral(" · ")));

@@ -1,14 +1,19 @@
 #include "ui/SceltaAvvio.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QHBoxLayout>
 
+#include "base/Numeri.h"
 #include "ui/Moduli.h"
+#include "ui/Testi.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kSecondi = 10;
-constexpr int kSecondiMassimi = 24 * 3600;
+constexpr double kSecondiMassimi = 24 * 3600;
 
 } // namespace
 
@@ -16,12 +21,12 @@ SceltaAvvio::SceltaAvvio(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FRMAvvio"));
     timer_ = Nomina(new QCheckBox(tr("Timer"), this), QStringLiteral("ChkTimerSweep"),
                     tr("Start after a time"), tr("The sweep starts after so many seconds"));
-    secondi_ = Nomina(new QSpinBox(this), QStringLiteral("TBTimerSweep"),
-                      tr("Seconds to the start"), tr("Seconds from Execute to the start"));
-    secondi_->setRange(1, kSecondiMassimi);
-    secondi_->setValue(kSecondi);
-    secondi_->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    secondi_->setSuffix(QStringLiteral(" s"));
+    secondi_ =
+        Nomina(new QLineEdit(QString::number(kSecondi), this), QStringLiteral("TBTimerSweep"),
+               tr("Seconds to the start"), tr("Seconds from Execute to the start"));
+    secondi_->setMaximumWidth(secondi_->fontMetrics().averageCharWidth() * 9);
+    connect(secondi_, &QLineEdit::editingFinished, this,
+            [this] { secondi_->setText(QString::number(Secondi())); });
     trigger_ = Nomina(new QCheckBox(tr("Trigger"), this), QStringLiteral("ChkTriggerSweep"),
                       tr("Start by the user port"),
                       tr("The sweep starts when the receiver's user port says so"));
@@ -35,6 +40,7 @@ SceltaAvvio::SceltaAvvio(QWidget* padre) : QWidget(padre) {
     riga->addWidget(CreaDidascalia(tr("Start by"), this));
     riga->addWidget(timer_);
     riga->addWidget(secondi_);
+    riga->addWidget(CreaDidascalia(tr("s"), this));
     riga->addSpacing(8);
     riga->addWidget(trigger_);
     riga->addWidget(modo_);
@@ -54,9 +60,15 @@ SceltaAvvio::SceltaAvvio(QWidget* padre) : QWidget(padre) {
 }
 
 void SceltaAvvio::Scrivi(StatoCorsa& stato) const {
-    ScegliTimer(stato, timer_->isChecked() ? secondi_->value() : 0);
+    ScegliTimer(stato, timer_->isChecked() ? Secondi() : 0);
     ScegliTrigger(stato,
                   static_cast<int16_t>(trigger_->isChecked() ? modo_->currentData().toInt() : 0));
+}
+
+/// Whole seconds, 1 to a day, whatever was typed.
+int SceltaAvvio::Secondi() const {
+    const double letti = LeggiNumero(S(secondi_->text())).value_or(kSecondi);
+    return static_cast<int>(std::clamp(std::round(letti), 1.0, kSecondiMassimi));
 }
 
 void SceltaAvvio::Segui() {

@@ -3,7 +3,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QSpinBox>
+#include <QLineEdit>
 #include <QWidget>
 
 #include "sweep/Corsa.h"
@@ -19,10 +19,11 @@ public:
     void Scrivi(StatoCorsa& stato) const;
 
 private:
+    int Secondi() const;
     void Segui();
 
     QCheckBox* timer_;
-    QSpinBox* secondi_;
+    QLineEdit* secondi_;
     QCheckBox* trigger_;
     QComboBox* modo_;
 };

@@ -111,7 +111,7 @@ void VistaTerminale::IniziaTraccia(const ScanTable&, const std::string& misura) 
 
 void VistaTerminale::IniziaPassata(const PassataInCorso& passata) {
     if (!passata.nome.empty())
-        Riga("pass " + passata.etichetta);
+        Riga(passata.etichetta);
     Evento(EventoPassata(passata));
 }
 

@@ -2,7 +2,6 @@
 #include <QCheckBox>
 #include <QMenu>
 #include <QProgressBar>
-#include <QSpinBox>
 
 #include "Banco.h"
 #include "data/Incompiute.h"
@@ -225,7 +224,7 @@ void CorsaUi::TimerFermatoNonLasciaNulla() {
     banco.Scheda(Modalita::Sweep);
     banco.RigaCorta();
     banco.Trova<QCheckBox>("ChkTimerSweep")->click();
-    banco.Trova<QSpinBox>("TBTimerSweep")->setValue(40);
+    banco.Trova<QLineEdit>("TBTimerSweep")->setText(QStringLiteral("40"));
     auto* attesa = banco.Trova<QWidget>("FrmPBTimerSweep");
     QString testo;
     int massimo = 0;
@@ -239,6 +238,7 @@ void CorsaUi::TimerFermatoNonLasciaNulla() {
     QCOMPARE(testo, QStringLiteral("40 s to start Sweep"));
     QCOMPARE(massimo, 40);
     QVERIFY(!attesa->isVisible());
+    QVERIFY(banco.Trova<QLabel>("LBStato")->text().startsWith(QStringLiteral("Stopped before")));
     QVERIFY(!std::filesystem::exists(banco.cartella.Percorso() / "Sweep" / "Untitled"));
     QCOMPARE(banco.Trova<QPushButton>("CMBExecuteSweep")->text(), QStringLiteral("Execute"));
 }
@@ -271,7 +271,7 @@ void CorsaUi::TimerETriggerSiEscludono() {
     auto* timer = banco.Trova<QCheckBox>("ChkTimerSweep");
     auto* trigger = banco.Trova<QCheckBox>("ChkTriggerSweep");
     timer->setChecked(true);
-    QVERIFY(banco.Trova<QSpinBox>("TBTimerSweep")->isEnabledTo(banco.Trova<QWidget>("FRMAvvio")));
+    QVERIFY(banco.Trova<QLineEdit>("TBTimerSweep")->isEnabledTo(banco.Trova<QWidget>("FRMAvvio")));
     trigger->setChecked(true);
     QVERIFY(!timer->isChecked());
     timer->setChecked(true);
