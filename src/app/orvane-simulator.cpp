@@ -37,15 +37,16 @@ struct Argomenti {
 };
 
 void StampaAiuto() {
-    std::printf("usage: orvane-simulator [--model M] [--fw X.YZ] [--seed N] [--speed line|full]\n"
-                "                        [--misbehave TEXT]... [--link-as PATH] [--verbose]\n\n"
-                "Opens a pseudo terminal, prints its path and serves it as a receiver until it is\n"
-                "told to end.\n\n"
-                "models: %s\n"
-                "misbehaviours: mute, refuse, garbage (:COMMAND), late, split (:COMMAND=SECONDS),\n"
-                "  error (:COMMAND=NUMBER), text (:COMMAND=TEXT), silent, unplug (:BYTES);\n"
-                "  xN behind the kind limits it to N times, as in mutex2:?IDN\n",
-                Unisci(ModelliSimulati(), " ").c_str());
+    std::printf(
+        "usage: orvane-simulator [--model M] [--fw X.YZ] [--seed N] [--speed line|full]\n"
+        "                        [--port N] [--misbehave TEXT]... [--link-as PATH] [--verbose]\n\n"
+        "Opens a pseudo terminal, prints its path and serves it as a receiver until it is\n"
+        "told to end.\n\n"
+        "models: %s\n"
+        "misbehaviours: mute, refuse, garbage (:COMMAND), late, split (:COMMAND=SECONDS),\n"
+        "  error (:COMMAND=NUMBER), text (:COMMAND=TEXT), silent, unplug (:BYTES);\n"
+        "  xN behind the kind limits it to N times, as in mutex2:?IDN\n",
+        Unisci(ModelliSimulati(), " ").c_str());
 }
 
 /// Words of the options record, as its text form names them.
@@ -54,6 +55,8 @@ std::string_view ParolaOpzione(std::string_view argomento) {
         return "fw=";
     if (argomento == "--seed")
         return "seed=";
+    if (argomento == "--port")
+        return "port=";
     return argomento == "--speed" ? "speed=" : "";
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "data/ControllaRecord.h"
+#include "setup/ListaFrequenze.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -46,7 +47,8 @@ MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
     const auto primo = std::find(misura.detector.begin(), misura.detector.end(), true);
     if (primo != misura.detector.end())
         misura.traccia = CreaTracciaSweep(
-            s, nome, nome, righe, static_cast<DetectorKind>(primo - misura.detector.begin()));
+            s, nome, nome, righe, static_cast<DetectorKind>(primo - misura.detector.begin()),
+            {.frequenza = FrequenzeDaTabella(s.albero)});
     return misura;
 }
 

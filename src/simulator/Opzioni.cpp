@@ -19,14 +19,16 @@ bool ApplicaFirmware(std::string_view valore, OpzioniSimulatore& opzioni, std::s
     return true;
 }
 
-bool ApplicaSeme(std::string_view valore, OpzioniSimulatore& opzioni, std::string& errore) {
-    uint32_t seme = 0;
-    const auto esito = std::from_chars(valore.data(), valore.data() + valore.size(), seme);
+template <class Numero>
+bool ApplicaIntero(std::string_view nome, std::string_view valore, Numero& numero,
+                   std::string& errore) {
+    Numero letto = 0;
+    const auto esito = std::from_chars(valore.data(), valore.data() + valore.size(), letto);
     if (esito.ec != std::errc{} || esito.ptr != valore.data() + valore.size()) {
-        errore = "seed \"" + std::string(valore) + "\" is no whole number";
+        errore = std::string(nome) + " \"" + std::string(valore) + "\" is no whole number";
         return false;
     }
-    opzioni.seme = seme;
+    numero = letto;
     return true;
 }
 
@@ -50,10 +52,12 @@ bool ApplicaParola(std::string_view parola, OpzioniSimulatore& opzioni, std::str
     if (chiave == "fw")
         return ApplicaFirmware(valore, opzioni, errore);
     if (chiave == "seed")
-        return ApplicaSeme(valore, opzioni, errore);
+        return ApplicaIntero("seed", valore, opzioni.seme, errore);
+    if (chiave == "port")
+        return ApplicaIntero("port", valore, opzioni.userPort, errore);
     if (chiave == "speed")
         return ApplicaVelocita(valore, opzioni, errore);
-    errore = "unknown word \"" + std::string(parola) + "\": fw=, seed= or speed= expected";
+    errore = "unknown word \"" + std::string(parola) + "\": fw=, seed=, speed= or port= expected";
     return false;
 }
 

@@ -27,6 +27,7 @@ MemoriaSimulata MemoriaIniziale(const OpzioniSimulatore& opzioni) {
     memoria.firmware =
         opzioni.firmware.empty() ? std::string(memoria.modello->firmware) : opzioni.firmware;
     memoria.seme = opzioni.seme;
+    memoria.userPort = opzioni.userPort;
     return memoria;
 }
 

@@ -22,12 +22,14 @@ struct OpzioniSimulatore {
     uint32_t seme = 1;
     /// Bytes a second that leave the receiver; 0 as fast as the reader takes them.
     double byteAlSecondo = 0;
+    int userPort = 0; ///< what the user port reads until a command sets it
 };
 inline constexpr double kByteAlSecondoLinea = 11520; ///< 115200 baud, ten bits a byte
 
 /// Names accepted by `--model`, in the order that a help text lists them.
 std::vector<std::string> ModelliSimulati();
-/// "MODEL[,fw=X.YZ][,seed=N][,speed=line]"; empty with an unknown word, which `errore` then tells.
+/// "MODEL[,fw=X.YZ][,seed=N][,speed=line][,port=N]"; empty with an unknown word, which `errore`
+/// then tells.
 std::optional<OpzioniSimulatore> LeggiOpzioniSimulatore(std::string_view testo,
                                                         std::string& errore);
 

@@ -1,6 +1,7 @@
 #include "sweep/PausaSweep.h"
 
 #include <algorithm>
+#include <span>
 #include <vector>
 
 #include "link/Interrogazioni.h"
@@ -19,8 +20,17 @@ constexpr double kPeriodoBatteriaS = 5;
 constexpr int kMessaggioMs = 1500;
 constexpr size_t kBloccoLettura = 64 * 1024;
 constexpr std::string_view kRifiuto = "SERR";
+constexpr std::string_view kRifiutoIntero = "SERR\r\n";
 constexpr std::string_view kFineSweep = "SFD_END";
 constexpr int kAncillaryMastTable = 5;
+
+/// Whether what has come behind a silence is a refusal, or the beginning of one.
+bool PuoEssereRifiuto(std::span<const uint8_t> dati) {
+    const size_t quanti = std::min(dati.size(), kRifiutoIntero.size());
+    return std::equal(dati.begin(), dati.begin() + static_cast<std::ptrdiff_t>(quanti),
+                      kRifiutoIntero.begin(),
+                      [](uint8_t a, char b) { return a == static_cast<uint8_t>(b); });
+}
 
 class Pausa {
 public:
@@ -89,15 +99,15 @@ bool Pausa::ProvaSospensione() {
     Scadenza silenzio(r_.ambiente, kSilenzioS);
     const Scadenza arretrato(r_.ambiente, kArretratoS);
     while (!VuoleUscire()) {
-        if (Raccogli()) {
+        if (Raccogli())
             silenzio.Rinnova(kSilenzioS);
-        } else if (TogliRifiuto()) {
+        else if (silenzio.Passata())
+            return !TogliRifiuto();
+        const bool rifiutata = CercaSequenza(r_.porta.accumulo.Dati(), kRifiutoIntero) > 0;
+        if (rifiutata || arretrato.Passata()) {
+            TogliRifiuto();
             return false;
-        } else if (silenzio.Passata()) {
-            return true;
         }
-        if (arretrato.Passata())
-            return false;
         r_.ambiente.ElaboraEventi(silenzio.Rimane(), Veglia::EventiELink);
     }
     return false;
@@ -131,22 +141,34 @@ void Pausa::RestaInPausa() {
             VisualizzaBatteriaInPausa(c_);
             batteria.Rinnova(kPeriodoBatteriaS);
         }
+        r_.porta.ByteInCoda(); // finds out whether there is a port still
+        if (!r_.porta.Aperta()) {
+            c_.stato.PausaRichiesta = 0;
+            return Fase(FaseCorsa::Misura);
+        }
         r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
     }
 }
 
 /// False: the receiver has refused. Its steps may be there again at once.
 bool Pausa::ProvaRipresa() {
+    const size_t prima = r_.porta.accumulo.Quanti();
     InviaGrezzo(r_, "#ASRE*");
     const Scadenza risposta(r_.ambiente, kSilenzioS);
-    while (!Raccogli() && !risposta.Passata() && !VuoleUscire() && r_.porta.Aperta())
+    while (!risposta.Passata() && !VuoleUscire() && r_.porta.Aperta()) {
         r_.ambiente.ElaboraEventi(risposta.Rimane(), Veglia::EventiELink);
+        Raccogli();
+        const auto nuovi = r_.porta.accumulo.Dati().subspan(prima);
+        if (!nuovi.empty() && !PuoEssereRifiuto(nuovi))
+            return true;
+    }
     return !TogliRifiuto();
 }
 
 void Pausa::Riprendi() {
-    Fase(FaseCorsa::Misura);
+    // Still paused: a Stop ends the query too.
     VisualizzaBatteriaInPausa(c_);
+    Fase(FaseCorsa::Misura);
     while (!VuoleUscire() && !ProvaRipresa()) {
         MostraErrore(r_, "set Resume Sweep", true);
         Attendi(kFraTentativiS);

@@ -4,6 +4,7 @@
 
 #include "base/Percorsi.h"
 #include "graph/Scala.h"
+#include "setup/ListaFrequenze.h"
 #include "ui/MainForm.h"
 #include "ui/Testi.h"
 
@@ -132,7 +133,8 @@ void MainForm::DisegnaMisura(int detector) {
     SweepTrace unita;
     if (detector >= 0)
         unita = CreaTracciaSweep(scrivania_, misura_.nome, misura_.nome, righe,
-                                 static_cast<DetectorKind>(detector));
+                                 static_cast<DetectorKind>(detector),
+                                 {.frequenza = FrequenzeDaTabella(scrivania_.albero)});
     const SweepTrace& traccia = detector >= 0 ? unita : misura_.traccia;
     for (size_t i = 0; i < traccia.size(); ++i) {
         if (i > 0 && Staccati(traccia[i - 1], traccia[i], righe))
