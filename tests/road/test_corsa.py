@@ -1,10 +1,13 @@
 """A run that waits, pauses and is cut off, told as events for scripts."""
 
 import json
+import os
+import select
 import signal
+import subprocess
 import time
 
-from comune import Esegui, Passi, ProvaStrada
+from comune import PROGRAMMI, Esegui, Passi, ProvaStrada
 from peer import Flusso, Peer
 
 BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
@@ -29,7 +32,8 @@ class ProvaCorsa(ProvaStrada):
             esito = self.Riesce(*self.Parole(), peer=peer)
         eventi = self.Eventi(esito)
         fasi = [e["phase"] for e in eventi if e["event"] == "phase"]
-        self.assertEqual(fasi, ["checks", "preparation", "line", "sweep", "line", "idle"])
+        attese = ["checks", "wait", "preparation", "line", "sweep", "line", "idle"]
+        self.assertEqual(fasi, attese)
         passata = next(e for e in eventi if e["event"] == "pass")
         self.assertEqual((passata["line"], passata["pass"], passata["trace"]), (1, "", "M"))
         ultimo = [e for e in eventi if e["event"] == "progress"][-1]
@@ -107,6 +111,41 @@ class ProvaCorsa(ProvaStrada):
                 visti = [e for e in self.Eventi(esito) if e["event"] == "trigger"]
                 self.assertEqual([e["user_port"] for e in visti][-1], int(poi[-1]))
                 self.assertTrue(all(e["wanted"] == int(voluto) for e in visti))
+
+    def test_domande_al_terminale(self):
+        """Where somebody sits, a prompt waits for Enter, and so does a pause without an end."""
+        self.Riesce("scan", "set", "T", "1", "--prompt", "Turn the lamp on")
+        padrone, terminale = os.openpty()
+        self.addCleanup(os.close, padrone)
+        detto = b""
+
+        def Leggi(parole):
+            nonlocal detto
+            fine = time.monotonic() + 10
+            while parole not in detto and time.monotonic() < fine:
+                if select.select([padrone], [], [], 0.1)[0]:
+                    detto += os.read(padrone, 4096)
+            self.assertIn(parole, detto)
+            detto = detto.split(parole, 1)[1]
+
+        with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
+            processo = subprocess.Popen(
+                [PROGRAMMI / "orvane", "--data", self.dati, "--link", "tty:" + peer.percorso,
+                 "sweep", "--scan", "T", "--name", "M", "--pause-after", "0.2"],
+                stdin=terminale, stdout=subprocess.DEVNULL, stderr=terminale,
+            )  # fmt: skip
+            os.close(terminale)
+            Leggi(b"Turn the lamp on (Enter)")
+            time.sleep(0.3)
+            self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
+            os.write(padrone, b"\n")
+            Leggi(b"[box] Turn the lamp on -> OK")
+            Leggi(b"paused")
+            self.assertTrue(peer.fermo)
+            os.write(padrone, b"\n")
+            Leggi(b"resumed")
+            self.assertEqual(processo.wait(20), 0)
+        self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 101 * 12)
 
     def test_parole_errate(self):
         casi = {
