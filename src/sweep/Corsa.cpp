@@ -81,7 +81,7 @@ bool Svolgimento::ControllaInterruzioni() {
 }
 
 bool Svolgimento::EsciInterrotta() {
-    if (!c_.stato.StopRichiesto)
+    if (r_.stato.AbbandonaComandi && !c_.stato.ComandoFermato)
         return Fallisci(EsitoCorsa::Abbandonata, "the receiver was given up");
     return Fallisci(EsitoCorsa::Fermata, c_.stato.motivo.empty() ? "stopped" : c_.stato.motivo);
 }

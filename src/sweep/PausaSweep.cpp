@@ -141,6 +141,11 @@ void Pausa::RestaInPausa() {
             VisualizzaBatteriaInPausa(c_);
             batteria.Rinnova(kPeriodoBatteriaS);
         }
+        r_.porta.ByteInCoda(); // finds out whether there is a port still
+        if (!r_.porta.Aperta()) {
+            c_.stato.PausaRichiesta = 0;
+            return Fase(FaseCorsa::Misura);
+        }
         r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
     }
 }
@@ -161,8 +166,9 @@ bool Pausa::ProvaRipresa() {
 }
 
 void Pausa::Riprendi() {
-    Fase(FaseCorsa::Misura);
+    // Still paused: a Stop ends the query too.
     VisualizzaBatteriaInPausa(c_);
+    Fase(FaseCorsa::Misura);
     while (!VuoleUscire() && !ProvaRipresa()) {
         MostraErrore(r_, "set Resume Sweep", true);
         Attendi(kFraTentativiS);

@@ -2,6 +2,7 @@
 // core.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <span>
@@ -12,6 +13,7 @@
 #include "link/Ricevitore.h"
 #include "records/ScanRecord.h"
 #include "sweep/Corsa.h"
+#include "verbs/GuidaPausa.h"
 #include "verbs/VistaTerminale.h"
 
 namespace orvane {
@@ -38,6 +40,9 @@ struct Banco {
     std::ostream& dati;      ///< standard output
     std::ostream& messaggi;  ///< standard error
     bool json = false;
+    /// What a verb has done at each turn of the pump.
+    std::function<void()> alGiro = {};
+    TastoInvio tastiera = {};
 };
 using Parole = std::span<const std::string>;
 

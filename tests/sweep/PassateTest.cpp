@@ -8,7 +8,6 @@
 #include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "data/TabelleLimFac.h"
-#include "setup/ComandiScan.h"
 #include "setup/TabellaScan.h"
 #include "sweep/TracciaRiga.h"
 
@@ -134,6 +133,22 @@ TEST_F(PassateTest, AnAntennaIsTurnedByHandAndAStopKeepsThePassBeforeIt) {
     ASSERT_EQ(altro.ambiente.riquadri.size(), 4u);
     EXPECT_EQ(altro.ambiente.riquadri[2].testo, "Mind (H)");
     EXPECT_EQ(altro.ambiente.riquadri[3].testo, "Switch antenna to Horizontal");
+}
+
+TEST_F(PassateTest, AsksForTheUnitThatALineNeeds) {
+    banco.scan.Righe[1] = banco.scan.Righe[0];
+    banco.scan.Righe[1].Start = 40;
+    banco.scan.Righe[1].Stop = 41;
+    banco.scan.Righe[1].RbwId = 3;
+    banco.scan.Righe[1].Step = 0.05;
+    banco.scan.Righe[1].AutoStep = 0;
+    banco.ambiente.risposte = {Risposta::Si}; // conducted and radiated lines together
+    EXPECT_EQ(Esegui(), EsitoCorsa::Fermata) << corsa.stato.motivo;
+    EXPECT_EQ(corsa.stato.motivo, "line 2 needs another unit");
+    const Testi riquadri = Riquadri();
+    ASSERT_EQ(riquadri.size(), 3u);
+    EXPECT_TRUE(riquadri[1].starts_with("Switch OFF 5520.\rSwitch ON the extension unit"));
+    EXPECT_EQ(Passi("M"), 101u) << "the line before it stands";
 }
 
 TEST_F(PassateTest, TheLinesOwnTraceHoldsTheHighestOfItsPasses) {

@@ -132,6 +132,19 @@ TEST(PausaSweep, AStopInAPauseSendsNoResume) {
     EXPECT_FALSE(banco.stato.AbbandonaComandi);
 }
 
+TEST(PausaSweep, AnAdapterPulledInAPauseEndsTheRun) {
+    Banco banco;
+    banco.pausa.inPausa = [&] {
+        banco.ambiente.Fra(7,
+                           [&] { banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Scollegato}); });
+    };
+    EXPECT_EQ(banco.Esegui(), EsitoCorsa::GuastoLink);
+    EXPECT_EQ(banco.ambiente.riquadri.back().testo, "5520 Time out\rsimulated 5520 not Available");
+    EXPECT_LT(banco.ambiente.ora - banco.chiesta, 20);
+    EXPECT_EQ(banco.File(PercorsoRS("M", "M", 0)).size(), banco.pausa.passi * kByteCampione);
+    EXPECT_EQ(banco.File(PercorsoKSH("M")).size(), 17770u);
+}
+
 TEST(PausaSweep, IsOfferedFromTheFirmwareOnThatHasIt) {
     Banco vecchio("2.09");
     vecchio.pausa.alPasso = {};

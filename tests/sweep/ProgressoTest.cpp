@@ -39,6 +39,28 @@ TEST(Progresso, MeasuresTheTimeLeftAndWeighsSlowLines) {
     EXPECT_EQ(progresso.Adesso().frazione, 1.0) << "more steps than foreseen";
 }
 
+TEST(Progresso, CountsThePassesOfALine) {
+    prova::AmbienteProva ambiente;
+    ScanTable tabella;
+    tabella[0] = Riga(1, 2, 0.01, 1);
+    tabella[0].LineSwitch = {1, 1, 0, 0};
+    tabella[1] = Riga(2, 3, 0.01, 1);
+    tabella[1].LineSwitch = {0, 0, 1, 1};
+    Progresso progresso(ambiente, tabella, 2);
+    progresso.IniziaRiga(0);
+    progresso.Aggiungi(101);
+    progresso.IniziaPassata(1, "L1");
+    const Avanzamento seconda = progresso.Adesso();
+    EXPECT_NEAR(seconda.frazione, 0.25, 1e-9);
+    EXPECT_EQ(seconda.passiRiga, 0);
+    EXPECT_EQ(seconda.passata, 1);
+    EXPECT_EQ(seconda.numPassate, 2);
+    EXPECT_EQ(seconda.nomePassata, "L1");
+    progresso.FineRiga();
+    progresso.IniziaRiga(1);
+    EXPECT_NEAR(progresso.Adesso().frazione, 0.5, 1e-9);
+}
+
 TEST(Progresso, FollowsTheStepThatAReceiverAnnounces) {
     prova::AmbienteProva ambiente;
     ScanTable tabella;
