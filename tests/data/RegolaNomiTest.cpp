@@ -136,7 +136,7 @@ TEST_F(RegolaNomiTest, ProfileAWithoutAFreeNumberCanOnlyReplace) {
 }
 
 TEST_F(RegolaNomiTest, ANameThatIsNoNameIsRefusedByEachRule) {
-    for (const std::string nome : {"", "a.b", "..", "x\\..\\", "a+b"}) {
+    for (const std::string nome : {"", "a.b", "..", "x\\..\\", "a+b", "k\xCE\xA9"}) {
         EXPECT_FALSE(ControlNameMeasProfiloA(s, nome));
         EXPECT_FALSE(RedoProfiloA(s, nome));
         EXPECT_EQ(RedoProfiloB(s, nome), "");

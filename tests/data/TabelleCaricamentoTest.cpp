@@ -119,7 +119,7 @@ TEST_F(CaricamentoTest, ALongNameWarnsAndGoesOn) {
     ASSERT_EQ(banco.ambiente.riquadri.size(), 2u);
     EXPECT_EQ(banco.ambiente.riquadri[0].titolo, "Warning");
     EXPECT_EQ(banco.simulato.Comandi().back(), "#SCFE 3,ELEVEN CHAR*");
-    EXPECT_EQ(Carica(TableKind::Fattore, "1;1\n2;2\n", "TEN CHARS!"),
+    EXPECT_EQ(Carica(TableKind::Fattore, "1;1\n2;2\n", "TEN CHAR \xC2\xB5"),
               EsitoCaricamento::Memorizzato);
     EXPECT_EQ(banco.ambiente.riquadri.size(), 3u) << "ten characters are no warning";
 }
