@@ -22,6 +22,8 @@ TEST_F(FileTestoTest, AnAbsentTextIsEmptyAndAnUnusableOneIsTold) {
     Metti("Header.TXT", std::string((1 << 20) + 1, 'x'));
     EXPECT_FALSE(CaricaTesto(s, kFileHeader).has_value());
     EXPECT_EQ(Riquadro(), "Failed loading" + s.albero.DataRoot() + "Header.TXT");
+    EXPECT_FALSE(SalvaTesto(s, kFileHeader, std::string(1 << 20, '\n')));
+    EXPECT_EQ(Riquadro(), "The text is too long\rMax 1048576 characters");
     EXPECT_FALSE(SalvaTesto(s, PercorsoCommento("absent"), "x"));
     EXPECT_EQ(Riquadro(),
               "Cannot open file " + s.albero.DataRoot() + "Sweep\\absent\\Test Comment.TXT");

@@ -121,6 +121,18 @@ TEST_F(RegolaNomiTest, ProfileAAsksBeforeItReplaces) {
     EXPECT_EQ(Testi().back(), "T already exists.\rReplace it to?") << "no number is free";
 }
 
+TEST_F(RegolaNomiTest, ANameThatIsNoNameIsRefusedByEachRule) {
+    for (const std::string nome : {"", "a.b", "..", "x\\..\\", "a+b", "k\xCE\xA9"}) {
+        EXPECT_FALSE(ControlNameMeasProfiloA(s, nome));
+        EXPECT_FALSE(RedoProfiloA(s, nome));
+        EXPECT_EQ(RedoProfiloB(s, nome), "");
+        ASSERT_EQ(ambiente.riquadri.size(), 3u) << nome;
+        for (const auto& riquadro : ambiente.riquadri)
+            EXPECT_TRUE(riquadro.testo.starts_with("Not valid name\r")) << nome;
+        ambiente.riquadri.clear();
+    }
+}
+
 /// Each new name of the shift in turn is taken by something that cannot give way.
 TEST_F(RegolaNomiTest, AShiftThatFailsAtAnyStepIsTakenBackWhole) {
     const char* const ostacoli[] = {

@@ -16,9 +16,11 @@ TEST_F(CaricaSalvaTest, LoadsByNameWithOrWithoutExtension) {
     EXPECT_EQ(CmdLoad(s, limite, "A"), "Limits\\A.5SL");
     EXPECT_EQ(CmdLoad(s, limite, " A.5sl "), "Limits\\A.5SL");
     EXPECT_EQ(CmdLoad(s, limite, "A.B"), "Limits\\A.B.5SL");
-    EXPECT_EQ(CmdLoad(s, limite, ""), std::nullopt);
-    EXPECT_EQ(CmdLoad(s, limite, "..\\Sweep\\A"), std::nullopt);
     EXPECT_TRUE(ambiente.riquadri.empty());
+    for (const char* nome : {"", "..\\Sweep\\A", "a:b"}) {
+        EXPECT_EQ(CmdLoad(s, limite, nome), std::nullopt) << nome;
+        EXPECT_EQ(Riquadro(), "File name not valid") << nome;
+    }
     EXPECT_EQ(CmdLoad(s, limite, "A+B"), std::nullopt);
     EXPECT_EQ(Riquadro(), "Not valid name\rA+B");
 }
@@ -34,7 +36,7 @@ TEST_F(CaricaSalvaTest, ALongNameIsNotLoadedButShortenedToSave) {
 
 TEST_F(CaricaSalvaTest, RefusesWhatIsNoNameToSaveUnder) {
     for (const char* nome : {"", "  ", "NONE", "none", "a.b", "a+b", "a\\b", "a/b", "a*", "a:b",
-                             "a\"b", "a|b", "a?", "a\tb"}) {
+                             "a\"b", "a|b", "a?", "a\tb", "5 k\xCE\xA9"}) {
         EXPECT_EQ(CmdSave(s, limite, nome), std::nullopt) << nome;
         EXPECT_EQ(Riquadro(), "File name not valid") << nome;
     }
@@ -58,8 +60,11 @@ TEST_F(CaricaSalvaTest, DeletesOnRequestWhatNothingNames) {
     EXPECT_TRUE(CMBDelete(s, limite, "X", scan));
     EXPECT_FALSE(s.albero.Esiste("Limits\\X.5SL"));
     ambiente.riquadri.clear();
-    EXPECT_FALSE(CMBDelete(s, limite, "X", scan));
+    EXPECT_TRUE(CMBDelete(s, limite, "X", scan));
     EXPECT_TRUE(ambiente.riquadri.empty()) << "there is nothing to ask about";
+    EXPECT_FALSE(CMBDelete(s, limite, "a:b", scan));
+    EXPECT_EQ(Riquadro(), "Cannot be deleted");
+    ambiente.riquadri.clear();
     scan.Righe[0] = {.Start = 1, .Limit = "In Line"};
     Metti("Limits/in line.5SL", "x");
     ambiente.risposte = {Risposta::Si, Risposta::Ok};

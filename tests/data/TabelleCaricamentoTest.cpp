@@ -97,7 +97,7 @@ TEST_F(CaricamentoTest, AFactorMayHaveMorePointsAndALongNameWarnsAndGoesOn) {
     std::string testo;
     for (int i = 1; i <= 201; ++i)
         testo += std::to_string(i) + ";-0.25\n";
-    for (const auto& [nome, riquadri] : {std::pair{"ELEVEN CHAR", 2u}, {"TEN CHARS!", 1u}}) {
+    for (const auto& [nome, riquadri] : {std::pair{"ELEVEN CHAR", 2u}, {"TEN CHAR \xC2\xB5", 1u}}) {
         banco.ambiente.riquadri.clear();
         banco.simulato.DimenticaComandi();
         EXPECT_EQ(Carica(TableKind::Fattore, testo, nome, 0), EsitoCaricamento::Memorizzato);
