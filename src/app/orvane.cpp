@@ -16,6 +16,7 @@
 #include "link/LogTraffico.h"
 #include "platform/AmbienteTerminale.h"
 #include "platform/Sincronizza.h"
+#include "platform/Tastiera.h"
 #include "verbs/Verbo.h"
 
 namespace {
@@ -109,24 +110,16 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
         return kUsoErrato;
     }
     VistaTerminale vista(ambiente, std::cerr, isatty(STDERR_FILENO) != 0, o.json);
+    Tastiera tastiera;
     ambiente.primaDelRiquadro = [&vista] { vista.FineRiga(); };
+    ambiente.dopoIlRiquadro = [&vista](const std::string& testo, const char* risposta) {
+        vista.MostraRisposta(testo, risposta);
+    };
+    if (Tastiera::Presente())
+        ambiente.tastiera = &tastiera;
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
     bool interrotto = false;
-    ambiente.alInterrompi = [&](int quante) {
-        interrotto = true;
-        // Only a stream can be stopped; a command that is being repeated has to be given up.
-        if (corsa.SweepInCorso && corsa.fase == FaseCorsa::Misura && quante == 1)
-            ChiediStop(corsa);
-        else
-            stato.AbbandonaComandi = true;
-    };
-    ambiente.alGiro = [&] {
-        // While the banner stands a command repeats itself for ever: a Stop would never come to it.
-        const double daS = vista.StrisciaDaS();
-        if (daS > 0 && (corsa.StopRichiesto || (o.pazienzaS > 0 && daS > o.pazienzaS)))
-            stato.AbbandonaComandi = true;
-    };
     Banco banco{.scrivania = scrivania,
                 .ricevitore = ricevitore,
                 .corsa = corsa,
@@ -137,6 +130,25 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
                 .dati = std::cout,
                 .messaggi = std::cerr,
                 .json = o.json};
+    if (ambiente.tastiera)
+        banco.tastiera = {.invio = [&tastiera] { return tastiera.LeggiRiga().has_value(); },
+                          .dimentica = [&tastiera] { tastiera.Dimentica(); }};
+    ambiente.alInterrompi = [&](int quante) {
+        interrotto = true;
+        // The first asks a run to stop, which ends it in good order; the next gives everything up.
+        if (corsa.SweepInCorso && quante == 1)
+            ChiediStop(corsa);
+        else
+            stato.AbbandonaComandi = true;
+    };
+    ambiente.alGiro = [&] {
+        if (banco.alGiro)
+            banco.alGiro();
+        // While the banner stands a command repeats itself for ever: a Stop would never come to it.
+        const double daS = vista.StrisciaDaS();
+        if (daS > 0 && (corsa.StopRichiesto || (o.pazienzaS > 0 && daS > o.pazienzaS)))
+            stato.AbbandonaComandi = true;
+    };
     const int esito = verbo.esegui(banco, o.parole);
     std::cout.flush();
     return std::cout ? esito : kGuastoFile;

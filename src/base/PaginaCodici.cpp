@@ -84,4 +84,8 @@ std::string InAnsi(std::string_view utf8) {
     return bytes;
 }
 
+bool NellaPagina(std::string_view utf8) {
+    return DaAnsi(InAnsi(utf8)) == utf8;
+}
+
 } // namespace orvane

@@ -11,5 +11,7 @@ namespace orvane {
 std::string DaAnsi(std::string_view bytes);
 /// Characters outside the page become "?"; so does each byte that is no valid UTF-8.
 std::string InAnsi(std::string_view utf8);
+/// Whether the page has all its characters: a record gives the text back as it is.
+bool NellaPagina(std::string_view utf8);
 
 } // namespace orvane

@@ -2,17 +2,20 @@
 
 #include <algorithm>
 
+#include "base/PaginaCodici.h"
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/Cancellazioni.h"
 #include "data/Cartelle.h"
 #include "data/NomiDialogo.h"
 #include "data/NomiDisco.h"
+#include "data/Panels.h"
 
 namespace orvane {
 namespace {
 
 constexpr std::string_view kNessuno = "NONE";
+constexpr size_t kPercorsoComune = 2;
 
 Risposta Chiedi(const Scrivania& s, const std::string& testo) {
     return s.ambiente.Mostra(
@@ -33,8 +36,14 @@ std::string NomeNudo(const RichiestaFile& richiesta, std::string_view nome) {
 
 bool NomeDaSalvare(const std::string& nome) {
     const auto controllo = [](char c) { return static_cast<unsigned char>(c) < 0x20; };
-    return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) &&
+    // A record could not name a file with letters from outside the code page.
+    return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) && NellaPagina(nome) &&
            ControllaNomeMisura(nome) == nome && std::none_of(nome.begin(), nome.end(), controllo);
+}
+
+std::nullopt_t RifiutaNome(const Scrivania& s) {
+    Avvisa(s, "File name not valid");
+    return std::nullopt;
 }
 
 std::string Percorso(const RichiestaFile& richiesta, const std::string& nome) {
@@ -66,7 +75,7 @@ std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& rich
                                    std::string_view nome) {
     const std::string nudo = NomeNudo(richiesta, nome);
     if (!NomeTabellaAmmesso(nudo))
-        return std::nullopt;
+        return RifiutaNome(s);
     const std::string percorso = Percorso(richiesta, nudo);
     if (!ControllaNomeDialogo(s.ambiente, percorso) ||
         ControllaLunghezzaNome(s.ambiente, percorso, richiesta.lunghezza, ModoDialogo::Carica)
@@ -78,10 +87,8 @@ std::optional<std::string> CmdLoad(const Scrivania& s, const RichiestaFile& rich
 std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& richiesta,
                                    std::string_view nome) {
     const std::string nudo = NomeNudo(richiesta, nome);
-    if (!NomeDaSalvare(nudo)) {
-        Avvisa(s, "File name not valid");
-        return std::nullopt;
-    }
+    if (!NomeDaSalvare(nudo))
+        return RifiutaNome(s);
     const std::string percorso = ControllaLunghezzaNome(s.ambiente, Percorso(richiesta, nudo),
                                                         richiesta.lunghezza, ModoDialogo::Salva);
     if (s.albero.Esiste(percorso) &&
@@ -95,14 +102,25 @@ bool CMBDelete(const Scrivania& s, const RichiestaFile& richiesta, std::string_v
                const ScanRecord& scan) {
     const std::string nudo = NomeNudo(richiesta, nome);
     const std::string percorso = Percorso(richiesta, nudo);
-    if (!NomeTabellaAmmesso(nudo) || !s.albero.Esiste(percorso))
+    const bool ammesso = NomeTabellaAmmesso(nudo);
+    if (ammesso && !s.albero.Esiste(percorso))
+        return true;
+    if (ammesso && Chiedi(s, "Delete " + nudo) != Risposta::Si)
         return false;
-    if (Chiedi(s, "Delete " + nudo) != Risposta::Si)
-        return false;
-    if (!TabellaInUso(s, scan, percorso) && s.albero.Cancella(percorso))
+    if (ammesso && !TabellaInUso(s, scan, percorso) && s.albero.Cancella(percorso))
         return true;
     Avvisa(s, "Cannot be deleted");
     return false;
+}
+
+std::string UltimoPercorso(Scrivania& s) {
+    CaricaPathPTH(s);
+    return s.path.Percorsi[kPercorsoComune];
+}
+
+void RicordaPercorso(Scrivania& s, const std::string& percorso) {
+    s.path.Percorsi[kPercorsoComune] = percorso;
+    SalvaPathPTH(s);
 }
 
 } // namespace orvane

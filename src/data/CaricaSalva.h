@@ -36,4 +36,8 @@ std::optional<std::string> CmdSave(const Scrivania& s, const RichiestaFile& rich
 bool CMBDelete(const Scrivania& s, const RichiestaFile& richiesta, std::string_view nome,
                const ScanRecord& scan);
 
+/// The path that was chosen last in such a window, by the PTH file; any text where that is damaged.
+std::string UltimoPercorso(Scrivania& s);
+void RicordaPercorso(Scrivania& s, const std::string& percorso);
+
 } // namespace orvane

@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include "base/Numeri.h"
+#include "base/PaginaCodici.h"
 #include "base/Testo.h"
 #include "data/ConversioneTabella.h"
 #include "data/Interpolazione.h"
@@ -56,7 +57,7 @@ bool ControllaTabella(Ricevitore& r, const VoceCaricamento& voce, const LimFacRe
         Avvisa(r, "Too few factor frequencies\rMin 2 frequencies");
         return false;
     }
-    if (nome.size() > kNomeBreve)
+    if (InAnsi(nome).size() > kNomeBreve)
         Avvisa(r, "The name is too long!\rAnd it could be shortened on 5520", Icona::Esclamazione,
                "Warning");
     if (slot.Freq[0] == slot.Freq[1]) {

@@ -1,5 +1,6 @@
 #include "data/FileTesto.h"
 
+#include "base/Numeri.h"
 #include "base/PaginaCodici.h"
 #include "base/Testo.h"
 #include "data/Avvisi.h"
@@ -32,6 +33,12 @@ std::optional<std::string> CaricaTesto(const Scrivania& s, std::string_view perc
 bool SalvaTesto(const Scrivania& s, std::string_view percorso, std::string_view testo) {
     const std::string righe = Sostituisci(Sostituisci(testo, "\r\n", "\n"), "\n", "\r\n");
     const std::string byte = InAnsi(righe);
+    if (byte.size() > kMassimoByte) {
+        s.ambiente.Mostra(
+            {.testo = "The text is too long\rMax " + TestoIntero(kMassimoByte) + " characters",
+             .icona = Icona::Esclamazione});
+        return false;
+    }
     return s.albero.Salva(percorso, {reinterpret_cast<const uint8_t*>(byte.data()), byte.size()}) ||
            AvvisaScrittura(s, percorso);
 }

@@ -18,7 +18,7 @@ inline constexpr std::string_view kFileHeader = "Header.TXT";
 /// "Failed loading" and the path for one that cannot be read, or is longer than a mebibyte.
 std::optional<std::string> CaricaTesto(const Scrivania& s, std::string_view percorso);
 /// Written in the ANSI code page with CR LF; characters outside it become "?". False after the box
-/// "Cannot open file " and the path.
+/// "Cannot open file " and the path, and for a text that could not be loaded again.
 bool SalvaTesto(const Scrivania& s, std::string_view percorso, std::string_view testo);
 
 } // namespace orvane

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/Numeri.h"
+#include "base/PaginaCodici.h"
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/Avvisi.h"
@@ -66,7 +67,7 @@ bool Chiedi(const Scrivania& s, const std::string& testo) {
 /// The name, or empty after the box for one that is none.
 std::string NomeRichiesto(const Scrivania& s, std::string_view nome, const Genere& genere) {
     std::string nudo = NomeNudo(nome, genere.estensione);
-    if (NomeMisuraAmmesso(nudo))
+    if (NomeMisuraAmmesso(nudo) && NellaPagina(nudo))
         return nudo;
     s.ambiente.Mostra({.testo = "Not valid name\r" + nudo,
                        .icona = Icona::Esclamazione,

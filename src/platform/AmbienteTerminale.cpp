@@ -1,6 +1,7 @@
 #include "platform/AmbienteTerminale.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
@@ -29,6 +30,19 @@ std::string SuUnaRiga(std::string_view testo) {
     }
     return Rifila(riga);
 }
+
+/// The answer of a yes and the careful one, by the buttons of a box.
+struct VoceRisposte {
+    Pulsanti pulsanti;
+    Risposta si;
+    Risposta cauta;
+};
+constexpr std::array<VoceRisposte, 4> kRisposte = {{
+    {Pulsanti::Ok, Risposta::Ok, Risposta::Ok},
+    {Pulsanti::OkAnnulla, Risposta::Ok, Risposta::Annulla},
+    {Pulsanti::SiNo, Risposta::Si, Risposta::No},
+    {Pulsanti::RiprovaAnnulla, Risposta::Riprova, Risposta::Annulla},
+}};
 
 const char* NomeRisposta(Risposta risposta) {
     switch (risposta) {
@@ -106,8 +120,10 @@ void AmbienteTerminale::Dormi(double alPiuS, Veglia veglia) const {
 void AmbienteTerminale::ServiInterruzioni() {
     if (!alInterrompi && interruzioni_.DaServire() > 0)
         interruzioni_.Termina();
-    while (alInterrompi && interruzioni_.DaServire() > 0)
+    while (alInterrompi && interruzioni_.DaServire() > 0) {
+        ++serviti_;
         alInterrompi(interruzioni_.Prendi());
+    }
 }
 
 void AmbienteTerminale::FaiGiro() {
@@ -119,30 +135,49 @@ void AmbienteTerminale::FaiGiro() {
 }
 
 Risposta AmbienteTerminale::Risolvi(Pulsanti pulsanti) {
+    const VoceRisposte& voce = kRisposte[static_cast<size_t>(pulsanti)];
     const bool si = rispostaSi_.value_or(false);
-    switch (pulsanti) {
-    case Pulsanti::SiNo:
-        return si ? Risposta::Si : Risposta::No;
-    case Pulsanti::OkAnnulla:
-        return si ? Risposta::Ok : Risposta::Annulla;
-    case Pulsanti::RiprovaAnnulla:
-        if (!si)
-            return Risposta::Annulla;
-        // Nobody takes the time to mend what failed: without a pause a script would spin.
+    // Nobody takes the time to mend what failed: without a pause a script would spin.
+    if (si && voce.si == Risposta::Riprova)
         Attendi(*this, kPrimaDiRiprovareS);
-        return Risposta::Riprova;
-    case Pulsanti::Ok:
-        break;
+    return si ? voce.si : voce.cauta;
+}
+
+bool AmbienteTerminale::Chiede(const Riquadro& riquadro) const {
+    // A box that only tells why something failed keeps nobody waiting.
+    const bool daFare = riquadro.pulsanti != Pulsanti::Ok || riquadro.icona == Icona::Informazione;
+    return tastiera && !rispostaSi_ && daFare;
+}
+
+Risposta AmbienteTerminale::Domanda(Pulsanti pulsanti, const std::string& testo) {
+    const VoceRisposte& voce = kRisposte[static_cast<size_t>(pulsanti)];
+    if (voce.si == voce.cauta)
+        std::fprintf(stderr, "%s (Enter) ", testo.c_str());
+    else
+        std::fprintf(stderr, "%s (y: %s, else %s) ", testo.c_str(), NomeRisposta(voce.si),
+                     NomeRisposta(voce.cauta));
+    const int serviti = serviti_;
+    // What was typed before the question is no answer to it.
+    tastiera->Dimentica();
+    std::optional<std::string> riga;
+    while (!riga && serviti_ == serviti) {
+        ElaboraEventi(kGiroS, Veglia::Eventi);
+        riga = tastiera->LeggiRiga();
     }
-    return Risposta::Ok;
+    if (!riga)
+        std::fprintf(stderr, "\n");
+    return riga && Maiuscolo(Rifila(*riga)).starts_with("Y") ? voce.si : voce.cauta;
 }
 
 Risposta AmbienteTerminale::Mostra(const Riquadro& riquadro) {
-    const Risposta risposta = Risolvi(riquadro.pulsanti);
+    const std::string testo = SuUnaRiga(riquadro.testo);
     if (primaDelRiquadro)
         primaDelRiquadro();
-    std::fprintf(stderr, "[box] %s -> %s\n", SuUnaRiga(riquadro.testo).c_str(),
-                 NomeRisposta(risposta));
+    const Risposta risposta =
+        Chiede(riquadro) ? Domanda(riquadro.pulsanti, testo) : Risolvi(riquadro.pulsanti);
+    std::fprintf(stderr, "[box] %s -> %s\n", testo.c_str(), NomeRisposta(risposta));
+    if (dopoIlRiquadro)
+        dopoIlRiquadro(testo, NomeRisposta(risposta));
     return risposta;
 }
 

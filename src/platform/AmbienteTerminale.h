@@ -9,6 +9,7 @@
 #include "base/Ambiente.h"
 #include "platform/Interruzioni.h"
 #include "platform/SorvegliaLink.h"
+#include "platform/Tastiera.h"
 
 namespace orvane {
 
@@ -25,7 +26,9 @@ public:
     double Adesso() const override;
     OraCalendario Calendario() const override;
     void ElaboraEventi(double alPiuS, Veglia veglia) override;
-    /// Prints "[box] TEXT -> ANSWER" on standard error, line ends of the text as blanks.
+    /// Prints "[box] TEXT -> ANSWER" on standard error, line ends of the text as blanks. Without a
+    /// chosen answer a question, and what the operator has to do, waits for a line of `tastiera`;
+    /// Ctrl-C gives the careful answer.
     Risposta Mostra(const Riquadro& riquadro) override;
     const std::string& RigaComando() const override { return rigaComando_; }
     void SegnalaDifetto(std::string_view testo) override;
@@ -38,17 +41,24 @@ public:
     std::function<void()> alGiro;
     /// Called before a box is printed: ends a line that stands half written.
     std::function<void()> primaDelRiquadro;
+    /// Called with each box and its answer, as printed.
+    std::function<void(const std::string& testo, const char* risposta)> dopoIlRiquadro;
+    /// Null where nobody sits at a terminal.
+    Tastiera* tastiera = nullptr;
 
 private:
     void Dormi(double alPiuS, Veglia veglia) const;
     void ServiInterruzioni();
     void FaiGiro();
+    bool Chiede(const Riquadro& riquadro) const;
+    Risposta Domanda(Pulsanti pulsanti, const std::string& testo);
     Risposta Risolvi(Pulsanti pulsanti);
 
     SorvegliaLink& sorveglia_;
     std::string rigaComando_;
     std::optional<bool> rispostaSi_;
     Interruzioni interruzioni_;
+    int serviti_ = 0; ///< interruptions
     bool nelGiro_ = false;
 };
 

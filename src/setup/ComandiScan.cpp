@@ -1,13 +1,16 @@
 #include "setup/ComandiScan.h"
 
 #include <span>
+#include <utility>
 
 #include "link/Comandi.h"
+#include "link/Identificazione.h"
 #include "setup/ComandoSweep.h"
 #include "setup/CommutatoriSweep.h"
 #include "setup/FattoriSweep.h"
 #include "setup/FrontEndSweep.h"
 #include "setup/LimitiSweep.h"
+#include "setup/RegoleScan.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
@@ -25,7 +28,7 @@ void Aggiungi(Testi& testi, const ComandoPronto& comando) {
 
 /// The receiver while the table runs, as far as it decides what is sent.
 struct Svolto {
-    const ReceiverModel& modello;
+    ReceiverModel modello;
     LimiteRicevitore limite = {};
     bool radiata = false; ///< the input in use, on the models with two
 };
@@ -51,6 +54,27 @@ bool ComponiLimiteEMargine(const AlberoDati& albero, const ScanLine& riga, Svolt
         svolto.limite.margine = margine;
     }
     return true;
+}
+
+/// The receiver as it will answer; of the units that fit a line, the smallest.
+void Accendi(ReceiverModel& modello, UnitaRichiesta unita) {
+    modello.EstensioneAttiva = unita != UnitaRichiesta::SoloRicevitore;
+    modello.UnitaEstensione = unita == UnitaRichiesta::Estesa6GHz    ? 1
+                              : unita == UnitaRichiesta::Estesa18GHz ? 2
+                                                                     : 0;
+}
+
+/// What the operator is asked to switch ahead of a line; without text: nothing.
+Riquadro CambiaUnita(const ScanLine& riga, Svolto& svolto) {
+    const auto unita = UnitaPerRiga(svolto.modello, riga.Start, riga.Stop);
+    if (!unita)
+        return {};
+    Riquadro riquadro = {.testo = TestoCambioUnita(*unita, NomeModello(svolto.modello, false)),
+                         .icona = Icona::Informazione};
+    Accendi(svolto.modello, *unita);
+    // It comes back from off, and has neither limit nor margin.
+    svolto.limite = {};
+    return riquadro;
 }
 
 void ComponiIngresso(const ScanLine& riga, Svolto& svolto, Testi& testi) {
@@ -107,11 +131,13 @@ ScanComposto ComponiTutti(Scrivania& s, const ReceiverModel& modello, const Scan
     Svolto svolto{.modello = modello, .radiata = modello.ModoK3X == 2};
     for (size_t i = 0; i < RigheInUso(tabella); ++i) {
         const ScanLine& riga = tabella[i];
+        Riquadro unita = CambiaUnita(riga, svolto);
         for (const PassataSweep& passata : PassateDellaRiga(riga, kind)) {
             const Commutazione commutazione = ComponiCommutazione(riga, kind, passata);
             PassataComposta& nuova = composto.passate.emplace_back(
                 PassataComposta{.riga = i,
                                 .nome = std::string(NomePassata(passata, kind)),
+                                .unita = std::exchange(unita, {}),
                                 .riquadro = commutazione.riquadro});
             if (commutazione.comando)
                 Aggiungi(nuova.comandi, *commutazione.comando);

@@ -14,6 +14,7 @@ namespace orvane {
 struct PassataComposta {
     size_t riga = 0;   ///< 0 to 9
     std::string nome;  ///< "L1", "V"; empty for a plain pass
+    Riquadro unita;    ///< which hardware the operator switches first; without text: none
     Riquadro riquadro; ///< what the operator is asked ahead of it; without text: nothing
     std::vector<std::string> comandi = {};
 };
@@ -26,7 +27,8 @@ struct ScanComposto {
     bool intero = false; ///< nothing stands in the way of any pass
 };
 
-/// For an identified receiver; `tabella` as the checks have left it.
+/// For an identified receiver; `tabella` as the checks have left it. Behind a change of units the
+/// lines are composed for the unit that was asked for.
 ScanComposto ComponiScan(Scrivania& s, const ReceiverModel& modello, const ScanTable& tabella);
 
 } // namespace orvane

@@ -89,6 +89,32 @@ bool Esegui(PreVolo& p, const VoceControllo& voce) {
     return bene && !p.ricevitore.stato.AbbandonaComandi;
 }
 
+std::vector<Riscontro> EsaminaECorreggi(const ContestoControlli& contesto, const Rispondi& rispondi,
+                                        ScanCorretto& copia) {
+    const ContestoControlli c{.tabella = copia.tabella,
+                              .modello = contesto.modello,
+                              .caps = contesto.caps,
+                              .setup = copia.setup,
+                              .albero = contesto.albero,
+                              .rigaComando = contesto.rigaComando,
+                              .runKind = RunKindDi(contesto.runKind, copia.setup)};
+    std::vector<Riscontro> riscontri;
+    for (const VoceControllo& voce : CatenaControlli()) {
+        if (!voce.esamina)
+            continue;
+        for (Segnalazione& s : voce.esamina(c)) {
+            Riscontro trovato{voce.numero, voce.nome, voce.motivo, std::move(s)};
+            const Segnalazione& cosa = trovato.segnalazione;
+            if (cosa.esito == EsitoControllo::Chiede && rispondi)
+                trovato.risposta = rispondi(cosa);
+            if (cosa.esito == EsitoControllo::Corregge || trovato.risposta == true)
+                trovato.corretto = Ripara(voce, cosa, copia.tabella, copia.setup);
+            riscontri.push_back(std::move(trovato));
+        }
+    }
+    return riscontri;
+}
+
 } // namespace
 
 bool RiconosciRicevitore(Ricevitore& r, std::string& motivo) {
@@ -127,30 +153,14 @@ bool Rifiuta(const Riscontro& riscontro) {
 }
 
 std::vector<Riscontro> EsaminaScan(const ContestoControlli& contesto, const Rispondi& rispondi) {
-    ScanTable tabella = contesto.tabella;
-    SetupRecord setup = contesto.setup;
-    const ContestoControlli copia{.tabella = tabella,
-                                  .modello = contesto.modello,
-                                  .caps = contesto.caps,
-                                  .setup = setup,
-                                  .albero = contesto.albero,
-                                  .rigaComando = contesto.rigaComando,
-                                  .runKind = RunKindDi(contesto.runKind, setup)};
-    std::vector<Riscontro> riscontri;
-    for (const VoceControllo& voce : CatenaControlli()) {
-        if (!voce.esamina)
-            continue;
-        for (Segnalazione& s : voce.esamina(copia)) {
-            Riscontro trovato{voce.numero, voce.nome, voce.motivo, std::move(s)};
-            const Segnalazione& cosa = trovato.segnalazione;
-            if (cosa.esito == EsitoControllo::Chiede && rispondi)
-                trovato.risposta = rispondi(cosa);
-            if (cosa.esito == EsitoControllo::Corregge || trovato.risposta == true)
-                trovato.corretto = Ripara(voce, cosa, tabella, setup);
-            riscontri.push_back(std::move(trovato));
-        }
-    }
-    return riscontri;
+    ScanCorretto copia{contesto.tabella, contesto.setup};
+    return EsaminaECorreggi(contesto, rispondi, copia);
+}
+
+ScanCorretto CorreggiScan(const ContestoControlli& contesto, const Rispondi& rispondi) {
+    ScanCorretto copia{contesto.tabella, contesto.setup};
+    EsaminaECorreggi(contesto, rispondi, copia);
+    return copia;
 }
 
 } // namespace orvane

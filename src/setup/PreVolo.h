@@ -69,4 +69,11 @@ using Rispondi = std::function<bool(const Segnalazione&)>;
 std::vector<Riscontro> EsaminaScan(const ContestoControlli& contesto,
                                    const Rispondi& rispondi = {});
 
+struct ScanCorretto {
+    ScanTable tabella;
+    SetupRecord setup;
+};
+/// The same look, for what it leaves behind: what a run with these answers would go by.
+ScanCorretto CorreggiScan(const ContestoControlli& contesto, const Rispondi& rispondi);
+
 } // namespace orvane

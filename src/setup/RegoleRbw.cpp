@@ -141,14 +141,16 @@ std::string Parole(CodiceRbw codice, const ScanLine& riga) {
     return nomi + std::string(kParole[codice]);
 }
 
-/// The range that the rules take a line for. A receiver with units that are switched by hand has
-/// one of them in charge: there the start of the first line decides for all.
+/// The range that the rules take a line for: its own. Where one instrument does not have all
+/// ranges, a line without one of its own (across 30 MHz, or beyond all units) is taken for the
+/// range in which the first line starts.
 int DetIDDellaRiga(const ContestoControlli& c, const ScanLine& riga, const ScanLine& prima) {
-    if (HaCondottoERadiato(c.modello))
-        return DetIDMacLocRBWScanTab(c.modello, riga.Start, riga.Stop);
-    const bool radiata = prima.Start >= kGammaRicevitore.massimo;
-    const int id = DetIDMacLocRBWScanTab(c.modello, prima.Start, prima.Start);
-    return id == kRicevitore && radiata ? kRadiata : id;
+    const int id = DetIDMacLocRBWScanTab(c.modello, riga.Start, riga.Stop);
+    if (id != 0 || HaCondottoERadiato(c.modello))
+        return id;
+    // The first line must not decide for a line that another unit can sweep: a table of conducted
+    // and radiated lines goes on after Yes, and each line then asks for its unit.
+    return prima.Start < kGammaRicevitore.massimo ? kRicevitore : kRadiata;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // set-up, and the repairs that belong to them. An empty result is a table that passes.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -15,8 +16,9 @@ namespace orvane {
 struct GammaMhz {
     double minimo = 0;
     double massimo = 0;
+    /// Both within; of a span that is turned round too.
     bool Contiene(double startMhz, double stopMhz) const {
-        return startMhz >= minimo && stopMhz <= massimo;
+        return std::min(startMhz, stopMhz) >= minimo && std::max(startMhz, stopMhz) <= massimo;
     }
 };
 /// What the receiver sweeps without a front-end and without an extension unit.
@@ -52,8 +54,8 @@ Segnalazioni ControllaFstartFstopScanTab(const ContestoControlli& c, bool chiede
 int DetIDMacLocRBWScanTab(const ReceiverModel& modello, double startMhz, double stopMhz,
                           int idReceiver = 1, int idLocal = 2);
 /// The first line whose filter, or detectors with it, the receiver does not have: marked on the RBW
-/// cell, with codes 1 to 6. A line counts by its own range where one instrument has them all; else
-/// the start of the first line decides for the whole table.
+/// cell, with codes 1 to 6. A line counts by its own range; one that has none, on a receiver whose
+/// ranges are separate units, by the start of the first line.
 Segnalazioni ControllaRBWScanTab(const ContestoControlli& c);
 
 /// Lines that have frequencies in common: one question; touching spans have none.

@@ -25,6 +25,9 @@ constexpr ParolaEsito kEsiti[] = {{EsitoControllo::Ferma, "stops the run", 0},
                                   {EsitoControllo::Corregge, "is corrected", 2},
                                   {EsitoControllo::Chiede, "asks", 1}};
 
+/// Room beside the text of a column; the first one has the sign too.
+constexpr std::pair<int, int> kAria[] = {{0, 40}, {1, 20}, {3, 16}};
+
 QString NomeColonna(ColonnaScan colonna) {
     return Q(TitoloColonna(colonna)).section(QLatin1Char('\n'), 0, 0);
 }
@@ -91,7 +94,10 @@ void ElencoRiscontri::Aggiungi(const Segnalazione& riscontro) {
         new QTreeWidgetItem(this, {Righe(riscontro), Colonne(riscontro), parole,
                                    tr(kEsiti[static_cast<size_t>(riscontro.esito)].testo)});
     voce->setIcon(0, IconaScan(SegnoScan::Avviso));
-    voce->setSizeHint(0, QSize(fontMetrics().horizontalAdvance(voce->text(0)) + 40, RigaAlta()));
+    for (const auto& [colonna, aria] : kAria)
+        voce->setSizeHint(
+            colonna,
+            QSize(fontMetrics().horizontalAdvance(voce->text(colonna)) + aria, RigaAlta()));
     voce->setForeground(3, palette().placeholderText());
     const bool cella = !riscontro.celle.empty();
     voce->setData(

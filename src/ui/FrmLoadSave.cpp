@@ -7,6 +7,7 @@
 #include <QValidator>
 
 #include "base/Percorsi.h"
+#include "base/Testo.h"
 #include "data/FileTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "ui/Moduli.h"
@@ -39,14 +40,15 @@ QString InMhz(double mhz) {
     return QString::number(mhz, 'g', 6) + QStringLiteral(" MHz");
 }
 
-QString Gamma(const ContenutoTabella& c) {
+QString Dettagli(const ContenutoTabella& c) {
     std::optional<double> da;
     std::optional<double> a;
     for (const RigaTabella& riga : c.righe) {
         da = da ? da : riga.freqMhz;
         a = riga.freqMhz ? riga.freqMhz : a;
     }
-    return da ? QStringLiteral("%1 to %2").arg(InMhz(*da), InMhz(*a)) : QString();
+    const QString punti = TestoPunti(c.righe.size());
+    return da ? QStringLiteral("%1  ·  %2 to %3").arg(punti, InMhz(*da), InMhz(*a)) : punti;
 }
 
 } // namespace
@@ -77,6 +79,7 @@ FrmLoadSave::FrmLoadSave(Console& console, const RichiestaFile& richiesta, Modo 
     }
     colonna->addLayout(CreaPulsanti());
     Elenca();
+    ScegliUltimo();
     (nome_ ? static_cast<QWidget*>(nome_) : lista_)->setFocus();
 }
 
@@ -168,10 +171,20 @@ void FrmLoadSave::ImpostaNome(const QString& nome) {
     SegnaUguale(nome);
 }
 
+/// Loading begins where the last choice of this kind ended.
+void FrmLoadSave::ScegliUltimo() {
+    const std::string ultimo = UltimoPercorso(console_.scrivania);
+    if (modo_ == Modo::Carica && EstraiPercorso(ultimo) == richiesta_.cartella &&
+        UgualiSenzaMaiuscole(EstraiEstensione(ultimo), richiesta_.estensione))
+        SegnaUguale(Q(EstraiNomeFile(ultimo)));
+}
+
 /// The file that a name would replace is the one shown.
 void FrmLoadSave::SegnaUguale(const QString& nome) {
     const QSignalBlocker zitta(lista_);
     const auto uguali = lista_->findItems(nome, Qt::MatchFixedString);
+    if (uguali.isEmpty() && modo_ == Modo::Carica)
+        return; // the first one stays chosen
     lista_->setCurrentItem(uguali.isEmpty() ? nullptr : uguali.constFirst());
     cancella_->setEnabled(!uguali.isEmpty());
     Anteprima();
@@ -221,7 +234,7 @@ void FrmLoadSave::Anteprima() {
         c = AnteprimaTabella(console_.scrivania, *kind_,
                              richiesta_.cartella + S(voce->text()) + "." + richiesta_.estensione);
     titolo_->setText(!c ? QString() : c->titolo.empty() ? voce->text() : Q(c->titolo));
-    dettagli_->setText(c       ? TestoPunti(c->righe.size()) + QStringLiteral("  ·  ") + Gamma(*c)
+    dettagli_->setText(c       ? Dettagli(*c)
                        : voce  ? tr("This file cannot be read")
                        : nome_ ? tr("A new file")
                                : tr("There are no files yet"));
@@ -239,6 +252,7 @@ void FrmLoadSave::accept() {
     if (!percorso)
         return;
     percorso_ = *percorso;
+    RicordaPercorso(console_.scrivania, percorso_);
     QDialog::accept();
 }
 

@@ -46,6 +46,7 @@ private:
     QWidget* CreaAnteprima();
     QLayout* CreaPulsanti();
     void Elenca();
+    void ScegliUltimo();
     void Scegli(const QString& nome);
     void SegnaUguale(const QString& nome);
     void Cancella();

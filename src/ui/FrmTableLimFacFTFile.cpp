@@ -46,12 +46,17 @@ void FrmTableLimFacFT::ImportaFile(const std::filesystem::path& file) {
 void FrmTableLimFacFT::SalvaTesto() {
     Conferma();
     const RichiestaFile richiesta = RichiestaTabella(modifica_.Contenuto().kind);
-    const QString proposta = Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella) /
-                                          PathDaUtf8(S(NomeTabella()) + ".TXT")));
-    const QString file = QFileDialog::getSaveFileName(this, tr("Save as Text"), proposta,
-                                                      tr("Text files (*.TXT *.txt)"));
-    if (!file.isEmpty() &&
-        SalvaComeTesto(console_.scrivania, PathDaUtf8(S(file)), modifica_.Contenuto()))
+    console_.scrivania.albero.AssicuraCartella(richiesta.cartella);
+    QFileDialog dialogo(this, tr("Save as Text"),
+                        Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella))),
+                        tr("Text files (*.TXT *.txt)"));
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setDefaultSuffix(QStringLiteral("TXT"));
+    dialogo.selectFile(NomeTabella() + QStringLiteral(".TXT"));
+    if (dialogo.exec() != QDialog::Accepted)
+        return;
+    const QString file = dialogo.selectedFiles().constFirst();
+    if (SalvaComeTesto(console_.scrivania, PathDaUtf8(S(file)), modifica_.Contenuto()))
         Messaggio(tr("Written to %1").arg(file));
 }
 

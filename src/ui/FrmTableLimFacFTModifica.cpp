@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include "base/PaginaCodici.h"
 #include "base/Testo.h"
 #include "data/Panels.h"
 #include "ui/FrmTableLimFacFT.h"
@@ -26,7 +27,7 @@ void FrmTableLimFacFT::CambiaTitolo() {
     if (!titolo_->isModified())
         return;
     ContenutoTabella c = Copia();
-    c.titolo = Rifila(S(titolo_->text()));
+    c.titolo = Rifila(DaAnsi(InAnsi(S(titolo_->text())))); // as the file will hold it
     Applica(std::move(c));
 }
 

@@ -47,13 +47,21 @@ FrmTesto::FrmTesto(const Scrivania& scrivania, const std::string& percorso, cons
     resize(QFontMetrics(carattere).averageCharWidth() * (kLettereRiga + 6), 480);
 }
 
+/// As it stands: the plain text would lose the blanks that do not break.
+QString FrmTesto::Testo() const {
+    QString testo = testo_->document()->toRawText();
+    for (const QChar fine : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        testo.replace(fine, QLatin1Char('\n'));
+    return testo;
+}
+
 /// What a report would show otherwise than it stands here.
 void FrmTesto::MostraNota() {
-    const std::string testo = S(testo_->toPlainText());
+    const QString testo = Testo();
     QStringList note;
-    if (DaAnsi(InAnsi(testo)) != testo)
+    if (!NellaPagina(S(testo)))
         note << tr("Letters outside Western European are stored as \"?\".");
-    for (const QString& riga : testo_->toPlainText().split(QLatin1Char('\n')))
+    for (const QString& riga : testo.split(QLatin1Char('\n')))
         if (riga.size() > kLettereRiga) {
             note << tr("Lines longer than %1 letters are broken in reports.").arg(kLettereRiga);
             break;
@@ -63,7 +71,7 @@ void FrmTesto::MostraNota() {
 }
 
 void FrmTesto::accept() {
-    if (SalvaTesto(scrivania_, percorso_, S(testo_->toPlainText())))
+    if (SalvaTesto(scrivania_, percorso_, S(Testo())))
         QDialog::accept();
 }
 

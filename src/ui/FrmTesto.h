@@ -23,6 +23,7 @@ public:
     void reject() override;
 
 private:
+    QString Testo() const;
     void MostraNota();
 
     const Scrivania& scrivania_;

@@ -48,7 +48,7 @@ GridScanTab::GridScanTab(ScanTable& tabella, const SetupRecord& setup, bool modi
                 const QModelIndex cella = modello_->index(currentIndex().row() + righe,
                                                           currentIndex().column() + colonne);
                 if (cella.isValid() && cella.column() > 0)
-                    setCurrentIndex(cella);
+                    Scegli(cella);
             });
 }
 
@@ -84,9 +84,15 @@ std::pair<int, int> GridScanTab::RigheScelte() const {
     return {prima, ultima};
 }
 
+// The view's own way looks at the keyboard: with the Ctrl of Ctrl+V still down it would add to what
+// was chosen before.
+void GridScanTab::Scegli(const QModelIndex& cella) {
+    selectionModel()->setCurrentIndex(cella, QItemSelectionModel::ClearAndSelect);
+}
+
 void GridScanTab::ScegliRighe(int prima, int ultima) {
     const int colonna = std::max(currentIndex().column(), 1);
-    setCurrentIndex(modello_->index(prima, colonna));
+    Scegli(modello_->index(prima, colonna));
     if (ultima > prima)
         selectionModel()->select(
             QItemSelection(modello_->index(prima, colonna), modello_->index(ultima, colonna)),
@@ -98,7 +104,7 @@ void GridScanTab::VaiAllaCella(int riga, ColonnaScan colonna) {
     if (!cella.isValid())
         return;
     setFocus();
-    setCurrentIndex(cella);
+    Scegli(cella);
     scrollTo(cella);
 }
 
@@ -112,7 +118,7 @@ void GridScanTab::Avanza() {
         if (posto.oltre || !cella.isValid())
             return;
         if (modello_->ConModulo(cella) || cella.flags() & Qt::ItemIsEditable) {
-            setCurrentIndex(cella);
+            Scegli(cella);
             if (ModelloScan::InTesto(cella))
                 edit(cella);
             return;

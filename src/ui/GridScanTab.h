@@ -39,6 +39,7 @@ protected:
 
 private:
     void ApriCellaScanTab(const QModelIndex& cella);
+    void Scegli(const QModelIndex& cella);
     void DisponiColonne();
 
     ModelloScan* modello_;

@@ -16,6 +16,7 @@
 #include "ui/InitForm.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
+#include "ui/VociArchivio.h"
 
 namespace orvane {
 namespace {
@@ -130,6 +131,7 @@ QWidget* MainForm::CreaCentro() {
     sopra->addWidget(striscia_);
     sopra->addStretch(1);
     pila->addLayout(sopra, 0, 0);
+    CreaAvvisiQuadro();
     comuni_ = new ColonnaComuni(scrivania_, centro);
     const int m = fontMetrics().averageCharWidth();
     archivio_->setMinimumWidth(28 * m);
@@ -175,6 +177,7 @@ void MainForm::CreaScorciatoie() {
 void MainForm::CollegaPannelli() {
     connect(schede_, &QTabBar::currentChanged, this, &MainForm::ClickScheda);
     connect(sweep_, &PannelloSweep::Esegui, this, &MainForm::Esegui);
+    connect(sweep_, &PannelloSweep::Pausa, this, [this] { ChiediPausa(console_->corsa.stato); });
     connect(sweep_, &PannelloSweep::TabellaCambiata, this, &MainForm::MostraAsseTabella);
     connect(comuni_, &ColonnaComuni::ScalaCambiata, quadro_, &MainPict::DrawGrid);
     connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::AggiornaGriglia);
@@ -212,6 +215,8 @@ void MainForm::MostraAvvisi(const std::vector<std::string>& avvisi) {
     QStringList righe;
     for (const auto& avviso : avvisi)
         righe << Q(avviso);
+    if (const QString nomi = NomiIncompiute(scrivania_.albero); !nomi.isEmpty())
+        righe << tr("Incomplete measures: %1").arg(nomi);
     if (!righe.isEmpty())
         stato_->MostraMessaggio(righe.join(QStringLiteral("; ")));
 }

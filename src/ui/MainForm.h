@@ -12,6 +12,7 @@
 #include "data/CaricaSalva.h"
 #include "records/Aspetto.h"
 #include "ui/ColonnaComuni.h"
+#include "ui/FrmAttesaInizio.h"
 #include "ui/GridScanTab.h"
 #include "ui/MainPict.h"
 #include "ui/MenuConsole.h"
@@ -54,11 +55,18 @@ public:
     // VistaCorsa
     void MostraFase(FaseCorsa fase) override;
     void IniziaTraccia(const ScanTable& tabella, const std::string& misura) override;
+    void IniziaPassata(const PassataInCorso& passata) override;
     void AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,
                        std::span<const SampleRecord> passi) override;
     void MostraFreqLivello(double freqMhz, int16_t livelloCent) override;
     void MostraAvanzamento(const Avanzamento& avanzamento) override;
     void MostraBatteria(const std::string& livello) override;
+    void MostraAttesaTimer(int restanoS, int totaleS) override;
+    void MostraAttesaTrigger(int16_t modo, int userPort) override;
+    void NascondiAttesaInizio() override;
+    void MostraCMBPausa(bool visibile) override;
+    void AbilitaTastiCorsa(bool abilitati) override;
+    void MostraMessaggioBreve(const std::string& testo, int ms) override;
     void AggiornaGriglia() override;
     void EvidenziaCella(int riga, ColonnaScan colonna, bool errata) override;
     void MostraModello() override;
@@ -87,6 +95,8 @@ private:
     void MostraPannelli(bool archivio, bool sweep, bool vivo);
     void ClickScheda(int scheda);
     void Esegui();
+    void AbilitaDisabilitaControlli();
+    void CreaAvvisiQuadro();
     void MostraEsito(EsitoCorsa esito);
     void ApriMisuraScelta(const QString& nome);
     void DisegnaMisura(int detector);
@@ -128,6 +138,10 @@ private:
     QStackedWidget* pagine_ = nullptr; ///< the picture with its foot, or the receiver
     MainPict* quadro_ = nullptr;
     Striscia* striscia_ = nullptr;
+    FrmAttesaInizio* attesaTimer_ = nullptr;
+    FrmAttesaInizio* attesaTrigger_ = nullptr;
+    QLabel* messaggioBreve_ = nullptr;
+    QTimer scadenzaMessaggio_;
     QStackedWidget* piede_ = nullptr; ///< the panel of the mode
     PannelloSweep* sweep_ = nullptr;
     QWidget* piedeArchivio_ = nullptr;
@@ -145,6 +159,8 @@ private:
     MisuraAperta misura_;
     ScanTable righeAperte_{}; ///< lines of the open measure, as the foot of the archive shows them
     double stopRigaMhz_ = 0;  ///< where the last line drawn has ended
+    QStringList passate_;     ///< names of the passes of this run, in the order of their first
+    bool riceveTasti_ = true; ///< false while the receiver is asked to pause
     std::string batteria_;
     std::string nomeCorsa_; ///< the measure that the picture of the Sweep tab belongs to
 };

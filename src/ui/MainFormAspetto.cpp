@@ -103,6 +103,8 @@ void MainForm::ApriFrmColors() {
     connect(finestra, &QDialog::accepted, this, [this, prima = scrivania_.env] {
         if (SeguiAmbiente(*console_, prima))
             MostraPannello();
+        else
+            MostraAvvisi(scrivania_.avvisi);
     });
     Apri(finestra);
 }

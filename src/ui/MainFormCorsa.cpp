@@ -1,4 +1,5 @@
 // What a run and the protocol say to the main window.
+#include <QGridLayout>
 #include <QMenuBar>
 
 #include "base/Numeri.h"
@@ -23,6 +24,10 @@ constexpr ParoleEsito kEsiti[] = {
     {EsitoCorsa::GuastoFile, "File could not be written"},
 };
 
+/// What the status line says in each phase, the measure's name in place of %1; empty: as before.
+constexpr const char* kParoleFase[] = {
+    "", "", "Waiting for the start", "Starting", "", "Sweeping %1", "Paused", "Stopping", ""};
+
 } // namespace
 
 void MainForm::Esegui() {
@@ -30,14 +35,19 @@ void MainForm::Esegui() {
         ClickExecuteSweep(console_->corsa, {});
         return;
     }
+    stato_->CancellaBarre();
+    stato_->NascondiFreqLivello();
     stato_->MostraMessaggio(tr("Checking"));
+    sweep_->Avvio().Scrivi(console_->corsa.stato);
     MostraEsito(ClickExecuteSweep(console_->corsa, sweep_->Misura()));
 }
 
 void MainForm::MostraEsito(EsitoCorsa esito) {
     const StatoCorsa& s = console_->corsa.stato;
     QString testo = tr(kEsiti[static_cast<size_t>(esito)].testo);
-    if (esito == EsitoCorsa::Compiuta)
+    if (esito == EsitoCorsa::Fermata && s.misura.empty())
+        testo = tr("Stopped before the start: nothing was stored");
+    else if (esito == EsitoCorsa::Compiuta)
         testo += QStringLiteral(": ") + Q(s.misura);
     else if (esito != EsitoCorsa::Fermata && !s.motivo.empty())
         testo += QStringLiteral(": ") + Q(s.motivo);
@@ -47,17 +57,82 @@ void MainForm::MostraEsito(EsitoCorsa esito) {
     AggiornaEtichette();
 }
 
+/// The windows over the picture that a run shows for a while: waits for its start, brief messages.
+void MainForm::CreaAvvisiQuadro() {
+    auto* pila = new QGridLayout(quadro_);
+    attesaTimer_ =
+        new FrmAttesaInizio(QStringLiteral("FrmPBTimerSweep"), QStringLiteral("PBTimerSweep"),
+                            tr("Delayed start"), quadro_);
+    attesaTrigger_ =
+        new FrmAttesaInizio(QStringLiteral("FrmPBTriggerSweep"), QStringLiteral("PBTriggerSweep"),
+                            tr("Waiting for the trigger"), quadro_);
+    for (FrmAttesaInizio* attesa : {attesaTimer_, attesaTrigger_}) {
+        pila->addWidget(attesa, 0, 0, Qt::AlignCenter);
+        connect(attesa, &FrmAttesaInizio::Ferma, this,
+                [this] { ChiediStop(console_->corsa.stato); });
+    }
+    messaggioBreve_ =
+        Nomina(new QLabel(quadro_), QStringLiteral("LBMessaggioBreve"), tr("Message"));
+    messaggioBreve_->setFrameShape(QFrame::StyledPanel);
+    messaggioBreve_->setAutoFillBackground(true);
+    messaggioBreve_->setMargin(18);
+    messaggioBreve_->hide();
+    pila->addWidget(messaggioBreve_, 0, 0, Qt::AlignCenter);
+    scadenzaMessaggio_.setSingleShot(true);
+    connect(&scadenzaMessaggio_, &QTimer::timeout, messaggioBreve_, &QWidget::hide);
+}
+
 void MainForm::MostraFase(FaseCorsa fase) {
-    const bool ferma = fase == FaseCorsa::Ferma;
-    sweep_->MostraFase(fase);
-    comuni_->Abilita(ferma);
-    schede_->setEnabled(ferma);
-    if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
-        voce->setEnabled(ferma);
-    AbilitaVociFerme(ferma);
-    if (fase == FaseCorsa::Arresto)
-        stato_->MostraMessaggio(tr("Stopping"));
+    if (fase == FaseCorsa::Ferma) {
+        sweep_->MostraCMBPausa(false);
+        riceveTasti_ = true;
+    }
+    AbilitaDisabilitaControlli();
+    if (const char* parole = kParoleFase[static_cast<size_t>(fase)]; *parole != 0)
+        stato_->MostraMessaggio(tr(parole).replace(QStringLiteral("%1"), Q(nomeCorsa_)));
     AggiornaEtichette();
+}
+
+void MainForm::AbilitaDisabilitaControlli() {
+    const auto controlli = ControlliDiFase(console_->corsa.stato.fase, riceveTasti_);
+    sweep_->AbilitaDisabilitaControlli(controlli);
+    comuni_->Abilita(controlli.fermi);
+    schede_->setEnabled(controlli.fermi);
+    if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
+        voce->setEnabled(controlli.fermi);
+    AbilitaVociFerme(controlli.fermi);
+}
+
+void MainForm::MostraCMBPausa(bool visibile) {
+    sweep_->MostraCMBPausa(visibile);
+}
+
+void MainForm::AbilitaTastiCorsa(bool abilitati) {
+    riceveTasti_ = abilitati;
+    AbilitaDisabilitaControlli();
+}
+
+void MainForm::MostraAttesaTimer(int restanoS, int totaleS) {
+    attesaTimer_->Mostra(tr("%1 s to start Sweep").arg(restanoS), totaleS - restanoS, totaleS);
+}
+
+void MainForm::MostraAttesaTrigger(int16_t modo, int userPort) {
+    attesaTrigger_->Mostra(
+        modo == 1 ? tr("User port reads %1; the sweep starts at 0").arg(userPort)
+                  : tr("User port reads %1; the sweep starts when it is not 0").arg(userPort));
+}
+
+void MainForm::NascondiAttesaInizio() {
+    attesaTimer_->hide();
+    attesaTrigger_->hide();
+}
+
+void MainForm::MostraMessaggioBreve(const std::string& testo, int ms) {
+    messaggioBreve_->setText(Q(testo));
+    messaggioBreve_->show();
+    messaggioBreve_->raise();
+    stato_->MostraMessaggio(Q(testo));
+    scadenzaMessaggio_.start(ms);
 }
 
 void MainForm::IniziaTraccia(const ScanTable& tabella, const std::string& misura) {
@@ -67,9 +142,19 @@ void MainForm::IniziaTraccia(const ScanTable& tabella, const std::string& misura
     quadro_->ImpostaInvito({});
     quadro_->IniziaTraccia(start, stop);
     nomeCorsa_ = misura;
+    passate_.clear();
     stopRigaMhz_ = 0;
     sweep_->ImpostaMisura(misura);
     stato_->MostraMessaggio(tr("Sweeping %1").arg(Q(misura)));
+}
+
+/// A pass goes on in its own shade in each line: lines and passes come one inside the other.
+void MainForm::IniziaPassata(const PassataInCorso& passata) {
+    const QString nome = Q(passata.nome);
+    if (!passate_.contains(nome))
+        passate_ << nome;
+    quadro_->ScegliPassata(static_cast<int>(passate_.indexOf(nome)), nome);
+    stato_->MostraPassata(Q(passata.etichetta));
 }
 
 void MainForm::AggiungiPassi(const ScanLine& riga, double freqMhz, double passoMhz,

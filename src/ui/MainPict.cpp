@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,11 +20,6 @@ constexpr int kRidisegnoMs = 40;
 constexpr double kStartVuoto = 0.15;
 constexpr double kStopVuoto = 30;
 
-struct RigaLettura {
-    QString testo;
-    QColor colore;
-};
-
 } // namespace
 
 MainPict::MainPict(const EnvRecord& env, const SetupRecord& setup, QWidget* padre)
@@ -39,17 +33,22 @@ MainPict::MainPict(const EnvRecord& env, const SetupRecord& setup, QWidget* padr
     ridisegno_.setSingleShot(true);
     ridisegno_.setInterval(kRidisegnoMs);
     connect(&ridisegno_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
-    deposito_.Inizia(kStartVuoto, kStopVuoto);
+    tracce_.Inizia(kStartVuoto, kStopVuoto);
 }
 
 void MainPict::IniziaTraccia(double startMhz, double stopMhz) {
     const bool vuota = !(startMhz > 0 && stopMhz > startMhz);
-    deposito_.Inizia(vuota ? kStartVuoto : startMhz, vuota ? kStopVuoto : stopMhz);
+    tracce_.Inizia(vuota ? kStartVuoto : startMhz, vuota ? kStopVuoto : stopMhz);
     DrawGrid();
 }
 
+void MainPict::ScegliPassata(int passata, const QString& nome) {
+    tracce_.Scegli(passata, nome);
+    update();
+}
+
 void MainPict::Aggiungi(double freqMhz, const SampleRecord& campione) {
-    deposito_.Aggiungi(freqMhz, campione);
+    tracce_.Corrente().Aggiungi(freqMhz, campione);
     if (!ridisegno_.isActive())
         ridisegno_.start();
 }
@@ -96,8 +95,8 @@ void MainPict::PreparaScala() {
     SuperficieQt superficie(p, punti.width(), punti.height());
     griglia_ = DisponiGriglia(superficie, TinteQuadro(Modo(), font()));
     scala_ =
-        SetScaleGraph(setup_, deposito_.Start(), deposito_.Stop(), true, griglia_.larghezza, 0);
-    deposito_.ImpostaLarghezza(std::max(1, static_cast<int>(griglia_.larghezza)));
+        SetScaleGraph(setup_, Deposito().Start(), Deposito().Stop(), true, griglia_.larghezza, 0);
+    tracce_.ImpostaLarghezza(std::max(1, static_cast<int>(griglia_.larghezza)));
 }
 
 void MainPict::DisegnaSfondo() {
@@ -113,42 +112,93 @@ void MainPict::DisegnaSfondo() {
 
 void MainPict::DisegnaTracce(QPainter& p) {
     SuperficieQt superficie(p, sfondo_.width(), sfondo_.height());
+    p.setRenderHint(QPainter::Antialiasing, Modo().aspetto.lisce != 0);
+    for (const TraccePassate::Strato* strato : tracce_.DaDisegnare())
+        DisegnaStrato(superficie, *strato);
+}
+
+void MainPict::DisegnaStrato(Superficie& superficie, const TraccePassate::Strato& strato) {
     const ModoQuadro modo = Modo();
-    p.setRenderHint(QPainter::Antialiasing, modo.aspetto.lisce != 0);
     // Peak lies highest: it is drawn first, so that it hides none of the others.
     for (size_t d = 0; d < kNumDetector; ++d) {
-        const auto detector = static_cast<DetectorKind>(d);
-        if (const ColonneTraccia* traccia = deposito_.Traccia(detector); traccia && mostrati_[d])
-            DisegnaTraccia(superficie, scala_, griglia_, *traccia,
-                           PennaTraccia(modo, ColoreTraccia(env_, detector)));
+        const ColonneTraccia* traccia = strato.deposito.Traccia(static_cast<DetectorKind>(d));
+        if (!traccia || !mostrati_[d])
+            continue;
+        const QColor c = ColoreStrato(strato, d);
+        DisegnaTraccia(superficie, scala_, griglia_, *traccia,
+                       PennaTraccia(modo, Rgb(c.red(), c.green(), c.blue())));
     }
 }
 
-void MainPict::DisegnaLettura(QPainter& p) {
-    if (puntataX_ < 0 || deposito_.Vuoto())
+QColor MainPict::ColoreStrato(const TraccePassate::Strato& strato, size_t detector) const {
+    return tracce_.Sfumata(strato,
+                           ColoreQt(ColoreTraccia(env_, static_cast<DetectorKind>(detector))),
+                           Tinta(palette(), Ruolo::Grafico));
+}
+
+QRectF MainPict::Griglia() const {
+    const double r = Rapporto();
+    return {griglia_.sinistra / r, griglia_.alto / r, griglia_.larghezza / r, griglia_.altezza / r};
+}
+
+/// The passes by name, each with the shades of its detectors; nothing where there is only one.
+void MainPict::DisegnaLegenda(QPainter& p) {
+    const auto passate = tracce_.Visibili();
+    if (passate.size() < 2)
         return;
-    const double mhz = XToFreq(scala_, puntataX_);
+    constexpr double kCampione = 18;
+    p.setFont(CarattereLettura());
+    const QFontMetricsF metrica(p.font());
+    p.setRenderHint(QPainter::Antialiasing);
+    double x = Griglia().left() + 12;
+    const double y = Griglia().top() + 8;
+    for (const TraccePassate::Strato* strato : passate) {
+        double riga = y + metrica.height() / 2;
+        for (size_t d = 0; d < kNumDetector; ++d) {
+            if (!strato->deposito.Traccia(static_cast<DetectorKind>(d)) || !mostrati_[d])
+                continue;
+            p.setPen(QPen(ColoreStrato(*strato, d), 2));
+            p.drawLine(QPointF(x, riga), QPointF(x + kCampione, riga));
+            riga += 4;
+        }
+        const double largo = metrica.horizontalAdvance(strato->nome);
+        p.setPen(Tinta(palette(), &strato->deposito == &Deposito() ? Ruolo::Testo : Ruolo::Tenue));
+        p.drawText(QPointF(x + kCampione + 6, y + metrica.ascent()), strato->nome);
+        x += kCampione + largo + 26;
+    }
+}
+
+/// What stands under the pointer: the frequency, and each trace's level in its colour.
+std::vector<MainPict::RigaLettura> MainPict::Letture(double mhz) const {
     std::vector<RigaLettura> righe = {
         {TestoFrequenza(mhz), ColoreQt(env_.GraphColors[colore::kLettura])}};
-    for (size_t d = 0; d < kNumDetector; ++d) {
-        const auto livello = deposito_.Livello(static_cast<DetectorKind>(d), mhz);
-        if (!livello || !mostrati_[d])
-            continue;
-        const double valore = *livello / 100.0 + scala_.UnitOffset;
-        righe.push_back({QStringLiteral("%1   %2").arg(QLatin1String(kNomiDetector[d]),
-                                                       Q(TestoFisso(valore, 2))),
-                         ColoreQt(ColoreTraccia(env_, static_cast<DetectorKind>(d)))});
-    }
+    for (const TraccePassate::Strato* strato : tracce_.Visibili())
+        for (size_t d = 0; d < kNumDetector; ++d) {
+            const auto livello = strato->deposito.Livello(static_cast<DetectorKind>(d), mhz);
+            if (!livello || !mostrati_[d])
+                continue;
+            const double valore = *livello / 100.0 + scala_.UnitOffset;
+            QStringList parole = {strato->nome, QLatin1String(kNomiDetector[d])};
+            parole.removeAll(QString());
+            righe.push_back(
+                {parole.join(QLatin1Char(' ')) + QStringLiteral("   ") + Q(TestoFisso(valore, 2)),
+                 ColoreStrato(*strato, d)});
+        }
+    return righe;
+}
+
+void MainPict::DisegnaLettura(QPainter& p) {
+    if (puntataX_ < 0 || tracce_.Vuoto())
+        return;
+    const auto righe = Letture(XToFreq(scala_, puntataX_));
     p.setFont(CarattereLettura());
     const QFontMetricsF metrica(p.font());
     const double passo = std::ceil(metrica.height() * 1.25);
     double largo = 0;
     for (const auto& riga : righe)
         largo = std::max(largo, metrica.horizontalAdvance(riga.testo));
-    const double r = Rapporto();
-    const double x = (griglia_.sinistra + puntataX_) / r;
-    const QRectF griglia(griglia_.sinistra / r, griglia_.alto / r, griglia_.larghezza / r,
-                         griglia_.altezza / r);
+    const QRectF griglia = Griglia();
+    const double x = griglia.left() + puntataX_ / Rapporto();
     p.setPen(QPen(Tinta(palette(), Ruolo::Tenue), 1, Qt::DashLine));
     p.drawLine(QPointF(x, griglia.top()), QPointF(x, griglia.bottom()));
     const double alto = passo * double(righe.size()) + 12;
@@ -167,7 +217,7 @@ void MainPict::DisegnaLettura(QPainter& p) {
 }
 
 void MainPict::DisegnaInvito(QPainter& p) {
-    if (invito_.isEmpty() || !deposito_.Vuoto())
+    if (invito_.isEmpty() || !tracce_.Vuoto())
         return;
     p.setPen(Tinta(palette(), Ruolo::Tenue));
     p.drawText(rect().adjusted(60, 0, -30, 0), Qt::AlignCenter | Qt::TextWordWrap, invito_);
@@ -184,6 +234,7 @@ void MainPict::paintEvent(QPaintEvent*) {
     p.setFont(font());
     DisegnaTracce(p);
     p.restore();
+    DisegnaLegenda(p);
     DisegnaLettura(p);
     DisegnaInvito(p);
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <span>
+#include <vector>
 
 #include <QPixmap>
 #include <QTimer>
@@ -13,8 +14,8 @@
 #include "graph/Scala.h"
 #include "records/EnvRecord.h"
 #include "records/SetupRecord.h"
-#include "ui/DepositoTracce.h"
 #include "ui/DisegnoQuadro.h"
+#include "ui/TraccePassate.h"
 
 namespace orvane {
 
@@ -25,8 +26,10 @@ public:
 
     /// The axis spans these frequencies (MHz); what was drawn is gone. 0 and 0: an empty axis.
     void IniziaTraccia(double startMhz, double stopMhz);
-    /// The next samples belong to another line or pass.
-    void InterrompiTraccia() { deposito_.Interrompi(); }
+    /// The next samples do not continue those before.
+    void InterrompiTraccia() { tracce_.Corrente().Interrompi(); }
+    /// The next samples belong to this pass, from 0; the traces of the others grow quieter.
+    void ScegliPassata(int passata, const QString& nome);
     void Aggiungi(double freqMhz, const SampleRecord& campione);
     /// Which detectors are drawn.
     void MostraDetector(const std::array<bool, kNumDetector>& quali);
@@ -34,7 +37,9 @@ public:
     void DrawGrid();
     /// What stands in the middle while there is no trace.
     void ImpostaInvito(const QString& testo);
-    const DepositoTracce& Deposito() const { return deposito_; }
+    /// Of the pass under way.
+    const DepositoTracce& Deposito() const { return tracce_.Corrente(); }
+    const TraccePassate& Tracce() const { return tracce_; }
     /// Level of the axis at a height of the picture, dB in the display unit.
     double LivelloA(double y) const;
 
@@ -54,18 +59,27 @@ protected:
     void leaveEvent(QEvent* evento) override;
 
 private:
+    struct RigaLettura {
+        QString testo;
+        QColor colore;
+    };
     ModoQuadro Modo() const;
     QFont CarattereLettura() const;
     void PreparaScala();
     void DisegnaSfondo();
     void DisegnaTracce(QPainter& p);
+    void DisegnaStrato(Superficie& superficie, const TraccePassate::Strato& strato);
+    void DisegnaLegenda(QPainter& p);
+    QColor ColoreStrato(const TraccePassate::Strato& strato, size_t detector) const;
+    std::vector<RigaLettura> Letture(double mhz) const;
+    QRectF Griglia() const;
     void DisegnaLettura(QPainter& p);
     void DisegnaInvito(QPainter& p);
     double Rapporto() const { return devicePixelRatioF(); }
 
     const EnvRecord& env_;
     const SetupRecord& setup_;
-    DepositoTracce deposito_;
+    TraccePassate tracce_;
     std::array<bool, kNumDetector> mostrati_{};
     ScalaGrafico scala_;
     RiquadroGriglia griglia_; ///< in device pixels

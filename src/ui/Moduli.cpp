@@ -1,5 +1,6 @@
 #include "ui/Moduli.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "ui/Tema.h"
@@ -20,6 +21,20 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter(this).fillRect(rect(), Tinta(palette(), Ruolo::Bordo));
+    }
+};
+
+/// Enter presses the button that has the focus. A dialog would press its default one instead, and
+/// so store where Cancel was meant.
+class Pulsante : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override {
+        if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+            return click();
+        QPushButton::keyPressEvent(evento);
     }
 };
 
@@ -44,7 +59,7 @@ QLabel* CreaDidascalia(const QString& testo, QWidget* padre) {
 
 QPushButton* CreaPulsante(const QString& nome, const QString& testo, const QString& aiuto,
                           QWidget* padre) {
-    auto* pulsante = new QPushButton(testo, padre);
+    auto* pulsante = new Pulsante(testo, padre);
     pulsante->setAutoDefault(false);
     return Nomina(pulsante, nome, testo, aiuto);
 }

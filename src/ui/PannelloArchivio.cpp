@@ -2,97 +2,28 @@
 
 #include <algorithm>
 
-#include <QDate>
 #include <QFormLayout>
-#include <QPainter>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "data/Incompiute.h"
 #include "setup/TabellaScan.h"
+#include "ui/IconeScan.h"
 #include "ui/Moduli.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
+#include "ui/VociArchivio.h"
 
 namespace orvane {
 namespace {
-
-enum RuoloVoce { Nome = Qt::UserRole, Data, Guasta, Cercabile };
-
-/// "22 Nov" of "dd/mm/yyyy hh:mm:ss"; with the year where it is not this one.
-QString DataCorta(const std::string& data) {
-    const QDate giorno = QDate::fromString(Q(data).left(10), QStringLiteral("dd/MM/yyyy"));
-    if (!giorno.isValid())
-        return {};
-    const bool quest = giorno.year() == QDate::currentDate().year();
-    return QLocale::c().toString(giorno,
-                                 quest ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
-}
 
 /// "yyyymmdd hh:mm:ss", which sorts.
 std::string ChiaveData(const std::string& data) {
     return data.size() < 19
                ? std::string()
                : data.substr(6, 4) + data.substr(3, 2) + data.substr(0, 2) + data.substr(10);
-}
-
-class DelegatoMisura : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override {
-        const bool scelta = o.state & QStyle::State_Selected;
-        const bool guasta = i.data(Guasta).toBool();
-        const QRect riga = o.rect.adjusted(8, 1, -8, -1);
-        p->save();
-        p->setRenderHint(QPainter::Antialiasing);
-        p->setPen(Qt::NoPen);
-        if (scelta || o.state & QStyle::State_MouseOver) {
-            p->setBrush(Tinta(o.palette, scelta ? Ruolo::Scelta : Ruolo::Sorvolo));
-            p->drawRoundedRect(riga, 4, 4);
-        }
-        QFont piccolo = o.font;
-        piccolo.setPointSizeF(piccolo.pointSizeF() * 0.88);
-        const QString data = guasta ? QStringLiteral("damaged") : i.data(Data).toString();
-        const int largo = QFontMetrics(piccolo).horizontalAdvance(data);
-        p->setFont(piccolo);
-        p->setPen(Tinta(o.palette, guasta ? Ruolo::Errore : Ruolo::Tenue));
-        p->drawText(riga.adjusted(0, 0, -8, 0), Qt::AlignVCenter | Qt::AlignRight, data);
-        QFont nome = o.font;
-        nome.setWeight(scelta ? QFont::DemiBold : QFont::Normal);
-        p->setFont(nome);
-        p->setPen(Tinta(o.palette, guasta ? Ruolo::Tenue : Ruolo::Testo));
-        const QRect spazio = riga.adjusted(8, 0, -largo - 18, 0);
-        p->drawText(
-            spazio, Qt::AlignVCenter,
-            QFontMetrics(nome).elidedText(i.data(Nome).toString(), Qt::ElideRight, spazio.width()));
-        p->restore();
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex&) const override {
-        return {o.rect.width(), o.fontMetrics.height() + 12};
-    }
-};
-
-QListWidgetItem* CreaVoce(const VoceArchivio& misura) {
-    auto* voce = new QListWidgetItem;
-    voce->setData(Nome, Q(misura.nome));
-    voce->setData(Data, DataCorta(misura.ultima));
-    voce->setData(Guasta, !misura.leggibile);
-    voce->setData(Cercabile, Q(misura.nome + " " + misura.prima + " " + misura.ultima + " ") +
-                                 DataCorta(misura.ultima));
-    voce->setData(Qt::AccessibleTextRole,
-                  Q(misura.nome) + (misura.leggibile ? QString() : QStringLiteral(", damaged")));
-    voce->setToolTip(misura.leggibile
-                         ? QStringLiteral("%1\n%2 lines, %3 steps, detectors %4")
-                               .arg(Q(misura.ultima))
-                               .arg(misura.righe)
-                               .arg(misura.passi)
-                               .arg(Q(misura.detector))
-                         : QStringLiteral("The header of this measure is missing or damaged"));
-    return voce;
 }
 
 } // namespace
@@ -109,6 +40,7 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     lista_->setMouseTracking(true);
     lista_->viewport()->setBackgroundRole(QPalette::Window);
     lista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    CreaAvviso();
     vuota_ = CreaDidascalia(QString(), this);
     vuota_->setWordWrap(true);
     vuota_->setContentsMargins(8, 8, 8, 8);
@@ -130,9 +62,14 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     piede->addRow(CreaTitoletto(tr("Traces"), this));
     piede->addRow(tr("Detector"), detector_);
     piede->addRow(dettagli_);
+    accetta_ = CreaPulsante(QStringLiteral("CMBAcceptMeasure"), tr("Accept as it is"),
+                            tr("Takes the mark of an incomplete run off this measure"), this);
+    piede->addRow(accetta_);
+    accetta_->hide();
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
+    colonna->addWidget(avviso_);
     colonna->addLayout(testa);
     colonna->addWidget(vuota_);
     colonna->addWidget(lista_, 1);
@@ -141,10 +78,49 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
 
     connect(cerca_, &QLineEdit::textChanged, this, &PannelloArchivio::Filtra);
     connect(lista_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* voce) {
-        Q_EMIT MisuraScelta(voce ? voce->data(Nome).toString() : QString());
+        Q_EMIT MisuraScelta(voce ? voce->data(VoceMisura::Nome).toString() : QString());
     });
+    connect(accetta_, &QPushButton::clicked, this, &PannelloArchivio::Accetta);
     connect(detector_, &QComboBox::activated, this,
             [this] { Q_EMIT DetectorCambiato(DetectorScelto()); });
+}
+
+/// What stands over the list while a run of the past has not come to its end.
+void PannelloArchivio::CreaAvviso() {
+    avviso_ = new QWidget(this);
+    avviso_->setObjectName(QStringLiteral("FRMIncompiute"));
+    auto* segno = new QLabel(avviso_);
+    segno->setPixmap(IconaScan(SegnoScan::Avviso).pixmap(QSize(18, 18)));
+    testoAvviso_ =
+        Nomina(new QLabel(avviso_), QStringLiteral("LBIncompiute"), tr("Incomplete measures"));
+    testoAvviso_->setWordWrap(true);
+    auto* mostra = CreaPulsante(QStringLiteral("CMBShowIncomplete"), tr("Show"),
+                                tr("Opens the first of them"), avviso_);
+    auto* riga = new QHBoxLayout(avviso_);
+    riga->setContentsMargins(12, 10, 10, 2);
+    riga->setSpacing(8);
+    riga->addWidget(segno, 0, Qt::AlignTop);
+    riga->addWidget(testoAvviso_, 1);
+    riga->addWidget(mostra, 0, Qt::AlignTop);
+    connect(mostra, &QPushButton::clicked, this, [this] {
+        const auto nomi = MisureIncompiute(scrivania_.albero);
+        cerca_->clear();
+        if (!nomi.empty())
+            Scegli(nomi.front());
+    });
+}
+
+void PannelloArchivio::MostraIncompiute() {
+    const QString nomi = NomiIncompiute(scrivania_.albero);
+    avviso_->setVisible(!nomi.isEmpty());
+    testoAvviso_->setText(
+        tr("Incomplete: %1. The run was cut off; what it had swept is there.").arg(nomi));
+}
+
+void PannelloArchivio::Accetta() {
+    TogliSegnoCorsa(scrivania_.albero, Scelta());
+    accetta_->hide();
+    ElencaArchivio();
 }
 
 int PannelloArchivio::ElencaArchivio() {
@@ -157,7 +133,8 @@ int PannelloArchivio::ElencaArchivio() {
         });
     lista_->clear();
     for (const auto& misura : misure)
-        lista_->addItem(CreaVoce(misura));
+        lista_->addItem(CreaVoceMisura(misura));
+    MostraIncompiute();
     Filtra(cerca_->text());
     Scegli(scelta);
     return lista_->count();
@@ -165,7 +142,7 @@ int PannelloArchivio::ElencaArchivio() {
 
 bool PannelloArchivio::Scegli(const std::string& nome) {
     for (int i = 0; i < lista_->count(); ++i)
-        if (UgualiSenzaMaiuscole(S(lista_->item(i)->data(Nome).toString()), nome)) {
+        if (UgualiSenzaMaiuscole(S(lista_->item(i)->data(VoceMisura::Nome).toString()), nome)) {
             lista_->setCurrentRow(i);
             return true;
         }
@@ -174,14 +151,16 @@ bool PannelloArchivio::Scegli(const std::string& nome) {
 
 std::string PannelloArchivio::Scelta() const {
     const QListWidgetItem* voce = lista_->currentItem();
-    return voce ? S(voce->data(Nome).toString()) : std::string();
+    return voce ? S(voce->data(VoceMisura::Nome).toString()) : std::string();
 }
 
 void PannelloArchivio::Filtra(const QString& cercato) {
     int visibili = 0;
     for (int i = 0; i < lista_->count(); ++i) {
-        const bool c =
-            lista_->item(i)->data(Cercabile).toString().contains(cercato, Qt::CaseInsensitive);
+        const bool c = lista_->item(i)
+                           ->data(VoceMisura::Cercabile)
+                           .toString()
+                           .contains(cercato, Qt::CaseInsensitive);
         lista_->item(i)->setHidden(!c);
         visibili += c;
     }
@@ -206,12 +185,17 @@ int PannelloArchivio::DetectorScelto() const {
 }
 
 void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
+    const bool incompiuta =
+        !misura.nome.empty() && MisuraIncompiuta(scrivania_.albero, misura.nome);
+    accetta_->setVisible(incompiuta);
     if (misura.nome.empty())
         return dettagli_->clear();
     if (!misura.leggibile)
         return dettagli_->setText(tr("The header of this measure cannot be read."));
     const SetupRecord& setup = misura.header.Setup;
     QStringList righe;
+    if (incompiuta)
+        righe << tr("Incomplete: its run was cut off");
     const size_t linee = RigheInUso(misura.header.Scan.Righe);
     const QString campioni = QString::number(misura.traccia.size());
     righe << (linee == 1 ? tr("%1 samples in one line").arg(campioni)

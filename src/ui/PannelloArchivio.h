@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QWidget>
 
 #include "console/Archivio.h"
@@ -33,10 +34,16 @@ Q_SIGNALS:
     void DetectorCambiato(int detector);
 
 private:
+    void CreaAvviso();
+    void MostraIncompiute();
+    void Accetta();
     void Filtra(const QString& cercato);
     void ScriviDettagli(const MisuraAperta& misura);
 
     const Scrivania& scrivania_;
+    QWidget* avviso_ = nullptr;
+    QLabel* testoAvviso_ = nullptr;
+    QPushButton* accetta_ = nullptr;
     QLineEdit* cerca_;
     QListWidget* lista_;
     QLabel* vuota_;

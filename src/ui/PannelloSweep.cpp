@@ -21,21 +21,6 @@ namespace {
 
 constexpr std::string_view kSenzaNome = "Untitled";
 
-/// What the buttons of a run show in each phase.
-struct AspettoFase {
-    FaseCorsa fase;
-    const char* esegui;
-    bool attivo;
-    const char* pausa; ///< null: hidden
-};
-constexpr AspettoFase kAspetti[] = {
-    {FaseCorsa::Ferma, "Execute", true, nullptr}, {FaseCorsa::Controlli, "Stop", true, nullptr},
-    {FaseCorsa::Attesa, "Stop", true, nullptr},   {FaseCorsa::Preparazione, "Stop", true, nullptr},
-    {FaseCorsa::Riga, "Stop", true, nullptr},     {FaseCorsa::Misura, "Stop", true, nullptr},
-    {FaseCorsa::Pausa, "Stop", true, "Resume"},   {FaseCorsa::Arresto, "Stop", false, nullptr},
-    {FaseCorsa::Guasto, "Stop", false, nullptr},
-};
-
 void Vesti(QPushButton* pulsante, const char* ruolo) {
     pulsante->setProperty(kProprietaRuolo, QLatin1String(ruolo));
     pulsante->update();
@@ -50,6 +35,7 @@ PannelloSweep::PannelloSweep(Scrivania& scrivania, ScanRecord& scan, QWidget* pa
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
     colonna->addWidget(CreaComandi());
+    colonna->addWidget(avvio_ = new SceltaAvvio(this));
     colonna->addWidget(CreaFilo(this));
     griglia_ = new GridScanTab(scan_.Righe, scrivania_.setup, true, this);
     griglia_->setObjectName(QStringLiteral("GridScanTab"));
@@ -62,7 +48,8 @@ PannelloSweep::PannelloSweep(Scrivania& scrivania, ScanRecord& scan, QWidget* pa
     colonna->addWidget(piede_);
     CollegaComandi();
     CollegaGriglia();
-    MostraFase(FaseCorsa::Ferma);
+    MostraCMBPausa(false);
+    AbilitaDisabilitaControlli(ControlliDiFase(FaseCorsa::Ferma, true));
 }
 
 QWidget* PannelloSweep::CreaComandi() {
@@ -74,8 +61,8 @@ QWidget* PannelloSweep::CreaComandi() {
                            tr("Runs the scan table (F5)"), barra);
     esegui_->setShortcut(QKeySequence(Qt::Key_F5));
     esegui_->setMinimumWidth(esegui_->fontMetrics().horizontalAdvance(tr("Execute")) + 40);
-    pausa_ =
-        CreaPulsante(QStringLiteral("CMBPauseSweep"), tr("Pause"), tr("Holds the sweep"), barra);
+    pausa_ = CreaPulsante(QStringLiteral("CMBPauseSweep"), tr("Pause"), tr("Holds the sweep (F6)"),
+                          barra);
     tabelle_ = Nomina(new QComboBox(barra), QStringLiteral("CBXScanTab"), tr("Scan table"),
                       tr("Choose a scan table; a new name and Enter keep a copy under it"));
     tabelle_->setEditable(true);
@@ -128,6 +115,7 @@ void PannelloSweep::CreaBande(QPushButton* pulsante) {
 
 void PannelloSweep::CollegaComandi() {
     connect(esegui_, &QPushButton::clicked, this, &PannelloSweep::Esegui);
+    connect(pausa_, &QPushButton::clicked, this, &PannelloSweep::Pausa);
     connect(nuova_, &QPushButton::clicked, this, &PannelloSweep::NuovaTabella);
     connect(cancella_, &QPushButton::clicked, this, &PannelloSweep::CancellaTabella);
     connect(tabelle_, &QComboBox::textActivated, this, &PannelloSweep::ScegliTabella);
@@ -143,20 +131,20 @@ void PannelloSweep::Carica() {
         griglia_->VaiAllaCella(0, ColonnaScan::Start);
 }
 
-void PannelloSweep::MostraFase(FaseCorsa fase) {
-    const AspettoFase& aspetto = kAspetti[static_cast<size_t>(fase)];
-    const bool ferma = fase == FaseCorsa::Ferma;
-    esegui_->setText(QLatin1String(aspetto.esegui));
+void PannelloSweep::AbilitaDisabilitaControlli(const ControlliFase& controlli) {
+    const bool ferma = controlli.fermi;
+    esegui_->setText(QLatin1String(controlli.esegui));
+    pausa_->setText(QLatin1String(controlli.pausa));
     // A new caption drops the shortcut.
     esegui_->setShortcut(QKeySequence(Qt::Key_F5));
-    esegui_->setEnabled(aspetto.attivo);
+    pausa_->setShortcut(QKeySequence(Qt::Key_F6));
+    esegui_->setEnabled(controlli.eseguiVivo);
+    pausa_->setEnabled(controlli.pausaViva);
     Vesti(esegui_, ferma ? "accento" : "stop");
-    pausa_->setVisible(aspetto.pausa != nullptr);
-    if (aspetto.pausa)
-        pausa_->setText(QLatin1String(aspetto.pausa));
     for (QWidget* pezzo : {static_cast<QWidget*>(tabelle_), static_cast<QWidget*>(nuova_),
                            static_cast<QWidget*>(cancella_), static_cast<QWidget*>(banda_),
-                           static_cast<QWidget*>(misura_)})
+                           static_cast<QWidget*>(misura_), static_cast<QWidget*>(avvio_),
+                           static_cast<QWidget*>(&piede_->Bande())})
         pezzo->setEnabled(ferma);
     ferma_ = ferma;
     griglia_->Modello().ImpostaModificabile(ferma);

@@ -12,10 +12,11 @@
 
 #include "data/Scrivania.h"
 #include "setup/Controlli.h"
-#include "sweep/Corsa.h"
 #include "ui/AzioniScan.h"
 #include "ui/FRMTDScanTab.h"
+#include "ui/FasiCorsa.h"
 #include "ui/PiedeScan.h"
+#include "ui/SceltaAvvio.h"
 
 namespace orvane {
 
@@ -34,13 +35,18 @@ public:
     /// The table or the ancillary of the set-up has changed.
     void AggiornaGriglia();
     void EvidenziaCella(int riga, ColonnaScan colonna, bool errata);
-    void MostraFase(FaseCorsa fase);
+    void AbilitaDisabilitaControlli(const ControlliFase& controlli);
+    /// `ControllaVisCMBPausa`.
+    void MostraCMBPausa(bool visibile) { pausa_->setVisible(visibile); }
+    const SceltaAvvio& Avvio() const { return *avvio_; }
     std::string Misura() const;
     void ImpostaMisura(const std::string& nome);
 
 Q_SIGNALS:
     /// `CMBExecuteSweep`.
     void Esegui();
+    /// `CMBPauseSweep`, with either caption.
+    void Pausa();
     /// Other lines than before: the axis follows them.
     void TabellaCambiata();
 
@@ -69,6 +75,7 @@ private:
     ScanRecord& scan_;
     QPushButton* esegui_ = nullptr;
     QPushButton* pausa_ = nullptr;
+    SceltaAvvio* avvio_ = nullptr;
     QComboBox* tabelle_ = nullptr;
     QPushButton* nuova_ = nullptr;
     QPushButton* cancella_ = nullptr;

@@ -52,9 +52,11 @@ void RigaStato::MostraMessaggio(const QString& testo) {
 
 void RigaStato::MostraAvanzamento(const Avanzamento& a) {
     QStringList parti;
-    parti << tr("Line %1 of %2").arg(a.riga + 1).arg(a.numRighe);
     if (!a.nomePassata.empty())
-        parti << Q(a.nomePassata);
+        parti << etichetta_;
+    parti << (parti.isEmpty() ? tr("Line %1 of %2") : tr("line %1 of %2"))
+                 .arg(a.riga + 1)
+                 .arg(a.numRighe);
     if (a.numPassate > 1)
         parti << tr("pass %1 of %2").arg(a.passata + 1).arg(a.numPassate);
     passata_->setText(parti.join(QStringLiteral(" · ")));
@@ -69,6 +71,7 @@ void RigaStato::MostraAvanzamento(const Avanzamento& a) {
 }
 
 void RigaStato::CancellaBarre() {
+    etichetta_.clear();
     passata_->hide();
     barra_->hide();
     barra_->setValue(0);

@@ -18,11 +18,14 @@ public:
     void MostraFreqLivello(double mhz, double livello, const QString& unita);
     void NascondiFreqLivello() { freq_->clear(); }
     void MostraMessaggio(const QString& testo);
+    /// "<line>: " and what its pass goes through.
+    void MostraPassata(const QString& etichetta) { etichetta_ = etichetta; }
     void MostraAvanzamento(const Avanzamento& avanzamento);
     /// `CancellaBarMete`.
     void CancellaBarre();
 
 private:
+    QString etichetta_;
     QLabel* freq_;
     QLabel* messaggio_;
     QLabel* passata_;

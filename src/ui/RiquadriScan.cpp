@@ -1,5 +1,6 @@
 #include "ui/RiquadriScan.h"
 
+#include <QAbstractItemView>
 #include <QSignalBlocker>
 
 #include "ui/Tema.h"
@@ -89,6 +90,9 @@ void Avvisa(QWidget& controllo, bool avviso) {
         for (const auto posto : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
             tavolozza.setColor(posto, Tinta(controllo.palette(), Ruolo::Errore));
     controllo.setPalette(tavolozza);
+    // What may be chosen instead is no error.
+    if (auto* elenco = qobject_cast<QComboBox*>(&controllo))
+        elenco->view()->setPalette(controllo.parentWidget()->palette());
 }
 
 } // namespace orvane

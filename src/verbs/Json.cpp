@@ -67,6 +67,10 @@ Json& Json::Numero(double valore) {
     return *this;
 }
 
+Json& Json::Coppia(std::string_view nome, float valore) {
+    return Chiave(nome).Numero(LeggiNumero(TestoDaNumero(valore)).value_or(valore));
+}
+
 Json& Json::Logico(bool valore) {
     Separa();
     testo_ += valore ? "true" : "false";

@@ -22,6 +22,8 @@ public:
     }
     Json& Coppia(std::string_view nome, const char* valore) { return Chiave(nome).Testo(valore); }
     Json& Coppia(std::string_view nome, double valore) { return Chiave(nome).Numero(valore); }
+    /// As short as a float is told: 0.1 and not 0.10000000149011612.
+    Json& Coppia(std::string_view nome, float valore);
     Json& Coppia(std::string_view nome, int valore) { return Chiave(nome).Numero(valore); }
     Json& Coppia(std::string_view nome, bool valore) { return Chiave(nome).Logico(valore); }
 

@@ -26,12 +26,17 @@ constexpr std::array kVerbi = {
               "scan tables", VerboScan},
     VoceVerbo{"check", "--scan NAME [--name MEASURE]",
               "what the checks before a run find in a scan table; nothing is changed", VerboCheck},
-    VoceVerbo{"sweep", "--scan NAME [--name MEASURE]",
-              "the run of a scan table, with progress on standard error; Ctrl-C is Stop",
+    VoceVerbo{"sweep",
+              "--scan NAME [--name MEASURE] [--timer S | --trigger 0|1]\n"
+              "        [--pause-after S [--pause-for S]]",
+              "the run of a scan table, with progress on standard error; Ctrl-C is Stop, a second\n"
+              "      one gives the receiver up",
               VerboSweep},
     VoceVerbo{"command", "--scan NAME",
               "what a scan table makes the console send, without sending it", VerboCommand},
-    VoceVerbo{"archive", "", "the measures, with date and lines", VerboArchive},
+    VoceVerbo{"archive", "[accept MEASURE]",
+              "the measures, with date and lines; accept takes the mark of a run that was cut off",
+              VerboArchive},
     VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
     VoceVerbo{
@@ -75,6 +80,17 @@ std::optional<std::string> NomeDaParola(std::string_view parola) {
     if (nome.empty() || controlli || ControllaNomeMisura(nome) != nome)
         return std::nullopt;
     return nome;
+}
+
+std::string ParoleInRiga(std::string_view testo) {
+    std::string riga;
+    for (const std::string& pezzo : Dividi(testo, '\r')) {
+        const std::string pulito = Rifila(pezzo);
+        if (!riga.empty() && !pulito.empty())
+            riga += ' ';
+        riga += pulito;
+    }
+    return riga;
 }
 
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche) {

@@ -2,6 +2,7 @@
 // core.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <span>
@@ -12,6 +13,7 @@
 #include "link/Ricevitore.h"
 #include "records/ScanRecord.h"
 #include "sweep/Corsa.h"
+#include "verbs/GuidaPausa.h"
 #include "verbs/VistaTerminale.h"
 
 namespace orvane {
@@ -38,6 +40,9 @@ struct Banco {
     std::ostream& dati;      ///< standard output
     std::ostream& messaggi;  ///< standard error
     bool json = false;
+    /// What a verb has done at each turn of the pump.
+    std::function<void()> alGiro = {};
+    TastoInvio tastiera = {};
 };
 using Parole = std::span<const std::string>;
 
@@ -52,6 +57,9 @@ const VoceVerbo* TrovaVerbo(std::string_view nome);
 
 /// A name that a file may bear, trimmed; empty for any other.
 std::optional<std::string> NomeDaParola(std::string_view parola);
+
+/// Words of a box on one line, without the blanks that centre them.
+std::string ParoleInRiga(std::string_view testo);
 
 /// Says what is wrong with the words, and how the verb is used.
 EsitoVerbo UsoErrato(Banco& banco, std::string_view verbo, std::string_view perche);

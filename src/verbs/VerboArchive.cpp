@@ -5,6 +5,7 @@
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/ControllaRecord.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "setup/ListaFrequenze.h"
 #include "setup/TabellaScan.h"
@@ -19,15 +20,16 @@ void Stampa(Banco& banco, Json& json, const VoceArchivio& voce) {
     json.Oggetto().Coppia("name", voce.nome).Coppia("first", voce.prima);
     json.Coppia("last", voce.ultima).Coppia("lines", voce.righe);
     json.Coppia("steps", static_cast<double>(voce.passi)).Coppia("detectors", voce.detector);
-    json.Coppia("readable", voce.leggibile).Chiudi();
+    json.Coppia("readable", voce.leggibile).Coppia("incomplete", voce.incompiuta).Chiudi();
     if (banco.json)
         return;
+    const char* fine = voce.incompiuta ? "\tincomplete\n" : "\n";
     banco.dati << voce.nome << "\t" << voce.ultima << "\t";
     if (voce.leggibile)
         banco.dati << voce.righe << (voce.righe == 1 ? " line\t" : " lines\t") << voce.passi
-                   << " steps\t" << voce.detector << "\n";
+                   << " steps\t" << voce.detector << fine;
     else
-        banco.dati << "header damaged\t" << voce.passi << " steps\n";
+        banco.dati << "header damaged\t" << voce.passi << " steps" << fine;
 }
 
 /// Frequencies are multiples of a step: the noise of the last binary digits is no information.
@@ -77,9 +79,24 @@ void StampaTraccia(Banco& banco, const SweepTrace& traccia, DetectorKind detecto
     banco.dati << (banco.json ? json.Chiudi().Chiudi().Documento() + "\n" : testo);
 }
 
+/// The measure stands as it is: it no longer counts as cut off.
+EsitoVerbo Accetta(Banco& banco, Parole parole) {
+    const auto misura = parole.size() == 1 ? NomeDaParola(parole[0]) : std::nullopt;
+    if (!misura)
+        return UsoErrato(banco, "archive", "accept wants one MEASURE");
+    const AlberoDati& albero = banco.scrivania.albero;
+    if (!albero.EsisteCartella(CartellaMisura(*misura)))
+        return Guasto(banco, kGuastoFile, "there is no measure " + CartellaMisura(*misura));
+    if (MisuraIncompiuta(albero, *misura) && !TogliSegnoCorsa(albero, *misura))
+        return Guasto(banco, kGuastoFile, "cannot delete " + PercorsoSegnoCorsa(*misura));
+    return kFatto;
+}
+
 } // namespace
 
 EsitoVerbo VerboArchive(Banco& banco, Parole parole) {
+    if (!parole.empty() && parole[0] == "accept")
+        return Accetta(banco, parole.subspan(1));
     if (!parole.empty())
         return UsoErrato(banco, "archive", "takes no further words");
     Json json;

@@ -8,6 +8,7 @@
 #include "data/Panels.h"
 #include "setup/PreVolo.h"
 #include "verbs/Argomenti.h"
+#include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
 
@@ -18,18 +19,6 @@ constexpr int kControlloNome = 36;
 
 std::string NomeColonna(ColonnaScan colonna) {
     return Sostituisci(std::string(TitoloColonna(colonna)), "\n", " ");
-}
-
-/// Words of a box on one line.
-std::string InRiga(std::string_view testo) {
-    std::string riga;
-    for (const std::string& pezzo : Dividi(testo, '\r')) {
-        const std::string pulito = Rifila(pezzo);
-        if (!riga.empty() && !pulito.empty())
-            riga += ' ';
-        riga += pulito;
-    }
-    return riga;
 }
 
 /// What a finding says; one without words of its own says why it stops.
@@ -53,7 +42,7 @@ std::string_view Esito(const Riscontro& r) {
 void StampaRighe(Banco& banco, const Riscontro& r) {
     const auto riga = [&](const std::string& linea, const std::string& colonna) {
         banco.dati << r.numero << "\t" << r.nome << "\t" << linea << "\t" << colonna << "\t"
-                   << InRiga(ParoleDi(r)) << "\t" << Esito(r) << "\n";
+                   << ParoleInRiga(ParoleDi(r)) << "\t" << Esito(r) << "\n";
     };
     for (const CellaErrata& cella : r.segnalazione.celle)
         riga(TestoIntero(static_cast<long long>(cella.riga) + 1), NomeColonna(cella.colonna));
@@ -111,19 +100,6 @@ std::string RisolviNome(Banco& banco, const std::string& misura,
     return nome;
 }
 
-std::vector<Riscontro> Esamina(Banco& banco, const ScanRecord& scan) {
-    const ContestoControlli contesto{.tabella = scan.Righe,
-                                     .modello = banco.ricevitore.modello,
-                                     .caps = banco.ricevitore.caps,
-                                     .setup = banco.scrivania.setup,
-                                     .albero = banco.scrivania.albero,
-                                     .rigaComando = banco.scrivania.ambiente.RigaComando()};
-    return EsaminaScan(contesto, [&](const Segnalazione& s) {
-        const Risposta risposta = banco.scrivania.ambiente.Mostra(s.riquadro);
-        return risposta == Risposta::Si || risposta == Risposta::Ok;
-    });
-}
-
 EsitoVerbo Controlla(Banco& banco, const ScanRecord& scan, const std::string& misura) {
     Ricevitore& r = banco.ricevitore;
     std::string motivo;
@@ -134,7 +110,8 @@ EsitoVerbo Controlla(Banco& banco, const ScanRecord& scan, const std::string& mi
                       banco.interrotto  ? "stopped"
                       : !motivo.empty() ? motivo
                                         : "no receiver answered");
-    std::vector<Riscontro> riscontri = Esamina(banco, scan);
+    std::vector<Riscontro> riscontri =
+        EsaminaScan(ContestoDiScan(banco, scan.Righe), RispostaDiScan(banco));
     const std::string nome = misura.empty() ? std::string() : RisolviNome(banco, misura, riscontri);
     const bool rifiutato = std::any_of(riscontri.begin(), riscontri.end(), Rifiuta);
     Stampa(banco, riscontri, nome, rifiutato);

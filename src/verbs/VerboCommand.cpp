@@ -7,9 +7,10 @@
 #include "link/Identificazione.h"
 #include "setup/ComandiScan.h"
 #include "setup/CommutatoriSweep.h"
-#include "setup/RegoleScan.h"
+#include "setup/PreVolo.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
+#include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
 
@@ -31,8 +32,9 @@ void StampaTesto(std::ostream& dati, const ScanComposto& scan) {
     for (const PassataComposta& passata : scan.passate) {
         dati << "line " << NumeroRiga(passata);
         dati << (passata.nome.empty() ? "" : " ") << passata.nome << "\n";
-        if (!passata.riquadro.testo.empty())
-            dati << "[box] " << passata.riquadro.testo << "\n";
+        for (const Riquadro* riquadro : {&passata.unita, &passata.riquadro})
+            if (!riquadro->testo.empty())
+                dati << "[box] " << ParoleInRiga(riquadro->testo) << "\n";
         StampaTesto(dati, passata.comandi);
     }
 }
@@ -51,7 +53,8 @@ void StampaJson(std::ostream& dati, const ScanComposto& scan) {
     json.Chiave("passes").Lista();
     for (const PassataComposta& passata : scan.passate) {
         json.Oggetto().Coppia("line", static_cast<int>(passata.riga) + 1);
-        json.Coppia("pass", passata.nome).Coppia("prompt", passata.riquadro.testo);
+        json.Coppia("pass", passata.nome).Coppia("unit", passata.unita.testo);
+        json.Coppia("prompt", passata.riquadro.testo);
         Lista(json, "commands", passata.comandi);
         json.Chiudi();
     }
@@ -68,11 +71,15 @@ bool Riconosci(Ricevitore& r) {
     return !r.stato.AbbandonaComandi && r.modello.FwTesto != "---";
 }
 
-/// The table as the checks would leave it.
-void Riordina(ScanTable& tabella, const SetupRecord& setup) {
+/// Table and set-up as the checks would leave them; what only a run would ask is put in order
+/// first.
+ScanTable Correggi(Banco& banco, ScanTable tabella) {
+    SetupRecord& setup = banco.scrivania.setup;
     CompattaScanTable(tabella);
-    RicalcolaPassiAuto(tabella);
     SelLineParaSweep(tabella, setup);
+    ScanCorretto corretto = CorreggiScan(ContestoDiScan(banco, tabella), RispostaDiScan(banco));
+    setup = std::move(corretto.setup);
+    return corretto.tabella;
 }
 
 EsitoVerbo Racconta(Banco& banco, const ScanTable& tabella) {
@@ -102,11 +109,10 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole) {
     if (!CaricaPanelEST(banco.scrivania, percorso, scan))
         return kGuastoFile;
     ControllaScan(scan);
-    Riordina(scan.Righe, banco.scrivania.setup);
     if (!Riconosci(banco.ricevitore))
         return Guasto(banco, EsitoDelLink(banco),
                       banco.interrotto ? "stopped" : "no receiver answered");
-    return Racconta(banco, scan.Righe);
+    return Racconta(banco, Correggi(banco, scan.Righe));
 }
 
 } // namespace orvane

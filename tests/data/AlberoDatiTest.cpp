@@ -2,7 +2,6 @@
 #include "data/AlberoDati.h"
 
 #include "ScrivaniaProva.h"
-#include "data/Cartelle.h"
 #include "data/NomiDisco.h"
 
 namespace orvane::prova {
@@ -15,28 +14,25 @@ using AlberoDatiTest = ProvaDati;
 TEST_F(AlberoDatiTest, DataRootHasBackslashesAndOneAtTheEnd) {
     std::string atteso = cartella.Percorso().string() + "\\";
     std::replace(atteso.begin(), atteso.end(), '/', '\\');
-    EXPECT_EQ(s.albero.DataRoot(), atteso);
-    EXPECT_EQ(AlberoDati(cartella.Percorso() / "").DataRoot(), atteso);
-    EXPECT_EQ(AlberoDati(cartella.Percorso() / "." / "x" / "..").DataRoot(), atteso);
+    for (const fs::path& radice :
+         {cartella.Percorso(), cartella.Percorso() / "", cartella.Percorso() / "." / "x" / ".."})
+        EXPECT_EQ(AlberoDati(radice).DataRoot(), atteso) << radice;
 }
 
 TEST_F(AlberoDatiTest, NamesAreFoundWhateverTheirCase) {
     Metti("SWEEP/Motor Test/motor test.ksh", "k");
     Metti("sweep.txt", "t");
     Metti("Limits/\xC3\x89mission.5sl", "l");
-    struct {
-        const char* chiesto;
-        const char* trovato;
-    } const casi[] = {
+    const std::pair<const char*, const char*> casi[] = {
         {"Sweep\\MOTOR TEST\\Motor Test.KSH", "SWEEP/Motor Test/motor test.ksh"},
         {"sweep/motor test/MOTOR TEST.KSH", "SWEEP/Motor Test/motor test.ksh"},
         {"\x53weep\\.\\motor test\\\\motor test.ksh", "SWEEP/Motor Test/motor test.ksh"},
         {"Sweep.TXT", "sweep.txt"},
         {"LIMITS\\\xC3\xA9MISSION.5SL", "Limits/\xC3\x89mission.5sl"},
     };
-    for (const auto& caso : casi) {
-        EXPECT_EQ(s.albero.Host(caso.chiesto), Host(caso.trovato)) << caso.chiesto;
-        EXPECT_TRUE(s.albero.Esiste(caso.chiesto)) << caso.chiesto;
+    for (const auto& [chiesto, trovato] : casi) {
+        EXPECT_EQ(s.albero.Host(chiesto), Host(trovato)) << chiesto;
+        EXPECT_TRUE(s.albero.Esiste(chiesto)) << chiesto;
     }
     EXPECT_TRUE(s.albero.EsisteCartella("sWEEP\\motor TEST\\"));
     EXPECT_FALSE(s.albero.Esiste("sWEEP\\motor TEST"));
@@ -44,21 +40,20 @@ TEST_F(AlberoDatiTest, NamesAreFoundWhateverTheirCase) {
 }
 
 TEST_F(AlberoDatiTest, TheExactCaseGoesFirstThenTheFirstOfTheOthers) {
-    Metti("Panels/base.EST", "1");
-    Metti("Panels/Base.EST", "2");
-    Metti("Panels/BASE.EST", "3");
-    EXPECT_EQ(s.albero.Host("Panels\\base.EST"), Host("Panels/base.EST"));
-    EXPECT_EQ(s.albero.Host("Panels\\Base.EST"), Host("Panels/Base.EST"));
-    EXPECT_EQ(s.albero.Host("Panels\\bAse.EST"), Host("Panels/BASE.EST"));
+    for (const char* nome : {"base", "Base", "BASE"})
+        Metti("Panels/" + std::string(nome) + ".EST", "");
+    for (const auto& [chiesto, trovato] :
+         {std::pair{"base", "base"}, {"Base", "Base"}, {"bAse", "BASE"}})
+        EXPECT_EQ(s.albero.Host("Panels\\" + std::string(chiesto) + ".EST"),
+                  Host("Panels/" + std::string(trovato) + ".EST"));
 }
 
 TEST_F(AlberoDatiTest, ANewFileKeepsTheCaseThatWasAskedFor) {
     fs::create_directories(Host("PANELS"));
-    const std::vector<uint8_t> dati = {1, 2, 3};
-    ASSERT_TRUE(s.albero.Salva("Panels\\MyPanel.eam", dati));
-    EXPECT_EQ(Nomi("PANELS"), std::vector<std::string>{"MyPanel.eam"});
-    ASSERT_TRUE(s.albero.Salva("panels\\MYPANEL.EAM", dati));
-    EXPECT_EQ(Nomi("PANELS"), std::vector<std::string>{"MyPanel.eam"}) << "one file, not two";
+    for (const char* nome : {"Panels\\MyPanel.eam", "panels\\MYPANEL.EAM"}) {
+        ASSERT_TRUE(s.albero.Salva(nome, std::vector<uint8_t>{1, 2, 3}));
+        EXPECT_EQ(Nomi("PANELS"), std::vector<std::string>{"MyPanel.eam"}) << "one, not two";
+    }
     s.albero.AssicuraCartella("panels\\Sub\\Deep\\");
     EXPECT_TRUE(fs::is_directory(Host("PANELS/Sub/Deep")));
 }
@@ -79,27 +74,19 @@ TEST_F(AlberoDatiTest, PathsBehindTheRootCountAsRelative) {
 TEST_F(AlberoDatiTest, PathsThatLeadElsewhereAreRefused) {
     fs::create_directories(Host("Sweep"));
     Metti("secret", "s");
-    const std::string fuori = cartella.Percorso().parent_path().string();
-    const std::string vietati[] = {"..\\secret",
-                                   "Sweep\\..\\secret",
-                                   "Sweep/../secret",
-                                   "Sweep\\.. \\secret",
-                                   "\\etc\\passwd",
-                                   "/etc/passwd",
-                                   "C:\\Windows\\x.ini",
-                                   "C:secret",
-                                   s.albero.DataRoot() + "..\\secret",
-                                   cartella.Percorso().string() + "-other/secret",
-                                   fuori,
-                                   std::string("secret\0.KSH", 11)};
-    for (const std::string& percorso : vietati) {
+    for (const std::string& percorso :
+         {std::string("..\\secret"), std::string("Sweep\\..\\secret"),
+          std::string("Sweep/../secret"), std::string("Sweep\\.. \\secret"),
+          std::string("\\etc\\passwd"), std::string("/etc/passwd"),
+          std::string("C:\\Windows\\x.ini"), std::string("C:secret"),
+          std::string("secret\0.KSH", 11), s.albero.DataRoot() + "..\\secret",
+          cartella.Percorso().string() + "-other/secret",
+          cartella.Percorso().parent_path().string()}) {
         SCOPED_TRACE(percorso);
-        EXPECT_FALSE(s.albero.Esiste(percorso));
-        EXPECT_FALSE(s.albero.EsisteCartella(percorso));
+        EXPECT_FALSE(s.albero.Esiste(percorso) || s.albero.EsisteCartella(percorso));
         EXPECT_FALSE(s.albero.Leggi(percorso).has_value());
         EXPECT_FALSE(s.albero.Salva(percorso, std::vector<uint8_t>{1}));
-        EXPECT_FALSE(s.albero.Copia("secret", percorso));
-        EXPECT_FALSE(s.albero.Copia(percorso, "copy"));
+        EXPECT_FALSE(s.albero.Copia("secret", percorso) || s.albero.Copia(percorso, "copy"));
         s.albero.AssicuraCartella(percorso);
         s.albero.Cancella(percorso);
         s.albero.CancellaCartella(percorso);
@@ -109,48 +96,30 @@ TEST_F(AlberoDatiTest, PathsThatLeadElsewhereAreRefused) {
 
 TEST_F(AlberoDatiTest, AFailedWriteLeavesTheOldFileAndNothingElse) {
     Metti("Panels/a.EAM", "old");
-    const std::vector<uint8_t> molti(5000, 'x');
-    {
-        const DiscoPieno pieno(1000);
-        EXPECT_FALSE(s.albero.Salva("Panels\\a.EAM", molti));
-        Metti("big", "source");
-        EXPECT_TRUE(s.albero.Copia("big", "Panels\\b.EAM"));
-    }
-    EXPECT_EQ(Prendi("Panels/a.EAM"), "old");
-    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{"a.EAM", "b.EAM"}));
+    Metti("Panels/d/inside", "i");
     Metti("big", std::string(5000, 'y'));
     {
         const DiscoPieno pieno(1000);
+        EXPECT_FALSE(s.albero.Salva("Panels\\a.EAM", std::vector<uint8_t>(5000, 'x')));
         EXPECT_FALSE(s.albero.Copia("big", "Panels\\a.EAM"));
     }
-    EXPECT_EQ(Prendi("Panels/a.EAM"), "old");
-    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{"a.EAM", "b.EAM"}));
-}
-
-TEST_F(AlberoDatiTest, ADirectoryIsNoTargetAndNoSource) {
-    Metti("Panels/a.EAM/inside", "i");
-    EXPECT_FALSE(s.albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{1}));
-    EXPECT_FALSE(s.albero.Leggi("Panels\\a.EAM").has_value());
-    EXPECT_FALSE(s.albero.Cancella("Panels\\a.EAM"));
+    EXPECT_FALSE(s.albero.Salva("Panels\\d", std::vector<uint8_t>{1})) << "a directory";
+    EXPECT_FALSE(s.albero.Cancella("Panels\\d") || s.albero.Leggi("Panels\\d"));
     EXPECT_FALSE(s.albero.Salva("Missing\\a.EAM", std::vector<uint8_t>{1}));
-    EXPECT_EQ(Prendi("Panels/a.EAM/inside"), "i");
-    EXPECT_EQ(Nomi("Panels"), std::vector<std::string>{"a.EAM"});
+    EXPECT_EQ(Prendi("Panels/a.EAM") + Prendi("Panels/d/inside"), "oldi");
+    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{"a.EAM", "d"}));
+    EXPECT_EQ(s.albero.Leggi("big", 4)->size(), 4u);
 }
 
-TEST_F(AlberoDatiTest, AForeignTemporaryFileIsPassedOver) {
+TEST_F(AlberoDatiTest, OfForeignTemporaryFilesOnlyThoseOfACrashAreClearedAway) {
     Metti("Panels/.salva-0", "of another console");
+    Metti("Panels/.salva-1", "an hour old");
+    fs::last_write_time(Host("Panels/.salva-1"),
+                        fs::file_time_type::clock::now() - std::chrono::minutes(61));
     ASSERT_TRUE(s.albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n'}));
     EXPECT_EQ(Prendi("Panels/.salva-0"), "of another console");
+    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{".salva-0", "a.EAM"}));
     EXPECT_EQ(s.albero.ElencaFile("Panels", ""), std::vector<std::string>{"a.EAM"});
-}
-
-TEST_F(AlberoDatiTest, ReadsNoMoreThanAskedFor) {
-    Metti("f", "abcdef");
-    Metti("empty", "");
-    EXPECT_EQ(s.albero.Leggi("f", 4)->size(), 4u);
-    EXPECT_EQ(s.albero.Leggi("f", 100)->size(), 6u);
-    EXPECT_TRUE(s.albero.Leggi("empty")->empty());
-    EXPECT_FALSE(s.albero.Leggi("none").has_value());
 }
 
 TEST_F(AlberoDatiTest, ListsAreSortedWithoutRegardToCase) {
@@ -178,29 +147,23 @@ TEST_F(AlberoDatiTest, RemovesFilesAndDirectoriesButNeverTheRoot) {
 }
 
 TEST_F(AlberoDatiTest, AFileIsOnTheDiskBeforeItTakesItsName) {
+    using Passi = std::vector<std::string>;
     Metti("Panels/a.EAM", "old");
-    std::vector<std::string> passi;
+    Passi passi;
     const AlberoDati albero(cartella.Percorso(), [&](const fs::path& cosa) {
-        const bool file = fs::is_regular_file(cosa);
-        passi.push_back((file ? "file " + std::to_string(fs::file_size(cosa))
-                              : "directory " + cosa.filename().string()) +
-                        ", target " + Prendi("Panels/a.EAM"));
+        passi.push_back((fs::is_regular_file(cosa) ? std::to_string(fs::file_size(cosa))
+                                                   : cosa.filename().string()) +
+                        " " + Prendi("Panels/a.EAM"));
         return true;
     });
     ASSERT_TRUE(albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n', 'e', 'w'}));
-    EXPECT_EQ(passi,
-              (std::vector<std::string>{"file 3, target old", "directory Panels, target new"}));
-    passi.clear();
+    EXPECT_EQ(passi, (Passi{"3 old", "Panels new"}));
     ASSERT_TRUE(albero.Copia("Panels\\a.EAM", "Panels\\b.EAM"));
-    EXPECT_EQ(passi.size(), 2u);
+    EXPECT_EQ(passi.size(), 4u);
     passi.clear();
     albero.AssicuraCartella("x\\y");
-    EXPECT_EQ(passi, (std::vector<std::string>{
-                         "directory x, target new",
-                         "directory " + cartella.Percorso().filename().string() + ", target new"}));
-    passi.clear();
-    albero.AssicuraCartella("x\\y");
-    EXPECT_TRUE(passi.empty());
+    albero.AssicuraCartella("x\\y"); // there already
+    EXPECT_EQ(passi, (Passi{"x new", cartella.Percorso().filename().string() + " new"}));
 }
 
 TEST_F(AlberoDatiTest, WhatCannotBeMadeToLastDoesNotReplaceTheOld) {
@@ -212,41 +175,20 @@ TEST_F(AlberoDatiTest, WhatCannotBeMadeToLastDoesNotReplaceTheOld) {
     EXPECT_EQ(Nomi("Panels"), std::vector<std::string>{"a.EAM"});
 }
 
-TEST_F(AlberoDatiTest, WhatACrashLeftBehindIsClearedAwayInTime) {
-    Metti("Panels/.salva-0", "an hour old");
-    Metti("Panels/.salva-1", "of now");
-    fs::last_write_time(Host("Panels/.salva-0"),
-                        fs::file_time_type::clock::now() - std::chrono::minutes(61));
-    ASSERT_TRUE(s.albero.Salva("Panels\\a.EAM", std::vector<uint8_t>{'n'}));
-    EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{".salva-1", "a.EAM"}));
-}
-
 TEST_F(AlberoDatiTest, ARenameTakesNothingsPlace) {
-    Metti("Sweep/a/x", "a");
-    Metti("Sweep/B/x", "b");
-    Metti("f", "f");
-    EXPECT_FALSE(s.albero.Rinomina("Sweep\\a", "Sweep\\b")) << "there in another case";
-    EXPECT_FALSE(s.albero.Rinomina("f", "Sweep\\a\\X"));
-    EXPECT_FALSE(s.albero.Rinomina("absent", "c"));
-    EXPECT_FALSE(s.albero.Rinomina("f", "..\\f"));
-    EXPECT_FALSE(s.albero.Rinomina("", "c"));
-    EXPECT_EQ(Prendi("Sweep/a/x") + Prendi("Sweep/B/x") + Prendi("f"), "abf");
+    for (const char* file : {"Sweep/a/x", "Sweep/B/x", "f"})
+        Metti(file, file);
+    for (const auto& [da, a] : {std::pair{"Sweep\\a", "Sweep\\b"}, // there in another case
+                                {"f", "Sweep\\a\\X"},
+                                {"absent", "c"},
+                                {"f", "..\\f"},
+                                {"", "c"}})
+        EXPECT_FALSE(s.albero.Rinomina(da, a)) << da;
+    EXPECT_EQ(Prendi("Sweep/a/x") + Prendi("Sweep/B/x") + Prendi("f"), "Sweep/a/xSweep/B/xf");
     EXPECT_TRUE(s.albero.Rinomina("SWEEP\\A\\", "Sweep\\New Name\\"));
     EXPECT_EQ(Nomi("Sweep"), (std::vector<std::string>{"B", "New Name"}));
     EXPECT_TRUE(s.albero.CancellaCartellaVuota("absent"));
-    EXPECT_FALSE(s.albero.CancellaCartellaVuota("Sweep\\b"));
-    EXPECT_FALSE(s.albero.CancellaCartellaVuota("f"));
-}
-
-TEST_F(AlberoDatiTest, EveryDirectoryOfTheTreeIsMadeOnDemand) {
-    for (const std::string_view nome : orvane::cartella::kTutte) {
-        EXPECT_TRUE(nome.ends_with('\\'));
-        s.albero.AssicuraCartella(nome);
-        EXPECT_TRUE(s.albero.EsisteCartella(nome)) << nome;
-    }
-    EXPECT_EQ(Nomi(""),
-              (std::vector<std::string>{"Analyzer", "Click", "Factors", "Limits", "Mast-Table",
-                                        "Panels", "Report", "Sweep", "TMP", "Table", "Waterfall"}));
+    EXPECT_FALSE(s.albero.CancellaCartellaVuota("Sweep\\b") || s.albero.CancellaCartellaVuota("f"));
 }
 
 TEST(NomiDiscoTest, TableNamesStayInTheirDirectory) {

@@ -18,27 +18,18 @@ struct CancellazioniTest : ProvaDati {
     }
 };
 
-TEST_F(CancellazioniTest, AMeasureGoesOnlyOnTheUsersWord) {
+TEST_F(CancellazioniTest, AMeasureGoesOnlyOnTheUsersWordAndTheLastLeavesAnEmptyArchive) {
     Misura("m");
     Misura("n");
     s.env.SweepPath = "Sweep\\m\\m.KSH";
     EXPECT_FALSE(CancellaMisura(s, "m"));
-    ASSERT_EQ(ambiente.riquadri.size(), 1u);
-    EXPECT_EQ(ambiente.riquadri[0].pulsanti, Pulsanti::OkAnnulla);
     EXPECT_EQ(Riquadro(), "Are you sure you want to delete m ?");
     EXPECT_TRUE(fs::exists(Host("Sweep/m/x.KSH")));
-    ambiente.risposte = {Risposta::Ok};
+    ambiente.risposte = {Risposta::Ok, Risposta::Ok};
     EXPECT_TRUE(CancellaMisura(s, "m"));
     EXPECT_EQ(Nomi("Sweep"), std::vector<std::string>{"n"});
     EXPECT_EQ(s.env.SweepPath, "Sweep\\m\\m.KSH") << "another measure is left";
-    EXPECT_FALSE(s.albero.Esiste(kPannelloEPN));
-}
-
-TEST_F(CancellazioniTest, TheLastMeasureLeavesAnEmptyArchive) {
-    Misura("m");
-    ambiente.risposte = {Risposta::Ok};
-    EXPECT_TRUE(CancellaMisura(s, "M"));
-    EXPECT_EQ(s.env.SweepPath, "Untitled.EST");
+    EXPECT_TRUE(CancellaMisura(s, "N"));
     EnvRecord letto;
     ASSERT_TRUE(LeggiRecord(*s.albero.Leggi(kPannelloEPN), letto));
     EXPECT_EQ(letto.SweepPath, "Untitled.EST");
@@ -70,10 +61,7 @@ TEST_F(CancellazioniTest, WhatIsInUseCannotBeDeleted) {
     s.setup.FactorName[6] = "F";
     s.env.ScanPanelPath = "Panels\\Base.EST";
     s.env.SetupPanelPath = "Panels\\Mine.EAM";
-    struct {
-        const char* percorso;
-        bool inUso;
-    } const casi[] = {
+    const std::pair<const char*, bool> casi[] = {
         {"Limits\\a.5SL", true},        {"Limits\\B.5sl", true},  {"Limits\\C.5SL", false},
         {"Limits\\D.5SL", true},        {"Limits\\F.5SL", false}, {"Factors\\f.5SC", true},
         {"Factors\\A.5SC", false},      {"Table\\FT.5SF", true},  {"Table\\A.5SF", false},
@@ -81,26 +69,15 @@ TEST_F(CancellazioniTest, WhatIsInUseCannotBeDeleted) {
         {"Panels\\Untitled.EAM", true}, {"Panels\\x.EAM", false}, {"Mast-Table\\A.FTM", false},
         {"Panels\\Untitled.EPN", true}, {"Panels\\x.DPT", false},
     };
-    for (const auto& caso : casi) {
-        SCOPED_TRACE(caso.percorso);
-        Metti(Sostituisci(caso.percorso, "\\", "/"), "");
-        ambiente.riquadri.clear();
+    for (const auto& [percorso, inUso] : casi) {
+        SCOPED_TRACE(percorso);
+        Metti(Sostituisci(percorso, "\\", "/"), "");
+        EXPECT_FALSE(CancellaTabella(s, scan, percorso)) << "not without the user's word";
         ambiente.risposte = {Risposta::Ok};
-        EXPECT_EQ(CancellaTabella(s, scan, caso.percorso), !caso.inUso);
-        EXPECT_EQ(s.albero.Esiste(caso.percorso), caso.inUso);
-        EXPECT_EQ(ambiente.riquadri.back().testo == "Cannot be deleted", caso.inUso);
+        EXPECT_EQ(CancellaTabella(s, scan, percorso), !inUso);
+        EXPECT_EQ(s.albero.Esiste(percorso), inUso);
+        EXPECT_EQ(ambiente.riquadri.back().testo == "Cannot be deleted", inUso);
     }
-}
-
-TEST_F(CancellazioniTest, ATableStaysWithoutTheUsersWordAndADirectoryIsNone) {
-    Metti("Limits/a.5SL", "");
-    Metti("Limits/d.5SL/inside", "");
-    EXPECT_FALSE(CancellaTabella(s, {}, "Limits\\a.5SL"));
-    EXPECT_EQ(Riquadro(), "Are you sure you want to delete a ?");
-    EXPECT_TRUE(s.albero.Esiste("Limits\\a.5SL"));
-    ambiente.risposte = {Risposta::Ok};
-    EXPECT_FALSE(CancellaTabella(s, {}, "Limits\\d.5SL"));
-    EXPECT_EQ(ambiente.riquadri.back().testo, "Cannot be deleted");
 }
 
 } // namespace

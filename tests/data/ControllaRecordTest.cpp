@@ -29,74 +29,57 @@ EnvRecord EnvBuono() {
 }
 
 TEST(ControllaParStandTest, ColoursAreValidOrTheFactoryOnes) {
-    struct {
-        int32_t da;
-        int32_t a;
-    } const casi[] = {{0, 0},
-                      {-5, 5},
-                      {Rgb(255, 255, 255), Rgb(255, 255, 255)},
-                      {-Rgb(255, 255, 255), Rgb(255, 255, 255)},
-                      {Rgb(255, 255, 255) + 1, kColoriDefault[20]},
-                      {-Rgb(255, 255, 255) - 1, kColoriDefault[20]},
-                      {std::numeric_limits<int32_t>::max(), kColoriDefault[20]},
-                      {kMinimo32, kColoriDefault[20]}};
-    for (const auto& caso : casi) {
+    constexpr int32_t kBianco = 0xFFFFFF;
+    const int32_t fabbrica = kColoriDefault[20];
+    const std::pair<int32_t, int32_t> casi[] = {{0, 0},
+                                                {-5, 5},
+                                                {kBianco, kBianco},
+                                                {-kBianco, kBianco},
+                                                {kBianco + 1, fabbrica},
+                                                {-kBianco - 1, fabbrica},
+                                                {kMinimo32, fabbrica}};
+    for (const auto& [da, a] : casi) {
         EnvRecord env = EnvBuono();
-        env.GraphColors[20] = caso.da;
-        EXPECT_EQ(ControllaParStand(env), caso.da != caso.a) << caso.da;
-        EXPECT_EQ(env.GraphColors[20], caso.a) << caso.da;
+        env.GraphColors[20] = da;
+        EXPECT_EQ(ControllaParStand(env), da != a) << da;
+        EXPECT_EQ(env.GraphColors[20], a) << da;
     }
 }
 
 TEST(ControllaParStandTest, IntegersAreAbsoluteAndInRange) {
-    struct {
-        int16_t EnvRecord::*campo;
-        int16_t da;
-        int16_t a;
-    } const casi[] = {{&EnvRecord::LinkKind, -1, 1},
-                      {&EnvRecord::LinkKind, 7, 1},
-                      {&EnvRecord::LinkKind, kMinimo16, 1},
-                      {&EnvRecord::LinkPort, 0, 1},
-                      {&EnvRecord::LinkPort, -3, 3},
-                      {&EnvRecord::LinkPort, 256, 256},
-                      {&EnvRecord::LinkPort, 257, 256},
-                      {&EnvRecord::AutoStart, 9, 1},
-                      {&EnvRecord::ExportMode, kMinimo16, 32767},
-                      {&EnvRecord::ReportMode2, -4, 4}};
-    for (const auto& caso : casi) {
-        EnvRecord env = EnvBuono();
-        env.*caso.campo = caso.da;
-        EXPECT_EQ(ControllaParStand(env), caso.da != caso.a) << caso.da;
-        EXPECT_EQ(env.*caso.campo, caso.a) << caso.da;
+    using E = EnvRecord;
+    const std::tuple<int16_t E::*, int16_t, int16_t> casi[] = {
+        {&E::LinkKind, -1, 1},    {&E::LinkKind, 7, 1},  {&E::LinkKind, kMinimo16, 1},
+        {&E::LinkPort, 0, 1},     {&E::LinkPort, -3, 3}, {&E::LinkPort, 256, 256},
+        {&E::LinkPort, 257, 256}, {&E::AutoStart, 9, 1}, {&E::ExportMode, kMinimo16, 32767},
+        {&E::ReportMode2, -4, 4}};
+    for (const auto& [campo, da, a] : casi) {
+        E env = EnvBuono();
+        env.*campo = da;
+        EXPECT_EQ(ControllaParStand(env), da != a) << da;
+        EXPECT_EQ(env.*campo, a) << da;
     }
 }
 
 TEST(ControllaParStandTest, OffsetsKeepTheirOddRanges) {
-    struct {
-        float da;
-        float report;
-        float scala0;
-        float scala1;
-    } const casi[] = {{0, 0, 0, 2},
-                      {2, 2, 2, 2},
-                      {1.9f, 1.9f, 1.9f, 2},
-                      {255, 255, 255, 255},
-                      {255.5f, 255.5f, 255.5f, 400},
-                      {400, 400, 327, 400},
-                      {1000, 999, 327, 400},
-                      {-1000, -999, -327, 2},
-                      {kNan, 0, 0, 400},
-                      {kInf, 0, 0, 400},
-                      {-kInf, 0, 0, 400}};
-    for (const auto& caso : casi) {
+    const std::array<float, 4> casi[] = {{0, 0, 0, 2},
+                                         {2, 2, 2, 2},
+                                         {1.9f, 1.9f, 1.9f, 2},
+                                         {255, 255, 255, 255},
+                                         {255.5f, 255.5f, 255.5f, 400},
+                                         {400, 400, 327, 400},
+                                         {1000, 999, 327, 400},
+                                         {-1000, -999, -327, 2},
+                                         {kNan, 0, 0, 400},
+                                         {-kInf, 0, 0, 400}};
+    for (const auto& [da, report, scala0, scala1] : casi) {
         EnvRecord env = EnvBuono();
-        env.ReportValue = caso.da;
-        env.WaterfallScale = {caso.da, caso.da};
+        env.ReportValue = da;
+        env.WaterfallScale = {da, da};
         ControllaParStand(env);
-        EXPECT_EQ(env.ReportValue, caso.report) << caso.da;
-        EXPECT_EQ(env.WaterfallScale[0], caso.scala0) << caso.da;
-        EXPECT_EQ(env.WaterfallScale[1], caso.scala1) << caso.da;
-        EXPECT_FALSE(ControllaParStand(env)) << caso.da;
+        EXPECT_EQ(env.ReportValue, report) << da;
+        EXPECT_EQ(env.WaterfallScale, (std::array{scala0, scala1})) << da;
+        EXPECT_FALSE(ControllaParStand(env)) << da;
     }
 }
 
@@ -108,9 +91,8 @@ TEST(ControllaParStandTest, PathsWithoutAProperNameBecomeUntitled) {
         EnvRecord env = EnvBuono();
         env.SetupPanelPath = env.ScanPanelPath = env.SweepPath = cattivo;
         EXPECT_TRUE(ControllaParStand(env)) << cattivo;
-        EXPECT_EQ(env.SetupPanelPath, kPannelloEAM) << cattivo;
-        EXPECT_EQ(env.ScanPanelPath, kPannelloEST) << cattivo;
-        EXPECT_EQ(env.SweepPath, kSweepUntitled) << cattivo;
+        EXPECT_EQ(std::tie(env.SetupPanelPath, env.ScanPanelPath, env.SweepPath),
+                  std::tie(kPannelloEAM, kPannelloEST, kSweepUntitled));
     }
     EnvRecord env = EnvBuono();
     env.SweepPath = "D:\\Data\\Sweep\\Motor 1\\Motor 1.KSH";
@@ -123,72 +105,61 @@ TEST(ControllaSetupTest, IndicesFlagsAndNumbers) {
     r.TableUnitId = -1;
     r.DinamicaId = 7;
     r.MinAtt = 6;
-    r.LimitOn[3] = 99;
+    r.LimitOn[3] = r.OverwriteWarning = 99;
     r.FactorOn[6] = -1;
-    r.OverwriteWarning = 99;
     r.ManualLevel = kNan;
-    r.TGLevel = -std::numeric_limits<double>::infinity();
+    r.TGLevel = -kInf;
     r.RefLevel = -20;
     r.Riserva3010.fill(0xFF);
     const auto riserva = r.Riserva3010;
     EXPECT_TRUE(ControllaSetup(r));
-    EXPECT_EQ(r.UnitId, 7);
-    EXPECT_EQ(r.TableUnitId, 0);
-    EXPECT_EQ(r.DinamicaId, 6);
-    EXPECT_EQ(r.MinAtt, 5);
-    EXPECT_EQ(r.LimitOn[3], 1);
+    EXPECT_EQ((std::array{r.UnitId, r.TableUnitId, r.DinamicaId, r.MinAtt, r.LimitOn[3]}),
+              (std::array<int16_t, 5>{7, 0, 6, 5, 1}));
     EXPECT_EQ(r.FactorOn[6], -1) << "minus one is true as well";
-    EXPECT_EQ(r.OverwriteWarning, -1);
-    EXPECT_EQ(r.ManualLevel, 0);
-    EXPECT_EQ(r.TGLevel, 0);
-    EXPECT_EQ(r.RefLevel, -20);
+    EXPECT_EQ((std::array<double, 4>{double(r.OverwriteWarning), r.ManualLevel, r.TGLevel,
+                                     double(r.RefLevel)}),
+              (std::array<double, 4>{-1, 0, 0, -20}));
     EXPECT_EQ(r.Riserva3010, riserva);
     EXPECT_FALSE(ControllaSetup(r));
 }
 
 TEST(ControllaSetupTest, TheAxisIsFiniteAndInOrder) {
-    struct {
-        double start, stop, attesoStart, attesoStop;
-    } const casi[] = {{0.15, 30, 0.15, 30}, {30, 0.15, 0.15, 30}, {0, 0, 0, 0},
-                      {kNan, 30, 0, 0},     {1, kInf, 0, 0},      {-1, 30, 0, 0}};
-    for (const auto& caso : casi) {
+    const std::array<double, 4> casi[] = {{0.15, 30, 0.15, 30}, {30, 0.15, 0.15, 30},
+                                          {0, 0, 0, 0},         {kNan, 30, 0, 0},
+                                          {1, kInf, 0, 0},      {-1, 30, 0, 0}};
+    for (const auto& [da, a, start, stop] : casi) {
         SetupRecord r;
-        r.GraphStart = caso.start;
-        r.GraphStop = caso.stop;
+        r.GraphStart = da;
+        r.GraphStop = a;
         ControllaSetup(r);
-        EXPECT_EQ(r.GraphStart, caso.attesoStart);
-        EXPECT_EQ(r.GraphStop, caso.attesoStop);
+        EXPECT_EQ(std::pair(r.GraphStart, r.GraphStop), std::pair(start, stop));
     }
 }
 
 TEST(ControllaScanTest, EveryFieldOfALine) {
     ScanRecord scan;
     ScanLine& r = scan.Righe[9];
-    r.Start = 0.15;
-    r.Stop = kNan;
-    r.Step = -1;
-    r.StepOriginal = kInf;
-    r.MinAtt = -3;
-    r.NumStepFT = 50;
-    r.Margin = -25;
-    r.HoldTime = 30001;
-    r.HoldTimeSD = kNan;
-    r.Smart = -1;
-    r.LineSwitch = {2, 0, -7, 1};
-    r.RbwId = 16;
+    r = {.Start = 0.15,
+         .Stop = kNan,
+         .Step = -1,
+         .MinAtt = -3,
+         .HoldTime = 30001,
+         .Margin = -25,
+         .LineSwitch = {2, 0, -7, 1},
+         .Smart = -1,
+         .RbwId = 16,
+         .NumStepFT = 50,
+         .HoldTimeSD = kNan,
+         .StepOriginal = kInf};
     scan.WorstMode = 3;
     scan.NumWorst = -8;
     EXPECT_TRUE(ControllaScan(scan));
-    EXPECT_EQ(r.Stop, 0);
-    EXPECT_EQ(r.Step, 0);
-    EXPECT_EQ(r.StepOriginal, 0);
-    EXPECT_EQ(r.MinAtt, 0);
-    EXPECT_EQ(r.NumStepFT, 49);
-    EXPECT_EQ(r.Margin, -19);
-    EXPECT_EQ(r.HoldTime, 30000);
-    EXPECT_EQ(r.HoldTimeSD, 0);
-    EXPECT_EQ(r.Smart, 1);
+    EXPECT_EQ(
+        (std::array<double, 8>{r.Stop, r.Step, r.StepOriginal, double(r.MinAtt),
+                               double(r.NumStepFT), double(r.Margin), r.HoldTime, r.HoldTimeSD}),
+        (std::array<double, 8>{0, 0, 0, 0, 49, -19, 30000, 0}));
     EXPECT_EQ(r.LineSwitch, (std::array<int16_t, 4>{1, 0, 1, 1}));
+    EXPECT_EQ(r.Smart, 1);
     EXPECT_EQ(r.RbwId, 15);
     EXPECT_EQ(r.Detector, (std::array<int16_t, 6>{1, 0, 0, 0, 0, 0}));
     EXPECT_EQ(scan.WorstMode, 0);
@@ -198,9 +169,7 @@ TEST(ControllaScanTest, EveryFieldOfALine) {
 
 TEST(ControllaScanTest, SeparatorsAreNoFiltersAndADetectorIsKept) {
     ScanRecord scan;
-    scan.Righe[0].Start = 1;
-    scan.Righe[0].RbwId = 4;
-    scan.Righe[0].Detector = {0, 0, 0, 0, 0, 5};
+    scan.Righe[0] = {.Start = 1, .Detector = {0, 0, 0, 0, 0, 5}, .RbwId = 4};
     scan.Righe[1].RbwId = 11;
     ControllaScan(scan);
     EXPECT_EQ(scan.Righe[0].RbwId, 3);

@@ -13,52 +13,29 @@ namespace fs = std::filesystem;
 
 using PanelsTest = ProvaDati;
 
-TEST_F(PanelsTest, TheFirstStartWritesTheDefaults) {
-    EXPECT_TRUE(CaricaPanelEPN(s, kPannelloEPN));
-    EXPECT_TRUE(CaricaPanelEAM(s, kPannelloEAM));
-    EXPECT_TRUE(CaricaPathPTH(s));
+TEST_F(PanelsTest, TheFirstStartWritesDefaultsThatPassTheirOwnChecks) {
+    ScanRecord scan;
+    scan.Righe[0].Start = 1;
+    EXPECT_TRUE(CaricaPanelEPN(s, kPannelloEPN) && CaricaPanelEAM(s, kPannelloEAM));
+    EXPECT_TRUE(CaricaPanelEST(s, "Panels\\new.EST", scan) && CaricaPathPTH(s));
     EXPECT_TRUE(ambiente.riquadri.empty());
-    EXPECT_EQ(fs::file_size(Host("Panels/Untitled.EPN")), 2096u);
-    EXPECT_EQ(fs::file_size(Host("Panels/Untitled.EAM")), 5094u);
-    EXPECT_EQ(fs::file_size(Host("Panels/Untitled.PTH")), 30000u);
+    for (const auto& [file, byte] : {std::pair{"Untitled.EPN", 2096u},
+                                     {"Untitled.EAM", 5094u},
+                                     {"Untitled.PTH", 30000u},
+                                     {"new.EST", 12676u}})
+        EXPECT_EQ(fs::file_size(Host("Panels") / file), byte);
     EXPECT_EQ(s.env.LinkKind, 1);
     EXPECT_EQ(s.env.LinkPort, 1);
-    EXPECT_EQ(s.env.ScanPanelPath, "Panels\\Untitled.EST");
-    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Untitled.EAM");
     EXPECT_EQ(s.env.SweepPath, "Sweep\\Untitled\\Untitled.KSH");
-    EXPECT_EQ(s.setup.OverwriteWarning, -1);
     EXPECT_EQ(s.setup.OrderForDate, -1);
     EXPECT_EQ(s.setup.CheckSweepArchiveSize, -1);
-    EXPECT_EQ(s.setup.GX2207FFTSwept, 0);
-    EXPECT_EQ(s.setup.GraphFlag, 1);
     EXPECT_EQ(s.setup.UnitId, 1);
-    EXPECT_EQ(s.setup.TableUnitId, 1);
     EXPECT_EQ(s.setup.InsLossRef, 2.0f);
+    EXPECT_EQ(scan.Righe[0].Start, 0) << "an absent table is written cleared";
     const std::string eam = Prendi("Panels/Untitled.EAM");
     EXPECT_EQ(eam.substr(3616, 6), std::string("\1\0\0\0\xFF\xFF", 6));
     EXPECT_EQ(eam.substr(4924), std::string(170, '\0'));
-}
-
-TEST_F(PanelsTest, TheDefaultsPassTheirOwnChecks) {
-    CaricaPanelEPN(s, kPannelloEPN);
-    EXPECT_FALSE(ControllaParStand(s.env));
-    SetupRecord setup = SetupDefault();
-    EXPECT_FALSE(ControllaSetup(setup));
-    ScanRecord scan;
-    EXPECT_FALSE(ControllaScan(scan));
-}
-
-TEST_F(PanelsTest, TheTraceColoursAreTheDocumentedOnes) {
-    ImpostaColoriDefault(s.env);
-    const auto& c = s.env.GraphColors;
-    const std::array<int32_t, 6> sei = {Rgb(244, 151, 23), Rgb(255, 0, 0), Rgb(0, 251, 0),
-                                        Rgb(255, 0, 128),  Rgb(0, 0, 255), Rgb(53, 57, 106)};
-    for (size_t i = 0; i < 6; ++i) {
-        EXPECT_EQ(c[colore::kTracce + i], sei[i]);
-        EXPECT_EQ(c[colore::kTracceSeconde + i], sei[i]);
-    }
-    EXPECT_EQ(c[colore::kTracceScure], Rgb(142, 85, 6));
-    EXPECT_EQ(Rgb(244, 151, 23), 0x1797F4) << "red in the low byte";
+    EXPECT_FALSE(ControllaParStand(s.env) || ControllaSetup(s.setup) || ControllaScan(scan));
 }
 
 TEST_F(PanelsTest, AFullFileComesBackByteForByte) {
@@ -96,7 +73,6 @@ TEST_F(PanelsTest, AFullFileComesBackByteForByte) {
 TEST_F(PanelsTest, AShortFileKeepsWhatWasReadAndSaysSo) {
     SetupRecord intero = SetupDefault();
     intero.GraphStop = 30;
-    intero.ManualLevel = 5;
     intero.UnitId = 3;
     const std::vector<uint8_t> byte = ScriviRecord(intero);
     Metti("Panels/Untitled.EAM", std::vector<uint8_t>(byte.begin(), byte.begin() + 900));
@@ -104,19 +80,7 @@ TEST_F(PanelsTest, AShortFileKeepsWhatWasReadAndSaysSo) {
     EXPECT_FALSE(CaricaPanelEAM(s, kPannelloEAM));
     EXPECT_EQ(Riquadro(), "Failed loading" + s.albero.DataRoot() + "Panels\\Untitled.EAM");
     EXPECT_EQ(s.setup.GraphStop, 30);
-    EXPECT_EQ(s.setup.ManualLevel, 5);
     EXPECT_EQ(s.setup.UnitId, 6) << "behind the end: as it was";
-}
-
-TEST_F(PanelsTest, ALongerFileIsReadAsFarAsTheRecordGoes) {
-    SetupRecord setup = SetupDefault();
-    setup.UnitId = 4;
-    std::vector<uint8_t> byte = ScriviRecord(setup);
-    byte.resize(byte.size() + 500, 0xEE);
-    Metti("Panels/Untitled.EAM", byte);
-    EXPECT_TRUE(CaricaPanelEAM(s, kPannelloEAM));
-    EXPECT_EQ(s.setup.UnitId, 4);
-    EXPECT_TRUE(ambiente.riquadri.empty());
 }
 
 TEST_F(PanelsTest, DamagedFilesLoadCheckSaveAndReloadEqual) {
@@ -146,68 +110,30 @@ TEST_F(PanelsTest, DamagedFilesLoadCheckSaveAndReloadEqual) {
 }
 
 TEST_F(PanelsTest, AFailedWriteShowsThePathAndLeavesTheOldFile) {
-    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
-    const std::string prima = Prendi("Panels/Untitled.EAM");
-    s.setup.UnitId = 5;
+    Metti("Panels/Untitled.EAM", "old");
+    fs::create_directories(Host("Panels/dir.EST"));
     {
         const DiscoPieno pieno(1000);
         EXPECT_FALSE(SalvaPanelEAM(s, kPannelloEAM));
     }
     EXPECT_EQ(Riquadro(), "Cannot open file " + s.albero.DataRoot() + "Panels\\Untitled.EAM");
-    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), prima);
-    fs::create_directories(Host("Panels/dir.EST"));
+    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), "old");
     EXPECT_FALSE(SalvaPanelEST(s, "Panels\\dir.EST", {}));
     EXPECT_EQ(Riquadro(), "Cannot open file " + s.albero.DataRoot() + "Panels\\dir.EST");
     EXPECT_EQ(Nomi("Panels"), (std::vector<std::string>{"Untitled.EAM", "dir.EST"}));
 }
 
-TEST_F(PanelsTest, NothingIsSavedWhileAMeasureIsViewed) {
-    ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
-    const std::string prima = Prendi("Panels/Untitled.EAM");
-    s.setup.UnitId = 5;
-    s.NoSaveSetup = true;
-    EXPECT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
-    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), prima);
-}
-
 TEST_F(PanelsTest, TheOlderManualLevelCountsWhereTheNewOneIsZero) {
-    struct {
-        float nuovo;
-        int16_t vecchio;
-        float atteso;
-    } const casi[] = {{0, 7, 7}, {0, -20, -20}, {3.5f, 7, 3.5f}, {0, 0, 0}};
-    for (const auto& caso : casi) {
+    const std::tuple<float, int16_t, float> casi[] = {{0, 7, 7}, {0, -20, -20}, {3.5f, 7, 3.5f}};
+    for (const auto& [nuovo, vecchio, atteso] : casi) {
         SetupRecord setup;
-        setup.ManualLevel = caso.nuovo;
-        setup.ManualOld = caso.vecchio;
+        setup.ManualLevel = nuovo;
+        setup.ManualOld = vecchio;
         Metti("Panels/m.EAM", ScriviRecord(setup));
         ASSERT_TRUE(CaricaPanelEAM(s, "Panels\\m.EAM"));
-        EXPECT_EQ(s.setup.ManualLevel, caso.atteso);
-        EXPECT_EQ(s.setup.ManualOld, caso.vecchio);
+        EXPECT_EQ(s.setup.ManualLevel, atteso);
+        EXPECT_EQ(s.setup.ManualOld, vecchio);
     }
-}
-
-TEST_F(PanelsTest, AnAbsentScanTableIsWrittenCleared) {
-    ScanRecord scan;
-    scan.Righe[0].Start = 1;
-    scan.ScanComment = "old";
-    EXPECT_TRUE(CaricaPanelEST(s, "Panels\\new.EST", scan));
-    EXPECT_EQ(scan.Righe[0].Start, 0);
-    EXPECT_EQ(scan.ScanComment, "");
-    EXPECT_EQ(fs::file_size(Host("Panels/new.EST")), 12676u);
-}
-
-TEST_F(PanelsTest, AColourSetLoadsTheWholeEnvironment) {
-    CaricaPanelEPN(s, kPannelloEPN);
-    EnvRecord altro = s.env;
-    altro.LinkPort = 9;
-    altro.GraphColors[0] = -Rgb(1, 2, 3);
-    altro.GraphColors[1] = 0x1000000;
-    Metti("Color.COL", ScriviRecord(altro));
-    ASSERT_TRUE(CaricaPanelEPN(s, "Color.COL"));
-    EXPECT_EQ(s.env.LinkPort, 9);
-    EXPECT_EQ(s.env.GraphColors[0], Rgb(1, 2, 3));
-    EXPECT_EQ(s.env.GraphColors[1], kColoriDefault[1]);
 }
 
 TEST_F(PanelsTest, ThePathsOfTheDialogsSurvive) {
@@ -227,79 +153,66 @@ TEST_F(PanelsTest, TheSetupLineIsTheLastOfItsFile) {
     s.RigaSetup = "before";
     LeggiDatiSetup(s);
     EXPECT_EQ(s.RigaSetup, "");
-    struct {
-        const char* file;
-        const char* riga;
-    } const casi[] = {{"", ""},
-                      {"one", "one"},
-                      {"one\r\ntwo\r\n", "two"},
-                      {"one\ntwo", "two"},
-                      {"one\ntwo\n\n", ""},
-                      {"one\r\n \xB5V\r\n", " \xC2\xB5V"},
-                      {"\n", ""},
-                      {"\r\n", ""}};
-    for (const auto& caso : casi) {
-        Metti("Orvane Console.DAT", std::string(caso.file));
+    const std::pair<std::string, const char*> casi[] = {{"", ""},
+                                                        {"one", "one"},
+                                                        {"one\r\ntwo\r\n", "two"},
+                                                        {"one\ntwo", "two"},
+                                                        {"one\ntwo\n\n", ""},
+                                                        {"one\r\n \xB5V\r\n", " \xC2\xB5V"},
+                                                        {"\r\n", ""}};
+    for (const auto& [file, riga] : casi) {
+        Metti("Orvane Console.DAT", file);
         LeggiDatiSetup(s);
-        EXPECT_EQ(s.RigaSetup, caso.riga) << caso.file;
+        EXPECT_EQ(s.RigaSetup, riga) << file;
     }
 }
 
-TEST_F(PanelsTest, AChosenPanelBecomesTheRunningOne) {
+TEST_F(PanelsTest, AChosenPanelBecomesTheRunningOneAndTheOtherWayRound) {
     s.setup.RefLevel = 7;
-    ASSERT_TRUE(SalvaPanelEAM(s, "Panels\\Mine.EAM"));
-    s.setup.RefLevel = 1;
-    ASSERT_TRUE(CaricaPannelloCome(s, "Panels\\Mine.EAM"));
-    EXPECT_EQ(s.setup.RefLevel, 7);
-    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), Prendi("Panels/Mine.EAM"));
-    EnvRecord env;
-    ASSERT_TRUE(LeggiRecord(*s.albero.Leggi(kPannelloEPN), env));
-    EXPECT_EQ(env.SetupPanelPath, "Panels\\Mine.EAM");
-}
-
-TEST_F(PanelsTest, APanelThatCannotBeReadLeavesTheRunningFile) {
-    s.env.SetupPanelPath = "Panels\\Old.EAM";
-    Metti("Panels/Untitled.EAM", "running");
-    Metti("Panels/Short.EAM", "short");
-    EXPECT_FALSE(CaricaPannelloCome(s, "Panels\\Short.EAM"));
-    EXPECT_EQ(Riquadro(), "Failed loading" + s.albero.DataRoot() + "Panels\\Short.EAM");
-    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), "running");
-    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Old.EAM");
-    EXPECT_FALSE(s.albero.Esiste(kPannelloEPN));
-}
-
-TEST_F(PanelsTest, ARunningPanelIsSavedUnderAChosenName) {
-    s.setup.RefLevel = 9;
     ASSERT_TRUE(SalvaPannelloCome(s, "Panels\\Mine.EAM"));
     EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Mine.EAM");
-    EXPECT_EQ(Nomi("Panels"),
-              (std::vector<std::string>{"Mine.EAM", "Untitled.EAM", "Untitled.EPN"}));
     EXPECT_EQ(Prendi("Panels/Mine.EAM"), Prendi("Panels/Untitled.EAM"));
+    ASSERT_TRUE(SalvaPanelEAM(s, "Panels\\Other.EAM"));
+    s.setup.RefLevel = 1;
+    ASSERT_TRUE(CaricaPannelloCome(s, "Panels\\Other.EAM"));
+    EXPECT_EQ(s.setup.RefLevel, 7);
+    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), Prendi("Panels/Other.EAM"));
+    // What cannot be read or written changes neither the running panel nor its name.
+    Metti("Panels/Short.EAM", "short");
     fs::create_directories(Host("Panels/Dir.EAM"));
+    EXPECT_FALSE(CaricaPannelloCome(s, "Panels\\Short.EAM"));
+    EXPECT_EQ(Riquadro(), "Failed loading" + s.albero.DataRoot() + "Panels\\Short.EAM");
     EXPECT_FALSE(SalvaPannelloCome(s, "Panels\\Dir.EAM"));
     EXPECT_EQ(Riquadro(), "Cannot open file " + s.albero.DataRoot() + "Panels\\Dir.EAM");
-    EXPECT_EQ(s.env.SetupPanelPath, "Panels\\Mine.EAM");
+    EXPECT_EQ(Prendi("Panels/Untitled.EAM"), Prendi("Panels/Other.EAM"));
+    EnvRecord env;
+    ASSERT_TRUE(LeggiRecord(*s.albero.Leggi(kPannelloEPN), env));
+    EXPECT_EQ(env.SetupPanelPath, "Panels\\Other.EAM");
 }
 
-TEST_F(PanelsTest, WhileAMeasureIsViewedNoPanelIsChosen) {
+TEST_F(PanelsTest, WhileAMeasureIsViewedNoPanelIsSavedOrChosen) {
     s.setup.RefLevel = 3;
     ASSERT_TRUE(SalvaPanelEAM(s, "Panels\\Mine.EAM"));
+    const std::string prima = Prendi("Panels/Mine.EAM");
     s.setup.RefLevel = 4;
     s.NoSaveSetup = true;
+    EXPECT_TRUE(SalvaPanelEAM(s, "Panels\\Mine.EAM"));
     EXPECT_FALSE(CaricaPannelloCome(s, "Panels\\Mine.EAM"));
     EXPECT_FALSE(SalvaPannelloCome(s, "Panels\\New.EAM"));
     EXPECT_EQ(s.setup.RefLevel, 4);
+    EXPECT_EQ(Prendi("Panels/Mine.EAM"), prima);
     EXPECT_EQ(Nomi("Panels"), std::vector<std::string>{"Mine.EAM"});
 }
 
 TEST_F(PanelsTest, AColourSetIsAWholeEnvironment) {
-    s.env.GraphColors[0] = Rgb(1, 2, 3);
+    EXPECT_EQ(Rgb(244, 151, 23), 0x1797F4) << "red in the low byte";
+    s.env.GraphColors = {-Rgb(1, 2, 3), 0x1000000};
     s.env.LinkPort = 5;
     ASSERT_TRUE(SalvaPanelEPN(s, kColoriCOL));
-    EXPECT_EQ(fs::file_size(Host("Color.COL")), 2096u);
     s.env = {};
     ASSERT_TRUE(CaricaPanelEPN(s, kColoriCOL));
     EXPECT_EQ(s.env.GraphColors[0], Rgb(1, 2, 3));
+    EXPECT_EQ(s.env.GraphColors[1], kColoriDefault[1]);
     EXPECT_EQ(s.env.LinkPort, 5) << "deliberately: the other settings come with it";
 }
 
@@ -312,16 +225,15 @@ TEST_F(PanelsTest, TablesAreTheSameWhenTheyMeasureTheSame) {
     b.GridCol = 2;
     b.Righe[0].StepOriginal = 0.1;
     EXPECT_TRUE(ConfrontaScanTab(a, b)) << "the selected cell and a run's mark are no change";
-    const std::array<std::function<void(ScanRecord&)>, 6> cambi = {[](ScanRecord& r) { r.Righe[0].PreAmp = 1; },
-                                                                   [](ScanRecord& r) { r.Righe[0].Start = 1.1; },
-                                                                   [](ScanRecord& r) { r.Righe[9].Prompt = "x"; },
-                                                                   [](ScanRecord& r) { r.WorstMode = 1; },
-                                                                   [](ScanRecord& r) { r.NumWorst = 3; },
-                                                                   [](ScanRecord& r) { r.ScanComment = "x"; }};
-    for (size_t i = 0; i < cambi.size(); ++i) {
+    using R = ScanRecord;
+    const std::function<void(R&)> cambi[] = {
+        [](R& r) { r.Righe[0].PreAmp = 1; },   [](R& r) { r.Righe[0].Start = 1.1; },
+        [](R& r) { r.Righe[9].Prompt = "x"; }, [](R& r) { r.WorstMode = 1; },
+        [](R& r) { r.NumWorst = 3; },          [](R& r) { r.ScanComment = "x"; }};
+    for (const auto& cambia : cambi) {
         b = a;
-        cambi[i](b);
-        EXPECT_FALSE(ConfrontaScanTab(a, b)) << i;
+        cambia(b);
+        EXPECT_FALSE(ConfrontaScanTab(a, b)) << &cambia - cambi;
     }
 }
 

@@ -44,16 +44,12 @@ struct CaricamentoTest : ::testing::Test {
 };
 
 TEST(TestoPunto, IsInKilohertzBelowOneGigahertz) {
-    struct Caso {
-        double mhz;
-        int16_t cent;
-        std::string testo;
-    };
-    for (const Caso& c : {Caso{0.15, 6600, "150e3;66"}, Caso{0.0000095, 1, "0.0095e3;0.01"},
-                          Caso{150.123, -4350, "150123e3;-43.5"}, Caso{999.9, 0, "999900e3;0"},
-                          Caso{1000, 1234, "1000e6;12.34"}, Caso{1234.5, 5400, "1234.5e6;54"},
-                          Caso{18000, 5400, "18000e6;54"}})
-        EXPECT_EQ(TestoPunto(HzDaMhz(c.mhz), c.cent), c.testo);
+    const std::tuple<double, int16_t, const char*> casi[] = {
+        {0.15, 6600, "150e3;66"},           {0.0000095, 1, "0.0095e3;0.01"},
+        {150.123, -4350, "150123e3;-43.5"}, {999.9, 0, "999900e3;0"},
+        {1000, 1234, "1000e6;12.34"},       {18000, 5400, "18000e6;54"}};
+    for (const auto& [mhz, cent, testo] : casi)
+        EXPECT_EQ(TestoPunto(HzDaMhz(mhz), cent), testo);
 }
 
 TEST_F(CaricamentoTest, ALimitGoesOutPointByPointAndIsClosedByItsName) {
@@ -72,64 +68,46 @@ TEST_F(CaricamentoTest, ALimitGoesOutPointByPointAndIsClosedByItsName) {
     EXPECT_EQ(slot.Freq[4], 1e9f) << "the editor's slot holds what was sent";
 }
 
-TEST_F(CaricamentoTest, AFactorHasItsOwnWords) {
-    EXPECT_EQ(Carica(TableKind::Fattore, "0.009;10\n30;-0.25\n", "LISN", 0),
-              EsitoCaricamento::Memorizzato);
-    EXPECT_EQ(banco.simulato.Comandi(),
-              (Testi{"#SCFW0,9e3;10*", "#SCFW1,30000e3;-0.25*", "#SCFE 1,LISN*"}));
-    EXPECT_EQ(Riquadri(), Testi{"Successfully stored as \r1 LISN Conversion Factor"});
-}
-
 TEST_F(CaricamentoTest, WhatIsRefusedSendsNothing) {
     std::string diciassette;
     for (int i = 1; i <= 17; ++i)
         diciassette += std::to_string(i) + ";1\n";
     const std::string pochi = "Too few factor frequencies\rMin 2 frequencies";
     const std::string lungo = "The name is too long!\rAnd it could be shortened on 5520";
-    struct Caso {
-        std::string testo;
-        std::string nome;
-        Testi riquadri;
-    };
-    for (const Caso& c :
-         {Caso{"", "LIM", {pochi}}, Caso{"1;1\n", "LIM", {pochi}},
-          Caso{"1;1\n1;2\n", "LIM", {pochi}},
-          Caso{"1;1\n1;2\n2;2\n", "LIM", {"First two frequencies must be different"}},
-          Caso{
-              "1;1\n1;2\n2;2\n", "ELEVEN CHAR", {lungo, "First two frequencies must be different"}},
-          Caso{diciassette, "LIM", {"Too many frequencies\rMax 16 frequencies"}},
-          Caso{"1;1\n2;2\n", "A*B", {"File name not valid"}},
-          Caso{"1;1\n2;2\n", " ", {"File name not valid"}}}) {
+    const std::string uguali = "First two frequencies must be different";
+    const std::tuple<std::string, std::string, Testi> casi[] = {
+        {"", "LIM", {pochi}},
+        {"1;1\n1;2\n", "LIM", {pochi}},
+        {"1;1\n1;2\n2;2\n", "ELEVEN CHAR", {lungo, uguali}},
+        {diciassette, "LIM", {"Too many frequencies\rMax 16 frequencies"}},
+        {"1;1\n2;2\n", "A*B", {"File name not valid"}},
+        {"1;1\n2;2\n", " ", {"File name not valid"}},
+        {"1;1\n", "LIM", {pochi}}};
+    for (const auto& [testo, nome, riquadri] : casi) {
         banco.ambiente.riquadri.clear();
-        EXPECT_EQ(Carica(TableKind::Limite, c.testo, c.nome), EsitoCaricamento::Rifiutato);
-        EXPECT_EQ(Riquadri(), c.riquadri);
+        EXPECT_EQ(Carica(TableKind::Limite, testo, nome), EsitoCaricamento::Rifiutato);
+        EXPECT_EQ(Riquadri(), riquadri);
         EXPECT_TRUE(banco.simulato.Comandi().empty());
     }
-}
-
-TEST_F(CaricamentoTest, ASinglePointStandsTwiceInTheSlot) {
-    Carica(TableKind::Limite, "1;1\n");
-    EXPECT_EQ(slot.Freq[1], 1e6f);
+    EXPECT_EQ(slot.Freq[1], 1e6f) << "a single point stands twice in the slot";
     EXPECT_EQ(slot.Value[1], 100);
 }
 
-TEST_F(CaricamentoTest, ALongNameWarnsAndGoesOn) {
-    EXPECT_EQ(Carica(TableKind::Fattore, "1;1\n2;2\n", "ELEVEN CHAR"),
-              EsitoCaricamento::Memorizzato);
-    ASSERT_EQ(banco.ambiente.riquadri.size(), 2u);
-    EXPECT_EQ(banco.ambiente.riquadri[0].titolo, "Warning");
-    EXPECT_EQ(banco.simulato.Comandi().back(), "#SCFE 3,ELEVEN CHAR*");
-    EXPECT_EQ(Carica(TableKind::Fattore, "1;1\n2;2\n", "TEN CHARS!"),
-              EsitoCaricamento::Memorizzato);
-    EXPECT_EQ(banco.ambiente.riquadri.size(), 3u) << "ten characters are no warning";
-}
-
-TEST_F(CaricamentoTest, AFactorMayHaveMorePointsThanALimit) {
+TEST_F(CaricamentoTest, AFactorMayHaveMorePointsAndALongNameWarnsAndGoesOn) {
     std::string testo;
     for (int i = 1; i <= 201; ++i)
-        testo += std::to_string(i) + ";1\n";
-    EXPECT_EQ(Carica(TableKind::Fattore, testo), EsitoCaricamento::Memorizzato);
-    EXPECT_EQ(banco.simulato.Tabella("CFE", 3).size(), 202u);
+        testo += std::to_string(i) + ";-0.25\n";
+    for (const auto& [nome, riquadri] : {std::pair{"ELEVEN CHAR", 2u}, {"TEN CHAR \xC2\xB5", 1u}}) {
+        banco.ambiente.riquadri.clear();
+        banco.simulato.DimenticaComandi();
+        EXPECT_EQ(Carica(TableKind::Fattore, testo, nome, 0), EsitoCaricamento::Memorizzato);
+        EXPECT_EQ(banco.ambiente.riquadri.size(), riquadri) << nome;
+        EXPECT_EQ(Riquadri().back(),
+                  "Successfully stored as \r1 " + std::string(nome) + " Conversion Factor");
+        EXPECT_EQ(banco.simulato.Comandi().front(), "#SCFW0,1000e3;-0.25*");
+        EXPECT_EQ(banco.simulato.Comandi().back(), "#SCFE 1," + std::string(nome) + "*");
+        EXPECT_EQ(banco.simulato.Tabella("CFE", 1).size(), 202u);
+    }
 }
 
 TEST_F(CaricamentoTest, ALostReplyIsAskedForTwiceMore) {

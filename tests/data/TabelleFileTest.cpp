@@ -34,12 +34,11 @@ TEST_F(TabelleFileTest, TheFieldsLieWhereTheFormatSays) {
     const auto byte = ScriviRecord(Esempio());
     ASSERT_EQ(byte.size(), 1972u);
     EXPECT_EQ(LeggiLittle<uint32_t>(&byte[4]), std::bit_cast<uint32_t>(30e6f));
-    EXPECT_EQ(LeggiLittle<uint16_t>(&byte[808]), 6600);
-    EXPECT_EQ(static_cast<int16_t>(LeggiLittle<uint16_t>(&byte[810])), -5600);
-    EXPECT_EQ(LeggiLittle<uint16_t>(&byte[1210]), 7);
+    for (const auto& [posto, valore] :
+         {std::pair{808, 6600}, {810, -5600}, {1210, 7}, {1262, 1}, {1264, 4}})
+        EXPECT_EQ(static_cast<int16_t>(LeggiLittle<uint16_t>(&byte[static_cast<size_t>(posto)])),
+                  valore);
     EXPECT_EQ(std::string(byte.begin() + 1212, byte.begin() + 1228), "A title, 10 \xB5V  ");
-    EXPECT_EQ(LeggiLittle<uint16_t>(&byte[1262]), 1);
-    EXPECT_EQ(LeggiLittle<uint16_t>(&byte[1264]), 4);
     EXPECT_EQ(std::vector<uint8_t>(byte.begin() + 1266, byte.end()), std::vector<uint8_t>(706, 0));
 }
 
@@ -61,71 +60,56 @@ TEST_F(TabelleFileTest, ASavedTableLoadsAsItWas) {
 
 TEST_F(TabelleFileTest, TheEarlierFormatIsRewrittenAtTheFirstLoad) {
     Metti("Limits/Old.5SL", Vecchio());
-    TabelleLimFac t;
-    ASSERT_TRUE(CaricaLimFac(s, t, "Limits\\Old.5SL", 1));
     LimFacRecord atteso = Esempio();
-    atteso.LinFreq = 0;
+    atteso.LinFreq = atteso.LastSegment = 0;
     atteso.UnitId = 1;
-    atteso.LastSegment = 0;
     const auto byte = ScriviRecord(atteso);
-    EXPECT_EQ(Prendi("Limits/Old.5SL"), std::string(byte.begin(), byte.end()));
-    EXPECT_EQ(ScriviRecord(t.slot[1]), byte);
-    ASSERT_TRUE(CaricaLimFac(s, t, "Limits\\Old.5SL", 2));
-    EXPECT_EQ(ScriviRecord(t.slot[2]), byte);
-    EXPECT_TRUE(ambiente.riquadri.empty());
-}
-
-TEST_F(TabelleFileTest, AFailedRewriteLeavesTheOldFileAndLoadsAllTheSame) {
-    Metti("Limits/Old.5SL", Vecchio());
     TabelleLimFac t;
     {
         const DiscoPieno pieno(1000);
-        EXPECT_TRUE(CaricaLimFac(s, t, "Limits\\Old.5SL", 1));
+        EXPECT_TRUE(CaricaLimFac(s, t, "Limits\\Old.5SL", 1)) << "loaded all the same";
     }
     EXPECT_EQ(Riquadro(), "Cannot open file " + s.albero.DataRoot() + "Limits\\Old.5SL");
     EXPECT_EQ(Prendi("Limits/Old.5SL"), Vecchio());
     EXPECT_EQ(t.slot[1].Value[0], 6600);
+    for (const size_t slot : {1u, 2u}) {
+        ASSERT_TRUE(CaricaLimFac(s, t, "Limits\\Old.5SL", static_cast<int>(slot)));
+        EXPECT_EQ(Prendi("Limits/Old.5SL"), std::string(byte.begin(), byte.end()));
+        EXPECT_EQ(ScriviRecord(t.slot[slot]), byte);
+    }
     EXPECT_EQ(Nomi("Limits"), std::vector<std::string>{"Old.5SL"});
 }
 
 TEST_F(TabelleFileTest, OfAnotherLengthTheUserDecides) {
-    const std::string intero = [] {
-        const auto byte = ScriviRecord(Esempio());
-        return std::string(byte.begin(), byte.end());
-    }();
+    const auto record = ScriviRecord(Esempio());
+    const std::string intero(record.begin(), record.end());
+    TabelleLimFac t;
     for (const std::string& byte : {std::string(), intero.substr(0, 1971), intero + "x",
                                     intero.substr(0, 1261), std::string(100000, 'x')}) {
         Metti("Limits/X.5SL", byte);
-        TabelleLimFac t;
         t.slot[1] = Esempio();
         EXPECT_FALSE(CaricaLimFac(s, t, "Limits\\X.5SL", 1)) << byte.size();
-        ASSERT_EQ(ambiente.riquadri.size(), 1u) << byte.size();
-        EXPECT_EQ(ambiente.riquadri[0].titolo, "Loading " + s.albero.DataRoot() + "Limits\\X.5SL");
-        EXPECT_EQ(ambiente.riquadri[0].pulsanti, Pulsanti::SiNo);
+        EXPECT_EQ(ambiente.riquadri.back().titolo,
+                  "Loading " + s.albero.DataRoot() + "Limits\\X.5SL");
         EXPECT_EQ(Riquadro(), "This file is not as expected\rLOAD it Anyway ?");
         EXPECT_EQ(NumeroPunti(t.slot[1]), 0u) << "no other table under this name";
         EXPECT_EQ(Prendi("Limits/X.5SL"), byte);
     }
-}
-
-TEST_F(TabelleFileTest, AnywayLoadsAsFarAsTheFileGoes) {
-    const auto intero = ScriviRecord(Esempio());
-    Metti("Limits/X.5SL", std::vector<uint8_t>(intero.begin(), intero.begin() + 1000));
-    ambiente.risposte = {Risposta::Si};
-    TabelleLimFac t;
+    EXPECT_FALSE(CaricaLimFac(s, t, "Limits\\X.5SL", 1, LunghezzaErrata::Rifiuta));
+    EXPECT_EQ(Riquadro(), "This file is not as expected") << "where it may not be asked";
+    Metti("Limits/X.5SL", intero.substr(0, 1000));
+    ambiente.risposte = {Risposta::Si, Risposta::No, Risposta::Si};
     EXPECT_TRUE(CaricaLimFac(s, t, "Limits\\X.5SL", 1));
-    EXPECT_EQ(t.slot[1].Value[1], -5600);
+    EXPECT_EQ(t.slot[1].Value[1], -5600) << "as far as the file goes";
     EXPECT_EQ(t.slot[1].Title, "");
     EXPECT_EQ(t.slot[1].UnitId, 1);
-}
-
-TEST_F(TabelleFileTest, WhereItMayNotBeAskedTheLengthIsRefused) {
-    Metti("Factors/X.5SC", "short");
-    TabelleLimFac t;
-    EXPECT_FALSE(CaricaLimFac(s, t, "Factors\\X.5SC", 3, LunghezzaErrata::Rifiuta));
-    ASSERT_EQ(ambiente.riquadri.size(), 1u);
-    EXPECT_EQ(ambiente.riquadri[0].pulsanti, Pulsanti::Ok);
-    EXPECT_EQ(Riquadro(), "This file is not as expected");
+    Metti("Table/F.5SF", std::string(2828, '\0')); // the other kind's length
+    FrequencyTable f;
+    f.Elementi[0].Freq = 0.15;
+    EXPECT_FALSE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", f));
+    EXPECT_EQ(f.Elementi[0].Freq, 0.15) << "refused, the contents stay";
+    EXPECT_TRUE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", f));
+    EXPECT_EQ(f.Elementi[0].Freq, 0);
 }
 
 TEST_F(TabelleFileTest, NoneAndAbsentFilesLeaveTheSlotUnusedInSilence) {
@@ -149,14 +133,12 @@ TEST_F(TabelleFileTest, DamagedPointsAreRepairedInMemoryOnly) {
     const std::string prima = Prendi("Limits/Bad.5SL");
     TabelleLimFac t;
     ASSERT_TRUE(CaricaLimFac(s, t, "Limits\\Bad.5SL", 1));
-    const LimFacRecord& letto = t.slot[1];
-    ASSERT_EQ(NumeroPunti(letto), 4u);
-    for (size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(letto.Freq[i], (std::array{1e6f, 1e6f, 2e6f, 3e6f}[i]));
-        EXPECT_EQ(letto.Value[i], (std::array{1, 11, 2, 3}[i]));
-    }
-    EXPECT_EQ(letto.Freq[8], 0) << "behind the end there is no curve";
-    EXPECT_EQ(letto.UnitId, 1);
+    LimFacRecord atteso;
+    atteso.Freq = {1e6f, 1e6f, 2e6f, 3e6f}; // behind the end there is no curve
+    EXPECT_EQ(t.slot[1].Freq, atteso.Freq);
+    for (size_t i = 0; i < 4; ++i)
+        EXPECT_EQ(t.slot[1].Value[i], (std::array{1, 11, 2, 3}[i]));
+    EXPECT_EQ(t.slot[1].UnitId, 1);
     EXPECT_EQ(Prendi("Limits/Bad.5SL"), prima);
     EXPECT_EQ(s.avvisi.size(), 1u);
 }
@@ -210,40 +192,19 @@ TEST_F(TabelleFileTest, AnAbsentFrequencyTableIsMadeFromTheCurrentContents) {
               std::string("\0\0\0\0\0\0\x3E\x40\xFB\xFF\0\0\0\0\0\0\0\0\0\0", 20));
     EXPECT_EQ(Prendi("Mast-Table/F.FTM").substr(14, 14),
               std::string("\0\0\0\0\0\0\x3E\x40\xFB\xFF\xFF\xFF\0\0", 14));
-}
-
-TEST_F(TabelleFileTest, TheSimpleFormDropsThePositions) {
-    ASSERT_TRUE(SalvaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", Frequenze()));
-    ASSERT_TRUE(SalvaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", Frequenze()));
-    FrequencyTable semplice;
-    FrequencyTable conPosizioni;
-    ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", semplice));
-    ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", conPosizioni));
-    EXPECT_EQ(semplice.Elementi[0].Freq, 0.15);
-    EXPECT_EQ(semplice.Elementi[0].Level, 6612);
-    EXPECT_EQ(semplice.Elementi[0].Mast, kNessunaPosizione);
-    EXPECT_EQ(conPosizioni.Elementi[0].Mast, 150);
-    EXPECT_EQ(conPosizioni.Elementi[0].Table, 90);
-}
-
-TEST_F(TabelleFileTest, AFrequencyTableOfAnotherLengthIsAskedAbout) {
-    Metti("Table/F.5SF", std::string(2828, '\0')); // the other kind's length
-    FrequencyTable t = Frequenze();
-    EXPECT_FALSE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", t));
-    EXPECT_EQ(Riquadro(), "This file is not as expected\rLOAD it Anyway ?");
-    EXPECT_EQ(t.Elementi[0].Freq, 0.15) << "refused, the contents stay";
-    ambiente.risposte = {Risposta::Si};
-    EXPECT_TRUE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", t));
-    EXPECT_EQ(t.Elementi[0].Freq, 0);
+    FrequencyTable letta;
+    ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", letta));
+    EXPECT_EQ(letta.Elementi[0].Table, 90);
+    ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::Semplice, "Table\\F.5SF", letta));
+    EXPECT_EQ(letta.Elementi[0].Level, 6612);
+    EXPECT_EQ(letta.Elementi[0].Mast, kNessunaPosizione) << "dropped by the simple form";
 }
 
 TEST_F(TabelleFileTest, DamagedFrequenciesAreRepairedInMemoryOnly) {
     FrequencyTable t;
-    t.Elementi[0].Freq = 30;
-    t.Elementi[1].Freq = -1;
-    t.Elementi[2].Freq = NAN;
+    for (const auto& [i, freq] : {std::pair{0, 30.0}, {1, -1.0}, {2, double(NAN)}, {5, 3.0}})
+        t.Elementi[static_cast<size_t>(i)].Freq = freq;
     t.Elementi[3] = {.Freq = 1, .Level = 4, .Mast = 5, .Table = 6};
-    t.Elementi[5].Freq = 3;
     SalvaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", t);
     FrequencyTable letta;
     ASSERT_TRUE(CaricaFreqTab(s, FormaFreqTab::MastTable, "Mast-Table\\F.FTM", letta));

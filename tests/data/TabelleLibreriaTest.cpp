@@ -13,8 +13,6 @@
 namespace orvane::prova {
 namespace {
 
-using TabelleLibreriaTest = ProvaDati;
-
 /// A frequency in MHz with the level that the standard gives there, dB.
 struct Attesa {
     double mhz;
@@ -73,20 +71,6 @@ TEST(LibreriaLimiti, EachTableSuitsItsRecordAndTheReceiver) {
         EXPECT_EQ(limite.tabella.UnitId, radiato ? 4 : 1) << limite.nome;
         EXPECT_EQ(limite.tabella.LinFreq, 0);
     }
-}
-
-TEST_F(TabelleLibreriaTest, IsCopiedWithoutReplacingWhatIsThere) {
-    Metti("Limits/CISPR 15 MAINS qp.5sl", "the user's own");
-    const auto esiti = InstallaLibreria(s);
-    ASSERT_EQ(esiti.size(), kLibreria.size());
-    for (const EsitoLibreria& esito : esiti) {
-        EXPECT_EQ(esito.presente, esito.nome == "CISPR 15 mains QP");
-        EXPECT_NE(esito.presente, esito.scritto);
-    }
-    EXPECT_EQ(Prendi("Limits/CISPR 15 MAINS qp.5sl"), "the user's own");
-    EXPECT_EQ(Nomi("Limits").size(), kLibreria.size());
-    for (const EsitoLibreria& esito : InstallaLibreria(s))
-        EXPECT_TRUE(esito.presente);
 }
 
 } // namespace

@@ -46,10 +46,13 @@ TEST(ModificaTabella, ANewFrequencyGoesToItsPlace) {
     EXPECT_EQ(c.righe[1].livelloCent, 6600);
 }
 
-TEST(ModificaTabella, InALimitAFrequencyMayStandTwice) {
+TEST(ModificaTabella, InALimitAFrequencyMayStandTwiceElsewhereOnce) {
     ContenutoTabella c = TreRighe();
     EXPECT_EQ(Batti(c, "0.5", "46"), 2u) << "behind its equal, to make a step";
-    size_t riga = c.righe.size();
+    size_t riga = 1;
+    EXPECT_EQ(ScriviCella(c, riga, Frequenza, "0.50"), Fatta);
+    EXPECT_EQ(riga, 1u) << "the rows of a step keep their order";
+    riga = c.righe.size();
     EXPECT_EQ(ScriviCella(c, riga, Frequenza, "0.5"), TroppeUguali);
     EXPECT_EQ(c.righe.size(), 4u) << "a new row of which nothing is left goes";
     riga = 3;
@@ -57,54 +60,34 @@ TEST(ModificaTabella, InALimitAFrequencyMayStandTwice) {
     EXPECT_EQ(c.righe[3].freqMhz, std::nullopt) << "the cell is cleared, its level stays";
     EXPECT_EQ(c.righe[3].livelloCent, 6000);
     EXPECT_EQ(ControllaRigaCompFreqTab(c), 3u);
-}
-
-TEST(ModificaTabella, TheRowsOfAStepKeepTheirOrder) {
-    ContenutoTabella c = TreRighe();
-    Batti(c, "0.5", "46");
-    size_t riga = 1;
-    EXPECT_EQ(ScriviCella(c, riga, Frequenza, "0.50"), Fatta);
-    EXPECT_EQ(riga, 1u);
-    EXPECT_EQ(c.righe[1].livelloCent, 5650);
-}
-
-TEST(ModificaTabella, ElsewhereAFrequencyStandsOnce) {
-    for (const TableKind kind :
-         {TableKind::Fattore, TableKind::Frequenze, TableKind::FrequenzeMast}) {
-        ContenutoTabella c = TreRighe(kind);
-        size_t riga = c.righe.size();
-        EXPECT_EQ(ScriviCella(c, riga, Frequenza, "0.5"), GiaPresente);
-        EXPECT_EQ(c.righe.size(), 3u);
+    for (const TableKind kind : {TableKind::Fattore, TableKind::Frequenze}) {
+        ContenutoTabella altra = TreRighe(kind);
+        EXPECT_EQ(ScriviCella(altra, riga = 3, Frequenza, "0.5"), GiaPresente);
+        EXPECT_EQ(altra.righe.size(), 3u);
     }
+    RimuoviRighe(c, 1, 50);
+    RimuoviRighe(c, 9, 1);
+    EXPECT_EQ(Frequenze(c), std::vector<double>{0.15});
 }
 
 TEST(ModificaTabella, WhatTheFileCannotTellApartIsOneFrequency) {
-    ContenutoTabella fattore{.kind = TableKind::Fattore};
-    Batti(fattore, "1000", "1");
-    size_t riga = 1;
-    EXPECT_EQ(ScriviCella(fattore, riga, Frequenza, "1000.00001"), GiaPresente);
-    ContenutoTabella frequenze{.kind = TableKind::Frequenze};
-    Batti(frequenze, "1000", "1");
-    riga = 1;
-    EXPECT_EQ(ScriviCella(frequenze, riga, Frequenza, "1000.00001"), Fatta);
+    for (const auto& [kind, esito] :
+         {std::pair{TableKind::Fattore, GiaPresente}, {TableKind::Frequenze, Fatta}}) {
+        ContenutoTabella c{.kind = kind};
+        Batti(c, "1000", "1");
+        size_t riga = 1;
+        EXPECT_EQ(ScriviCella(c, riga, Frequenza, "1000.00001"), esito);
+    }
 }
 
 TEST(ModificaTabella, TextsThatAreNoValueChangeNothing) {
     ContenutoTabella c = TreRighe(TableKind::FrequenzeMast);
     const ContenutoTabella prima = c;
-    for (const auto& [colonna, testo] :
-         std::vector<std::pair<ColonnaTabella, std::string>>{{Frequenza, "x"},
-                                                             {Frequenza, "0"},
-                                                             {Frequenza, "-1"},
-                                                             {Frequenza, "inf"},
-                                                             {Frequenza, "1 2"},
-                                                             {Livello, "high"},
-                                                             {Livello, "327.68"},
-                                                             {Livello, "1e300"},
-                                                             {Mast, "1.5"},
-                                                             {Mast, "-1"},
-                                                             {Table, "1000"},
-                                                             {Table, "nan"}}) {
+    const std::pair<ColonnaTabella, const char*> casi[] = {
+        {Frequenza, "x"},   {Frequenza, "0"},  {Frequenza, "-1"},   {Frequenza, "inf"},
+        {Frequenza, "1 2"}, {Livello, "high"}, {Livello, "327.68"}, {Livello, "1e300"},
+        {Mast, "1.5"},      {Mast, "-1"},      {Table, "1000"},     {Table, "nan"}};
+    for (const auto& [colonna, testo] : casi) {
         size_t riga = 1;
         EXPECT_EQ(ScriviCella(c, riga, colonna, testo), NonValida) << testo;
         EXPECT_EQ(c, prima) << testo;
@@ -121,12 +104,11 @@ TEST(ModificaTabella, CellsShowTheirFormats) {
     ScriviCella(c, riga, Frequenza, "30,5");
     EXPECT_EQ(TestoCella(c, 0, Livello), ".00") << "no level is needed to list a frequency";
     EXPECT_EQ(TestoCella(c, 0, Mast), "---");
-    for (const auto& [testo, cella] :
-         std::vector<std::pair<std::string, std::string>>{{"0.5", ".50"},
-                                                          {"-0,25", "-.25"},
-                                                          {"66", "66.00"},
-                                                          {"-12.345", "-12.35"},
-                                                          {"-0.001", ".00"}}) {
+    for (const auto& [testo, cella] : {std::pair{"0.5", ".50"},
+                                       {"-0,25", "-.25"},
+                                       {"66", "66.00"},
+                                       {"-12.345", "-12.35"},
+                                       {"-0.001", ".00"}}) {
         ScriviCella(c, riga, Livello, testo);
         EXPECT_EQ(TestoCella(c, 0, Livello), cella);
     }
@@ -141,20 +123,13 @@ TEST(ModificaTabella, CellsShowTheirFormats) {
 }
 
 TEST(ModificaTabella, LevelsAreStoredWithoutTheOffsetOfTheirUnit) {
-    struct Caso {
-        int16_t unitId;
-        int16_t cent;
-    };
-    for (const Caso& caso : {Caso{0, 11700}, Caso{1, 1000}, Caso{2, 4400}, Caso{3, 2700},
-                             Caso{4, 1000}, Caso{5, 6150}, Caso{6, 5950}, Caso{7, 11700}}) {
-        ContenutoTabella c{.kind = TableKind::Limite, .unitId = caso.unitId};
+    const std::array<int16_t, 8> attesi = {11700, 1000, 4400, 2700, 1000, 6150, 5950, 11700};
+    for (size_t unita = 0; unita < attesi.size(); ++unita) {
+        ContenutoTabella c{.kind = TableKind::Limite, .unitId = static_cast<int16_t>(unita)};
         Batti(c, "1", "10");
-        EXPECT_EQ(c.righe[0].livelloCent, caso.cent) << caso.unitId;
+        EXPECT_EQ(c.righe[0].livelloCent, attesi[unita]) << unita;
         EXPECT_EQ(TestoCella(c, 0, Livello), "10.00");
     }
-    ContenutoTabella c = TreRighe();
-    c.unitId = 0;
-    EXPECT_EQ(TestoCella(c, 0, Livello), "-41.00") << "the same limit in another unit";
 }
 
 TEST(ModificaTabella, AClearedCellLeavesAnIncompleteRowThatIsNotSaved) {
@@ -171,10 +146,7 @@ TEST(ModificaTabella, AClearedCellLeavesAnIncompleteRowThatIsNotSaved) {
 
 TEST(ModificaTabella, FullIsWhatTheFileHolds) {
     for (const auto& [kind, capienza] :
-         std::vector<std::pair<TableKind, size_t>>{{TableKind::Limite, 201},
-                                                   {TableKind::Fattore, 201},
-                                                   {TableKind::Frequenze, 202},
-                                                   {TableKind::FrequenzeMast, 202}}) {
+         {std::pair{TableKind::Limite, 201u}, {TableKind::Frequenze, 202u}}) {
         ContenutoTabella c{.kind = kind};
         for (size_t i = 0; i < capienza; ++i)
             EXPECT_EQ(InserisciPunto(c, {.freqMhz = 1.0 + double(i), .livelloCent = int16_t{1}}),
@@ -187,38 +159,12 @@ TEST(ModificaTabella, FullIsWhatTheFileHolds) {
         AvvisaModifica(ambiente, Piena, kind);
         EXPECT_EQ(ambiente.riquadri[0].testo,
                   "Too many frequencies\rMax " + std::to_string(capienza) + " frequencies");
-        if (capienza == 202) {
-            EXPECT_EQ(DaFrequencyTable(InFrequencyTable(c), kind).righe.size(), 202u);
-        } else {
-            EXPECT_EQ(DaLimFac(InLimFac(c), kind), c);
-        }
+        const bool frequenze = capienza == 202;
+        EXPECT_EQ(
+            (frequenze ? DaFrequencyTable(InFrequencyTable(c), kind) : DaLimFac(InLimFac(c), kind))
+                .righe.size(),
+            capienza);
     }
-}
-
-TEST(ModificaTabella, OutcomesHaveTheirBoxes) {
-    AmbienteProva ambiente;
-    for (const EsitoModifica esito : {Fatta, NonValida, TroppeUguali, GiaPresente})
-        AvvisaModifica(ambiente, esito, TableKind::Limite);
-    std::vector<std::string> testi;
-    for (const Riquadro& riquadro : ambiente.riquadri)
-        testi.push_back(riquadro.testo);
-    EXPECT_EQ(testi,
-              (std::vector<std::string>{"Not valid value", "No more then two frequencies allowed",
-                                        "Frequency already present"}));
-}
-
-TEST(ModificaTabella, TitlesAndHeadings) {
-    EXPECT_EQ(TitoloFinestraTabella(TableKind::Limite), "Limits: ");
-    EXPECT_EQ(TitoloFinestraTabella(TableKind::Fattore), "Factors: ");
-    EXPECT_EQ(TitoloFinestraTabella(TableKind::Frequenze), "Frequency Table: ");
-    EXPECT_EQ(TitoloFinestraTabella(TableKind::FrequenzeMast), "Frequency Mast Table: ");
-    const ContenutoTabella limite{.kind = TableKind::Limite, .unitId = 6};
-    const ContenutoTabella mast{.kind = TableKind::FrequenzeMast, .unitId = 0};
-    EXPECT_EQ(TitoloColonnaTabella(limite, Frequenza), "Frequency MHz");
-    EXPECT_EQ(TitoloColonnaTabella(limite, Livello), "Level dBpT");
-    EXPECT_EQ(TitoloColonnaTabella(limite, Mast), "");
-    EXPECT_EQ(TitoloColonnaTabella(mast, Mast), "Mast cm");
-    EXPECT_EQ(TitoloColonnaTabella(mast, Table), "Table Deg");
 }
 
 TEST(ModificaTabella, ARecordKeepsWhatWasTyped) {
@@ -233,15 +179,6 @@ TEST(ModificaTabella, ARecordKeepsWhatWasTyped) {
     mast.righe[1].mastCm = 150;
     mast.righe[1].tableGradi = 0;
     EXPECT_EQ(DaFrequencyTable(InFrequencyTable(mast), TableKind::FrequenzeMast), mast);
-}
-
-TEST(ModificaTabella, RemovesRowsAsFarAsThereAreAny) {
-    ContenutoTabella c = TreRighe();
-    RimuoviRighe(c, 1, 1);
-    EXPECT_EQ(Frequenze(c), (std::vector<double>{0.15, 30}));
-    RimuoviRighe(c, 1, 50);
-    RimuoviRighe(c, 9, 1);
-    EXPECT_EQ(Frequenze(c), std::vector<double>{0.15});
 }
 
 TEST(ModificaTabella, GoesBackAndForthOverManySteps) {
@@ -274,10 +211,27 @@ TEST(ModificaTabella, GoesBackAndForthOverManySteps) {
     EXPECT_EQ(m.Contenuto().titolo, "");
 }
 
-TEST(ModificaTabella, ALoadedTableHasNothingToUndo) {
-    ModificaTabella m(TreRighe());
-    EXPECT_FALSE(m.PuoAnnullare());
-    EXPECT_FALSE(m.DaSalvare());
+TEST(ModificaTabella, OutcomesHaveTheirBoxes) {
+    AmbienteProva ambiente;
+    for (const EsitoModifica esito : {Fatta, NonValida, TroppeUguali, GiaPresente})
+        AvvisaModifica(ambiente, esito, TableKind::Limite);
+    std::vector<std::string> testi;
+    for (const Riquadro& riquadro : ambiente.riquadri)
+        testi.push_back(riquadro.testo);
+    EXPECT_EQ(testi,
+              (std::vector<std::string>{"Not valid value", "No more then two frequencies allowed",
+                                        "Frequency already present"}));
+}
+
+TEST(ModificaTabella, HeadingsNameTheUnit) {
+    const ContenutoTabella limite{.kind = TableKind::Limite, .unitId = 6};
+    const ContenutoTabella mast{.kind = TableKind::FrequenzeMast, .unitId = 0};
+    EXPECT_EQ(TitoloColonnaTabella(limite, Frequenza), "Frequency MHz");
+    EXPECT_EQ(TitoloColonnaTabella(limite, Livello), "Level dBpT");
+    EXPECT_EQ(TitoloColonnaTabella(limite, Mast), "");
+    EXPECT_EQ(TitoloColonnaTabella(mast, Mast) + TitoloColonnaTabella(mast, Table),
+              "Mast cmTable Deg");
+    EXPECT_EQ(TitoloFinestraTabella(TableKind::FrequenzeMast), "Frequency Mast Table: ");
 }
 
 } // namespace

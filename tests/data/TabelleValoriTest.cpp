@@ -35,41 +35,24 @@ const std::vector<Punto> kClasseB = {
     {150e3f, 6600}, {500e3f, 5600}, {5e6f, 5600}, {5e6f, 6000}, {30e6f, 6000}};
 
 TEST(ValoreLimite, IsStraightOnItsOwnAxis) {
-    struct Caso {
-        float hz;
-        int16_t logaritmico;
-        int16_t lineare;
-    };
-    const LimFacRecord logaritmico = Tabella(kClasseB);
-    const LimFacRecord lineare = Tabella(kClasseB, 1);
-    for (const Caso& c :
-         {Caso{150000, 6600, 6600}, Caso{150001, 6600, 6600}, Caso{200e3f, 6361, 6457},
-          Caso{273861.28f, 6100, 6246}, Caso{333333, 5937, 6076}, Caso{500e3f, 5600, 5600},
-          Caso{1e6f, 5600, 5600}, Caso{4999999.5f, 5600, 5600}, Caso{5000001, 6000, 6000},
-          Caso{29999998, 6000, 6000}}) {
-        EXPECT_EQ(ValoreLimite(logaritmico, c.hz), c.logaritmico) << c.hz;
-        EXPECT_EQ(ValoreLimite(lineare, c.hz), c.lineare) << c.hz;
+    // Frequency, level on the logarithmic and on the linear axis.
+    const std::tuple<float, int16_t, int16_t> casi[] = {
+        {std::nextafter(150e3f, 0.0f), kNessunValore, kNessunValore},
+        {150e3f, 6600, 6600},
+        {200e3f, 6361, 6457},
+        {333333, 5937, 6076},
+        {500e3f, 5600, 5600},
+        {std::nextafter(5e6f, 0.0f), 5600, 5600},
+        {5e6f, 6000, 6000},
+        {std::nextafter(30e6f, 0.0f), 6000, 6000},
+        {30e6f, kNessunValore, kNessunValore},
+        {NAN, kNessunValore, kNessunValore},
+        {-1, kNessunValore, kNessunValore}};
+    for (const auto& [hz, logaritmico, lineare] : casi) {
+        EXPECT_EQ(ValoreLimite(Tabella(kClasseB, 1), hz), lineare) << hz;
+        for (const int16_t flag : {-1, 0, 2, 257}) // any other than one
+            EXPECT_EQ(ValoreLimite(Tabella(kClasseB, flag), hz), logaritmico) << hz;
     }
-}
-
-TEST(ValoreLimite, AnyOtherFlagThanOneIsLogarithmic) {
-    for (const int16_t flag : {-1, 0, 2, 257})
-        EXPECT_EQ(ValoreLimite(Tabella(kClasseB, flag), 200e3f), 6361) << flag;
-}
-
-TEST(ValoreLimite, EndsBeforeItsLastPoint) {
-    const LimFacRecord r = Tabella(kClasseB);
-    const float ultimo = std::nextafter(30e6f, 0.0f);
-    EXPECT_EQ(ValoreLimite(r, ultimo), 6000);
-    for (const float fuori : {30e6f, 31e6f, std::nextafter(150e3f, 0.0f), 0.0f, -1.0f,
-                              std::numeric_limits<float>::infinity(), NAN})
-        EXPECT_EQ(ValoreLimite(r, fuori), kNessunValore) << fuori;
-}
-
-TEST(ValoreLimite, AStepHasTheValueBehindItAtItsFrequency) {
-    const LimFacRecord r = Tabella(kClasseB);
-    EXPECT_EQ(ValoreLimite(r, std::nextafter(5e6f, 0.0f)), 5600);
-    EXPECT_EQ(ValoreLimite(r, 5e6f), 6000);
 }
 
 TEST(ValoreLimite, RoundsTiesToEven) {
@@ -91,17 +74,6 @@ TEST(ValoreLimite, ASegmentTooSteepForSinglePrecisionStaysWithinTheType) {
     EXPECT_EQ(ValoreLimite(Tabella({{1e-45f, 100}, {3e-45f, 200}}, 1), 1e-45f), 100);
 }
 
-TEST(ValoreLimite, NoHintCanMisplaceTheSearch) {
-    for (const int hint : {-32768, -1, 0, 1, 2, 3, 4, 5, 200, 201, 202, 32767}) {
-        LimFacRecord r = Tabella(kClasseB);
-        r.LastSegment = static_cast<int16_t>(hint);
-        EXPECT_EQ(ValoreLimite(r, 200e3f), 6361) << hint;
-        EXPECT_EQ(ValoreLimite(r, 5e6f), 6000) << hint;
-        EXPECT_EQ(ValoreLimite(r, 30e6f), kNessunValore) << hint;
-        EXPECT_EQ(r.LastSegment, hint) << "a limit keeps no hint";
-    }
-}
-
 TEST(ValoreLimite, EmptySingleAndFullTables) {
     EXPECT_EQ(ValoreLimite(LimFacRecord{}, 1e6f), kNessunValore);
     EXPECT_EQ(ValoreLimite(LimFacRecord{}, 0), kNessunValore);
@@ -117,41 +89,24 @@ TEST(ValoreLimite, EmptySingleAndFullTables) {
     EXPECT_EQ(NumeroPunti(r), 201u);
 }
 
-TEST(ValoreFattore, IsLinearWhateverTheFlagSays) {
-    for (const int16_t flag : {0, 1}) {
-        LimFacRecord r = Tabella({{9e3f, 1000}, {150e3f, 950}, {30e6f, 1120}}, flag);
-        for (const auto& [hz, cent] : std::vector<std::pair<float, int16_t>>{{8999, 0},
-                                                                             {9000, 1000},
-                                                                             {50e3f, 985},
-                                                                             {150e3f, 950},
-                                                                             {1e6f, 955},
-                                                                             {12.345e6f, 1019},
-                                                                             {29.9e6f, 1119},
-                                                                             {30e6f, 0},
-                                                                             {1e9f, 0}})
-            EXPECT_EQ(ValoreFattore(r, hz), cent) << hz;
+TEST(ValoreFattore, IsLinearAndRemembersWhereItEnded) {
+    LimFacRecord r = Tabella({{9e3f, 1000}, {150e3f, 950}, {30e6f, 1120}});
+    // Frequency, value, and the segment afterwards.
+    const std::tuple<float, int16_t, int16_t> casi[] = {{8999, 0, 32767}, {1e6f, 955, 2},
+                                                        {50e3f, 985, 1},  {40e6f, 0, 1},
+                                                        {150e3f, 950, 2}, {30e6f, 0, 2}};
+    r.LastSegment = 32767;
+    for (const auto& [hz, cent, segmento] : casi) {
+        EXPECT_EQ(ValoreFattore(r, hz), cent) << hz;
+        EXPECT_EQ(r.LastSegment, segmento) << hz;
     }
 }
 
-TEST(ValoreFattore, RemembersWhereItEnded) {
-    LimFacRecord r = Tabella({{9e3f, 1000}, {150e3f, 950}, {30e6f, 1120}});
-    r.LastSegment = 32767;
-    ValoreFattore(r, 1e6f);
-    EXPECT_EQ(r.LastSegment, 2);
-    ValoreFattore(r, 50e3f);
-    EXPECT_EQ(r.LastSegment, 1);
-    ValoreFattore(r, 40e6f);
-    EXPECT_EQ(r.LastSegment, 1) << "nothing was found there";
-}
-
 TEST(ValoreFattore, ACurveThatBeginsBelowNineHertzIsEmpty) {
-    LimFacRecord vuota = Tabella({{8.999f, 500}, {1e6f, 500}});
-    LimFacRecord buona = Tabella({{9, 500}, {1e6f, 500}});
-    LimFacRecord zero = Tabella({{0, 500}, {1e6f, 500}});
-    EXPECT_EQ(ValoreFattore(vuota, 1000), 0);
-    EXPECT_EQ(ValoreFattore(buona, 1000), 500);
-    for (const float hz : {0.0f, 9.0f, 1000.0f, 1e6f})
-        EXPECT_EQ(ValoreFattore(zero, hz), 0);
+    for (const auto& [inizio, cent] : {std::pair{0.0f, 0}, {8.999f, 0}, {9.0f, 500}}) {
+        LimFacRecord r = Tabella({{inizio, 500}, {1e6f, 500}});
+        EXPECT_EQ(ValoreFattore(r, 1000), cent) << inizio;
+    }
 }
 
 TEST(NumeroFreqTabella, CountsAStepOnce) {
@@ -211,13 +166,8 @@ TEST(LimitiSmart, AStepAtAnEndOfTheCommonRangeGivesItsInnerSide) {
     const LimFacRecord due = Tabella({{20, 1}, {40, 1}});
     const std::vector<PuntoDSD> attesi = {{20, 200, 1}, {40, 200, 1}};
     EXPECT_EQ(CreaElencoFreqLimDSD(uno, due), attesi);
-}
-
-TEST(LimitiSmart, WithoutACommonRangeThereIsNothingToJoin) {
-    const LimFacRecord basso = Tabella({{10, 1}, {20, 1}});
-    for (const LimFacRecord& altro : {Tabella({{20, 1}, {30, 1}}), Tabella({{30, 1}, {40, 1}}),
-                                      Tabella({{15, 1}}), Tabella({})})
-        EXPECT_FALSE(CreaElencoFreqLimDSD(basso, altro));
+    for (const LimFacRecord& altro : {Tabella({{40, 1}, {50, 1}}), Tabella({{30, 1}}), Tabella({})})
+        EXPECT_FALSE(CreaElencoFreqLimDSD(due, altro)) << "without a common range";
 }
 
 LimFacRecord ConPunti(int quanti, float passo) {
@@ -228,30 +178,21 @@ LimFacRecord ConPunti(int quanti, float passo) {
 }
 
 TEST(LimitiSmart, SayWhyTheReceiverCannotTakeThem) {
-    struct Caso {
-        LimFacRecord limite;
-        std::optional<LimFacRecord> dsd;
-        EsitoLimiteSD esito;
-        std::string testo;
-    };
     const std::string troppi = "Too many points in the limit\rMax 16 points";
     const std::string pochi = "Too few limit frequencies\rMin 2 different frequencies";
-    const std::vector<Caso> casi = {
-        {ConPunti(16, 10), {}, EsitoLimiteSD::Buono, ""},
-        {ConPunti(17, 10), {}, EsitoLimiteSD::TroppiPunti, troppi},
-        {ConPunti(2, 0), {}, EsitoLimiteSD::PocheFrequenze, pochi},
-        {ConPunti(1, 10), {}, EsitoLimiteSD::PocheFrequenze, pochi},
-        {ConPunti(0, 10), {}, EsitoLimiteSD::PocheFrequenze, pochi},
-        {ConPunti(16, 10), ConPunti(16, 10), EsitoLimiteSD::Buono, ""},
-        {ConPunti(9, 10), ConPunti(17, 5), EsitoLimiteSD::TroppiPunti, troppi},
-        {ConPunti(2, 10), ConPunti(0, 10), EsitoLimiteSD::NonCombinabile,
-         "Cannot combine the limit"},
-    };
-    for (const Caso& c : casi) {
+    using enum EsitoLimiteSD;
+    const std::tuple<LimFacRecord, std::optional<LimFacRecord>, EsitoLimiteSD, std::string> casi[] =
+        {{ConPunti(16, 10), {}, Buono, ""},
+         {ConPunti(17, 10), {}, TroppiPunti, troppi},
+         {ConPunti(2, 0), {}, PocheFrequenze, pochi},
+         {ConPunti(0, 10), {}, PocheFrequenze, pochi},
+         {ConPunti(16, 10), ConPunti(16, 10), Buono, ""},
+         {ConPunti(9, 10), ConPunti(17, 5), TroppiPunti, troppi},
+         {ConPunti(2, 10), ConPunti(0, 10), NonCombinabile, "Cannot combine the limit"}};
+    for (const auto& [limite, dsd, esito, testo] : casi) {
         AmbienteProva ambiente;
-        EXPECT_EQ(ControlloNMaxPuntiLimSD(ambiente, c.limite, c.dsd ? &*c.dsd : nullptr), c.esito);
-        const std::string testo = ambiente.riquadri.empty() ? "" : ambiente.riquadri[0].testo;
-        EXPECT_EQ(testo, c.testo);
+        EXPECT_EQ(ControlloNMaxPuntiLimSD(ambiente, limite, dsd ? &*dsd : nullptr), esito);
+        EXPECT_EQ(ambiente.riquadri.empty() ? "" : ambiente.riquadri[0].testo, testo);
     }
 }
 

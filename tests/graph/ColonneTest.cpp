@@ -46,33 +46,6 @@ TEST(Colonne, BordiEUltimeCifre) {
     }
 }
 
-TEST(Colonne, OgniOrdineDaGliStessiEstremi) {
-    constexpr int kPassi = 5000;
-    const auto livello = [](int k) { return static_cast<int16_t>((k * 7919) % 4001 - 2000); };
-    ColonneTraccia salendo(0.15, 30, 400, true);
-    ColonneTraccia saltando(0.15, 30, 400, true);
-    for (int k = 0; k < kPassi; ++k) {
-        salendo.Aggiungi(0.15 + k * 0.00597, livello(k));
-        const int altro = static_cast<int>((k * 2741LL) % kPassi);
-        saltando.Aggiungi(0.15 + altro * 0.00597, livello(altro));
-    }
-    for (int i = 0; i < salendo.Quante(); ++i) {
-        ASSERT_EQ(salendo.Colonna(i).vuota, saltando.Colonna(i).vuota) << i;
-        ASSERT_EQ(salendo.Colonna(i).minimo, saltando.Colonna(i).minimo) << i;
-        ASSERT_EQ(salendo.Colonna(i).massimo, saltando.Colonna(i).massimo) << i;
-    }
-}
-
-TEST(Colonne, LogaritmicheDiPariRapporto) {
-    ColonneTraccia traccia(1, 1000, 3, true);
-    traccia.Aggiungi(9.99, 1);
-    traccia.Aggiungi(10.01, 2);
-    traccia.Aggiungi(999, 3);
-    for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(traccia.Colonna(i).primo, i + 1);
-    EXPECT_NEAR(traccia.Frequenza(1), std::sqrt(1000.0), 1e-9);
-}
-
 TEST(Colonne, RotturaSoloDoveIlLivelloManca) {
     ColonneTraccia traccia = DieciColonne();
     traccia.Aggiungi(10.5, 100);
@@ -102,15 +75,6 @@ TEST(Colonne, UnaRigaStaccataNonSiCongiunge) {
     for (int i = 2; i <= 5; ++i)
         EXPECT_FALSE(traccia.Colonna(i).rottura) << i;
     EXPECT_TRUE(traccia.Colonna(1).rottura);
-}
-
-TEST(Colonne, FrequenzeInDiscesa) {
-    ColonneTraccia traccia = DieciColonne();
-    for (double f = 15.5; f > 12; f -= 1)
-        traccia.Aggiungi(f, 100);
-    EXPECT_TRUE(traccia.Colonna(2).rottura);
-    for (int i = 3; i <= 5; ++i)
-        EXPECT_FALSE(traccia.Colonna(i).rottura) << i;
 }
 
 TEST(Colonne, ViciniOltreGliEstremi) {

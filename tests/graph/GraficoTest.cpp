@@ -94,27 +94,6 @@ TEST(Griglia, LivelliGenereEColore) {
     }
 }
 
-TEST(Griglia, AsseLineareInDieciParti) {
-    Quadro q(88, 108, false);
-    q.Griglia();
-    EXPECT_EQ(q.Verticali().size(), 11u);
-    const auto scritte = q.Testi(Ancora::CentroAlto);
-    EXPECT_EQ(scritte.size(), 11u);
-    EXPECT_TRUE(scritte.contains("88 M") && scritte.contains("98 M") && scritte.contains("108 M"));
-}
-
-TEST(Griglia, LeLineeStannoNelRiquadro) {
-    Quadro q;
-    q.Griglia();
-    for (const auto& linea : q.superficie.linee)
-        for (const Punto p : {q.superficie.Pixel(linea.da), q.superficie.Pixel(linea.a)}) {
-            ASSERT_GE(p.x, q.dove.sinistra - 1e-6);
-            ASSERT_LE(p.x, q.dove.sinistra + q.dove.larghezza + 1e-6);
-            ASSERT_GE(p.y, q.dove.alto - 1e-6);
-            ASSERT_LE(p.y, q.dove.alto + q.dove.altezza + 1e-6);
-        }
-}
-
 TEST(Griglia, DecadiPrincipaliELeAltreSub) {
     Quadro q;
     q.Griglia();
@@ -178,23 +157,6 @@ TEST(Scritte, DoveNonCiStannoNonSiToccano) {
     }
 }
 
-TEST(Traccia, CampioniRadiUnaSolaLinea) {
-    Quadro q(10, 20, false);
-    ColonneTraccia traccia = q.Colonne();
-    traccia.Aggiungi(10, 1000);
-    traccia.Aggiungi(15, 3000);
-    traccia.Aggiungi(20, 2000);
-    EXPECT_EQ(q.Disegna(traccia), 3u);
-    ASSERT_EQ(q.superficie.spezzate.size(), 1u);
-    const auto& linea = q.superficie.spezzate[0];
-    EXPECT_TRUE(linea.ritagliata);
-    EXPECT_EQ(q.superficie.ritagli, 0);
-    EXPECT_EQ(linea.penna.colore, Rgb(7, 0, 0));
-    EXPECT_NEAR(linea.punti[1].x, q.dove.larghezza / 2, 1);
-    EXPECT_EQ(linea.punti[1].y, 3000);
-    EXPECT_NEAR(linea.punti[2].x, q.dove.larghezza, 1);
-}
-
 TEST(Traccia, IlVuotoAlzaLaPenna) {
     Quadro q(10, 20, false);
     ColonneTraccia traccia = q.Colonne();
@@ -206,17 +168,6 @@ TEST(Traccia, IlVuotoAlzaLaPenna) {
     const auto x = [&](double f) { return FreqToX(q.scala, f); };
     EXPECT_NEAR(q.superficie.spezzate[0].punti.back().x, x(12), 1);
     EXPECT_NEAR(q.superficie.spezzate[1].punti.front().x, x(14), 1);
-}
-
-TEST(Traccia, UnCampioneSoloSiVedeNellUnitaInVigore) {
-    Quadro q(0.15, 30, true, 5);
-    ColonneTraccia traccia = q.Colonne();
-    traccia.Aggiungi(1, 6000);
-    EXPECT_EQ(q.Disegna(traccia), 2u);
-    ASSERT_EQ(q.superficie.spezzate.size(), 1u);
-    const auto& punti = q.superficie.spezzate[0].punti;
-    EXPECT_NEAR(punti[1].x - punti[0].x, 1, 1e-9);
-    EXPECT_EQ(punti[0].y, 6000 - 5150);
 }
 
 TEST(Traccia, LaLineaProsegueFinoAllaCornice) {
@@ -283,6 +234,26 @@ TEST(Degenere, SenzaPostoOSenzaRango) {
     Quadro vuoto;
     EXPECT_EQ(vuoto.Disegna(vuoto.Colonne()), 0u);
     EXPECT_TRUE(vuoto.superficie.spezzate.empty());
+}
+
+TEST(Griglia, AsseLineareInDieciParti) {
+    Quadro q(88, 108, false);
+    q.Griglia();
+    EXPECT_EQ(q.Verticali().size(), 11u);
+    const auto scritte = q.Testi(Ancora::CentroAlto);
+    EXPECT_EQ(scritte.size(), 11u);
+    EXPECT_TRUE(scritte.contains("88 M") && scritte.contains("98 M") && scritte.contains("108 M"));
+}
+
+TEST(Traccia, UnCampioneSoloSiVedeNellUnitaInVigore) {
+    Quadro q(0.15, 30, true, 5);
+    ColonneTraccia traccia = q.Colonne();
+    traccia.Aggiungi(1, 6000);
+    EXPECT_EQ(q.Disegna(traccia), 2u);
+    ASSERT_EQ(q.superficie.spezzate.size(), 1u);
+    const auto& punti = q.superficie.spezzate[0].punti;
+    EXPECT_NEAR(punti[1].x - punti[0].x, 1, 1e-9);
+    EXPECT_EQ(punti[0].y, 6000 - 5150);
 }
 
 } // namespace

@@ -11,52 +11,48 @@ namespace {
 
 using namespace prova;
 
-struct Caso {
-    std::function<void(Ricevitore&)> imposta;
-    const char* comando;
-};
-
 TEST(Comandi, EachSetterAsItGoesOut) {
     using R = Ricevitore;
-    const Caso kCasi[] = {{[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
-                          {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
-                          {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
-                          {[](R& r) { ImpostaPreAmpAn(r, true); }, "#SAPAON*"},
-                          {[](R& r) { ImpostaPreAmpMa(r, true); }, "#SMPAON*"},
-                          {[](R& r) { ImpostaPulseLim(r, true); }, "#SPLMON*"},
-                          {[](R& r) { ImpostaAttAn(r, -1); }, "#SAAT-1*"},
-                          {[](R& r) { ImpostaAttMa(r, 20); }, "#SMAT20*"},
-                          {[](R& r) { ImpostaMinAtt(r, 50); }, "#STAT50*"},
-                          {[](R& r) { ImpostaDinamica(r, 120, 145); }, "#SDIS120;145*"},
-                          {[](R& r) { ImpostaVolume(r, 30); }, "#SDMV30*"},
-                          {[](R& r) { ImpostaRFOut(r, true); }, "#STGSON*"},
-                          {[](R& r) { ImpostaTracking(r, false); }, "#STGTOFF*"},
-                          {[](R& r) { ImpostaLivelloTG(r, 80.5); }, "#STGL80.5*"},
-                          {[](R& r) { ImpostaFrequenzaTG(r, 10.7); }, "#STGF10700e3*"},
-                          {[](R& r) { ImpostaHoldTimeAn(r, 0.25); }, "#SAHT0.25*"},
-                          {[](R& r) { ImpostaHoldTimeMa(r, 1000); }, "#SMHT1000*"},
-                          {[](R& r) { ImpostaDetectorAn(r, 4); }, "#SADT4*"},
-                          {[](R& r) { ImpostaFrequenzaAn(r, 0.15, 30); }, "#SAFF150e3,30000e3*"},
-                          {[](R& r) { ImpostaFrequenzaMa(r, 1000); }, "#SMAF1000000e3*"},
-                          {[](R& r) { ImpostaFiltroGX2207(r, true); }, "#SIHPON*"},
-                          {[](R& r) { ImpostaIngressoGX2207(r, false); }, "#SMODA*"},
-                          {[](R& r) { ImpostaIngressoGX2207(r, true); }, "#SMODH*"},
-                          {[](R& r) { ImpostaTrackingGX2207(r, 2); }, "#SITG 2*"},
-                          {ImpostaCondotto, "#S3PRC*"},
-                          {ImpostaRadiato, "#S3PRR*"},
-                          {[](R& r) { ImpostaQDSW3(r, 3); }, "#SUPP3*"},
-                          {[](R& r) { ImpostaLisn(r, 4); }, "#SUPP4*"},
-                          {[](R& r) { ImpostaLisn3360(r, 1); }, "#SLSN1*"},
-                          {DisabilitaCF, "#SCFA -1*"},
-                          {ImpostaBreak, "#SSTP*"},
-                          {StopSweep, "#SSTP*"},
-                          {AbortSweep, "#ASBK*"}};
+    const std::pair<std::function<void(R&)>, const char*> kCasi[] = {
+        {[](R& r) { ImpostaBWIF(r, 22); }, "#SRBW22*"},
+        {[](R& r) { ImpostaPreselAn(r, true); }, "#SAPSON*"},
+        {[](R& r) { ImpostaPreselMa(r, false); }, "#SMPSOFF*"},
+        {[](R& r) { ImpostaPreAmpAn(r, true); }, "#SAPAON*"},
+        {[](R& r) { ImpostaPreAmpMa(r, true); }, "#SMPAON*"},
+        {[](R& r) { ImpostaPulseLim(r, true); }, "#SPLMON*"},
+        {[](R& r) { ImpostaAttAn(r, -1); }, "#SAAT-1*"},
+        {[](R& r) { ImpostaAttMa(r, 20); }, "#SMAT20*"},
+        {[](R& r) { ImpostaMinAtt(r, 50); }, "#STAT50*"},
+        {[](R& r) { ImpostaDinamica(r, 120, 145); }, "#SDIS120;145*"},
+        {[](R& r) { ImpostaVolume(r, 30); }, "#SDMV30*"},
+        {[](R& r) { ImpostaRFOut(r, true); }, "#STGSON*"},
+        {[](R& r) { ImpostaTracking(r, false); }, "#STGTOFF*"},
+        {[](R& r) { ImpostaLivelloTG(r, 80.5); }, "#STGL80.5*"},
+        {[](R& r) { ImpostaFrequenzaTG(r, 10.7); }, "#STGF10700e3*"},
+        {[](R& r) { ImpostaHoldTimeAn(r, 0.25); }, "#SAHT0.25*"},
+        {[](R& r) { ImpostaHoldTimeMa(r, 1000); }, "#SMHT1000*"},
+        {[](R& r) { ImpostaDetectorAn(r, 4); }, "#SADT4*"},
+        {[](R& r) { ImpostaFrequenzaAn(r, 0.15, 30); }, "#SAFF150e3,30000e3*"},
+        {[](R& r) { ImpostaFrequenzaMa(r, 1000); }, "#SMAF1000000e3*"},
+        {[](R& r) { ImpostaFiltroGX2207(r, true); }, "#SIHPON*"},
+        {[](R& r) { ImpostaIngressoGX2207(r, false); }, "#SMODA*"},
+        {[](R& r) { ImpostaIngressoGX2207(r, true); }, "#SMODH*"},
+        {[](R& r) { ImpostaTrackingGX2207(r, 2); }, "#SITG 2*"},
+        {ImpostaCondotto, "#S3PRC*"},
+        {ImpostaRadiato, "#S3PRR*"},
+        {[](R& r) { ImpostaQDSW3(r, 3); }, "#SUPP3*"},
+        {[](R& r) { ImpostaLisn(r, 4); }, "#SUPP4*"},
+        {[](R& r) { ImpostaLisn3360(r, 1); }, "#SLSN1*"},
+        {DisabilitaCF, "#SCFA -1*"},
+        {ImpostaBreak, "#SSTP*"},
+        {StopSweep, "#SSTP*"},
+        {AbortSweep, "#ASBK*"}};
     BancoAperto b;
     b.stato.AbbandonaComandi = true; // one try is enough
     Testi attesi;
-    for (const Caso& caso : kCasi) {
-        caso.imposta(b.r);
-        attesi.push_back(caso.comando);
+    for (const auto& [imposta, comando] : kCasi) {
+        imposta(b.r);
+        attesi.push_back(comando);
     }
     EXPECT_EQ(b.peer.scritti, attesi);
 }
@@ -110,23 +106,17 @@ TEST(Comandi, The18GHzUnitHasAFixedPreselector) {
 
 TEST(Comandi, AmAndFmWhereTheReceiverKnowsThem) {
     using enum Demodulazione;
-    struct Forma {
-        bool is3360;
-        int16_t oem;
-        Demodulazione modo;
-        const char* comando;
-    };
-    for (const Forma& forma :
-         {Forma{false, 0, Spenta, "#SDMDOFF*"}, Forma{false, 0, Accesa, "#SDMDON*"},
-          Forma{false, 0, FM, "#SDMDON*"}, Forma{true, 0, AM, "#SDMDAM*"},
-          Forma{true, 0, FM, "#SDMDFM*"}, Forma{false, 3, FM, "#SDMDFM*"},
-          Forma{false, 3, Spenta, "#SDMDOFF*"}}) {
+    const std::tuple<bool, int16_t, Demodulazione, const char*> casi[] = {
+        {false, 0, Spenta, "#SDMDOFF*"}, {false, 0, Accesa, "#SDMDON*"}, {false, 0, FM, "#SDMDON*"},
+        {true, 0, AM, "#SDMDAM*"},       {true, 0, FM, "#SDMDFM*"},      {false, 3, FM, "#SDMDFM*"},
+        {false, 3, Spenta, "#SDMDOFF*"}};
+    for (const auto& [is3360, oem, modo, comando] : casi) {
         BancoAperto b;
-        b.r.modello.Is3360 = forma.is3360;
-        b.r.modello.ModelloOEM = forma.oem;
-        b.peer.alComando = [&](const std::string&) { b.peer.Rispondi("DMD=OK\r\n"); };
-        ImpostaDemodulatore(b.r, forma.modo);
-        EXPECT_EQ(b.peer.scritti, Testi{forma.comando});
+        b.r.modello.Is3360 = is3360;
+        b.r.modello.ModelloOEM = oem;
+        b.peer.RispondiInFila({"DMD=OK\r\n"});
+        ImpostaDemodulatore(b.r, modo);
+        EXPECT_EQ(b.peer.scritti, Testi{comando});
     }
 }
 

@@ -12,16 +12,13 @@ namespace {
 using namespace prova;
 
 TEST(LeggiRisposta, FilterInUse) {
-    for (const auto& [risposta, automatico, id] :
-         {std::tuple{"RBW=AUTO 10\r", true, 10}, std::tuple{"RBW = MAN 3\r", false, 3}}) {
-        const auto filtro = LeggiRispostaRBW(risposta);
-        ASSERT_TRUE(filtro) << risposta;
-        EXPECT_EQ(filtro->automatico, automatico);
-        EXPECT_EQ(filtro->id, id);
-    }
-    for (const char* rotta :
-         {"", "RBW", "RBW=", "RBW=AUTO\r", "RBW=AUTO \r", "RBW=AUTO x\r", "RBW=3\r", "RBW=MAN 3x\r",
-          "RBW=MAN 99999\r", "XBW=MAN 3\r", "RBW=AUTO10\r"})
+    const auto automatico = LeggiRispostaRBW("RBW=AUTO 10\r");
+    const auto manuale = LeggiRispostaRBW("RBW = MAN 3\r");
+    ASSERT_TRUE(automatico && manuale);
+    EXPECT_TRUE(automatico->automatico && automatico->id == 10);
+    EXPECT_TRUE(!manuale->automatico && manuale->id == 3);
+    for (const char* rotta : {"", "RBW=", "RBW=AUTO\r", "RBW=AUTO \r", "RBW=AUTO x\r", "RBW=3\r",
+                              "RBW=MAN 3x\r", "RBW=MAN 99999\r", "XBW=MAN 3\r", "RBW=AUTO10\r"})
         EXPECT_FALSE(LeggiRispostaRBW(rotta)) << rotta;
 }
 
@@ -33,22 +30,16 @@ TEST(LeggiRisposta, AttenuatorBehindTheFirstSemicolon) {
 }
 
 TEST(LeggiRisposta, Battery) {
-    struct Caso {
-        const char* risposta;
-        const char* livello;
-        const char* tensione;
-        int carica;
-    };
-    for (const Caso& caso :
-         {Caso{"BAT=85,12.4;0\r", "85", "12.4", 0}, Caso{"BAT=85,12,4;1\r", "85", "12.4", 1},
-          Caso{"BAT= 7 , 1.99;0\r", "7", "", 0}, Caso{"BAT=7,2.0;0\r", "7", "2.0", 0},
-          Caso{"BAT=85;0\r", "85", "", 0}, Caso{"BAT=100;1;7\r", "100", "", 1},
-          Caso{"BAT=100%\r", "100%", "", 1}, Caso{"BAT=50;0,9\r", "50", "", 0}}) {
-        const auto b = LeggiRispostaBAT(caso.risposta);
-        ASSERT_TRUE(b) << caso.risposta;
-        EXPECT_EQ(b->livello, caso.livello) << caso.risposta;
-        EXPECT_EQ(b->tensione, caso.tensione) << caso.risposta;
-        EXPECT_EQ(b->carica, caso.carica) << caso.risposta;
+    // A reply, then level, voltage and charge.
+    const std::pair<const char*, const char*> casi[] = {
+        {"BAT=85,12.4;0\r", "85 12.4 0"}, {"BAT=85,12,4;1\r", "85 12.4 1"},
+        {"BAT= 7 , 1.99;0\r", "7  0"},    {"BAT=7,2.0;0\r", "7 2.0 0"},
+        {"BAT=85;0\r", "85  0"},          {"BAT=100;1;7\r", "100  1"},
+        {"BAT=100%\r", "100%  1"},        {"BAT=50;0,9\r", "50  0"}};
+    for (const auto& [risposta, attesa] : casi) {
+        const auto b = LeggiRispostaBAT(risposta);
+        ASSERT_TRUE(b) << risposta;
+        EXPECT_EQ(b->livello + " " + b->tensione + " " + std::to_string(b->carica), attesa);
     }
     for (const char* rotta :
          {"", "BAT\r", "BAT=\r", "BAT=85,12.4\r", "BAT=85,12.4;\r", "BAT=85;x\r", "TAB=85;0\r"})
@@ -56,22 +47,16 @@ TEST(LeggiRisposta, Battery) {
 }
 
 TEST(LeggiRisposta, ConductedOrRadiated) {
-    struct Caso {
-        const char* risposta;
-        bool radiata;
-        std::optional<float> fMin = {}, fMax = {};
-    };
-    for (const Caso& caso :
-         {Caso{"CO6=CND\r", false}, Caso{"3PR=CON\r", false}, Caso{"3PR=CON;1,2\r", false},
-          Caso{"CO6=RAD\r", true}, Caso{"3PR=RAD;25.5, 6020,\r", true, 25.5f, 6020.f},
-          Caso{"CO6=RAD;-1,3000,\r", true, {}, 3000.f}}) {
-        const auto gamma = LeggiRispostaGamma(caso.risposta);
-        ASSERT_TRUE(gamma) << caso.risposta;
-        EXPECT_EQ(gamma->radiata, caso.radiata) << caso.risposta;
-        if (caso.radiata) {
-            EXPECT_EQ(gamma->fMinMhz, caso.fMin) << caso.risposta;
-            EXPECT_EQ(gamma->fMaxMhz, caso.fMax) << caso.risposta;
-        }
+    for (const char* condotta : {"CO6=CND\r", "3PR=CON\r", "3PR=CON;1,2\r"})
+        EXPECT_FALSE(LeggiRispostaGamma(condotta).value().radiata) << condotta;
+    const std::tuple<const char*, float, float> casi[] = {{"CO6=RAD\r", 0, 0},
+                                                          {"3PR=RAD;25.5, 6020,\r", 25.5f, 6020.f},
+                                                          {"CO6=RAD;-1,3000,\r", 0, 3000.f}};
+    for (const auto& [risposta, fMin, fMax] : casi) {
+        const auto gamma = LeggiRispostaGamma(risposta);
+        ASSERT_TRUE(gamma && gamma->radiata) << risposta;
+        EXPECT_EQ(gamma->fMinMhz.value_or(0), fMin) << risposta;
+        EXPECT_EQ(gamma->fMaxMhz.value_or(0), fMax) << risposta;
     }
     for (const char* rotta : {"", "3PR=OK\r", "3PR=RAD;\r", "3PR=RAD;25\r", "3PR=RAD;25,6020\r",
                               "3PR=RAD;x,6020,\r", "3PR=RAD;25,,\r"})
@@ -88,15 +73,9 @@ TEST(LeggiRisposta, EnabledOrNot) {
 
 TEST(Interrogazioni, EachQueryGoesOutAsItStands) {
     BancoAperto b;
-    b.peer.RispondiDa({{"#?MIL*", "MIL=OK\r\n"},
-                       {"#?CRA*", "CRA=N/A\r\n"},
-                       {"#?UPP*", "UPP=5\r\n"},
-                       {"#?UHT*", "UHT= 10 ms \r\n"},
-                       {"#?APS*", "APS=on\r\n"},
-                       {"#?RBW *", "RBW=MAN 6\r\n"},
-                       {"#?MAT*", "MAT=0;15\r\n"},
-                       {"#?BAT*", "BAT=99\r\n"},
-                       {"#?3PR*", "3PR=CON\r\n"}});
+    b.peer.RispondiInFila({"MIL=OK\r\n", "CRA=N/A\r\n", "UPP=5\r\n", "UHT= 10 ms \r\n",
+                           "APS=on\r\n", "RBW=MAN 6\r\n", "MAT=0;15\r\n", "BAT=99\r\n",
+                           "3PR=CON\r\n"});
     EXPECT_EQ(LeggiFiltriMil(b.r), true);
     EXPECT_EQ(LeggiRmsAvg(b.r), false);
     EXPECT_EQ(LeggiUserPort(b.r), 5);

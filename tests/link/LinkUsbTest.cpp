@@ -22,54 +22,38 @@ TEST(PortaUsb, OpensInTheDocumentedOrder) {
 }
 
 TEST(PortaUsb, TheFirstDeviceThatHoldsANameWins) {
-    struct Caso {
-        Testi dispositivi;
-        const char* aperto;
-    };
-    for (const Caso& caso : {Caso{{"Mouse", "krv 3360", "5520 / 5540"}, "apri KRV 3360"},
-                             Caso{{"My usb <-> serial cable"}, "apri USB <-> Serial"},
-                             Caso{{"FT232R USB UART of a 5520 / 5540"}, "apri 5520 / 5540"},
-                             Caso{{"FT232r usb uart"}, "apri FT232R USB UART"}}) {
+    const std::pair<Testi, const char*> casi[] = {
+        {{"Mouse", "krv 3360", "5520 / 5540"}, "apri KRV 3360"},
+        {{"My usb <-> serial cable"}, "apri USB <-> Serial"},
+        {{"FT232R USB UART of a 5520 / 5540"}, "apri 5520 / 5540"},
+        {{"FT232r usb uart"}, "apri FT232R USB UART"},
+        {{"KRV 3360", "oem vsd3"}, "apri OEM VSD3"}};
+    for (const auto& [dispositivi, aperto] : casi) {
         BancoUsb b;
-        b.usb.dispositivi = caso.dispositivi;
+        b.usb.dispositivi = dispositivi;
+        if (dispositivi.back() == "oem vsd3")
+            b.porta.nomiUsb = NomiUsb::Oem();
         EXPECT_TRUE(b.porta.ApriPorta(true));
-        EXPECT_EQ(b.usb.Quante(caso.aperto), 1u) << caso.aperto;
+        EXPECT_EQ(b.usb.Quante(aperto), 1u) << aperto;
     }
-    BancoUsb oem;
-    oem.porta.nomiUsb = NomiUsb::Oem();
-    oem.usb.dispositivi = {"KRV 3360", "oem vsd3"};
-    EXPECT_TRUE(oem.porta.ApriPorta(true));
-    EXPECT_EQ(oem.usb.Quante("apri OEM VSD3"), 1u);
 }
 
 TEST(PortaUsb, NothingFoundAfterFourAttempts) {
-    struct Caso {
-        Testi dispositivi;
-        const char* testo;
-    };
     const std::string dopoNul = std::string("Scope") + '\0' + "rest";
-    for (const Caso& caso :
-         {Caso{{}, "Cannot find 5520 / 5540\r on the USB bus.\r"},
-          Caso{{dopoNul, "Printer"},
-               "Cannot find 5520 / 5540\r on the USB bus.\r(Found a device named ''Scope'')"}}) {
+    const std::string testo = "Cannot find 5520 / 5540\r on the USB bus.\r";
+    for (const bool altri : {false, true}) {
         BancoUsb b;
-        b.usb.dispositivi = caso.dispositivi;
-        const double inizio = b.ambiente.ora;
+        b.usb.dispositivi = altri ? Testi{dopoNul, "Printer"} : Testi{};
         EXPECT_FALSE(b.porta.ApriPorta(true));
         EXPECT_EQ(b.usb.Quante("lista"), 4u);
-        EXPECT_EQ(b.ambiente.ora, inizio);
-        EXPECT_EQ(b.Riquadri(), Testi{caso.testo});
-        EXPECT_EQ(b.ambiente.riquadri[0].icona, Icona::Stop);
+        EXPECT_EQ(b.Trascorsi(), 0);
+        EXPECT_EQ(b.Riquadri(), Testi{testo + (altri ? "(Found a device named ''Scope'')" : "")});
         EXPECT_TRUE(b.porta.link.UsbNonDisponibile);
     }
-}
-
-TEST(PortaUsb, WithoutBoxesTheReasonIsKept) {
     BancoUsb b;
     b.usb.dispositivi = {};
     EXPECT_FALSE(b.porta.ApriPorta(false));
     EXPECT_EQ(b.Riquadri(), Testi{});
-    EXPECT_FALSE(b.porta.link.UsbNonDisponibile);
     EXPECT_EQ(b.porta.link.motivo, "Cannot find 5520 / 5540  on the USB bus.");
 }
 
@@ -86,28 +70,18 @@ TEST(PortaUsb, ADeviceThatCannotBeOpenedOrSetUp) {
     }
 }
 
-TEST(PortaUsb, AMachineWithoutDriverShowsNoBox) {
-    BancoUsb b;
-    b.usb.installato = b.usb.chiamabile = false;
-    EXPECT_FALSE(b.porta.ApriPorta(true));
-    EXPECT_EQ(b.Riquadri(), Testi{});
-    EXPECT_TRUE(b.porta.link.UsbNonDisponibile);
-    EXPECT_EQ(b.usb.Quante("lista"), 1u);
-    EXPECT_FALSE(b.porta.ChiudiPorta());
-    EXPECT_FALSE(b.porta.link.UsbNonDisponibile);
-}
-
-TEST(PortaUsb, ADriverThatCannotBeCalledIsToldOnce) {
-    BancoUsb b;
-    b.usb.chiamabile = false;
-    EXPECT_FALSE(b.porta.ApriPorta(true));
-    EXPECT_FALSE(b.porta.ApriPorta(true));
-    EXPECT_FALSE(b.porta.ChiudiPorta());
-    EXPECT_TRUE(b.porta.link.UsbNonDisponibile);
-    EXPECT_TRUE(b.porta.link.DriverUsbSegnalato);
-    EXPECT_EQ(b.Riquadri(), Testi{"Impossible to find FTD2XX.dll\rPlease install USB Driver"});
-    EXPECT_EQ(b.ambiente.riquadri[0].icona, Icona::Esclamazione);
-    EXPECT_EQ(b.usb.Quante("lista"), 0u);
+TEST(PortaUsb, ADriverThatCannotBeCalledIsToldOnceAndAnAbsentOneNever) {
+    for (const bool installato : {true, false}) {
+        BancoUsb b;
+        b.usb.chiamabile = false;
+        b.usb.installato = installato;
+        EXPECT_FALSE(b.porta.ApriPorta(true) || b.porta.ApriPorta(true) || b.porta.ChiudiPorta());
+        EXPECT_EQ(b.porta.link.UsbNonDisponibile, installato);
+        EXPECT_EQ(b.porta.link.DriverUsbSegnalato, installato);
+        EXPECT_EQ(b.Riquadri(),
+                  installato ? Testi{"Impossible to find FTD2XX.dll\rPlease install USB Driver"}
+                             : Testi{});
+    }
 }
 
 TEST(PortaUsb, ASendOnAClosedLinkOpensItSilently) {
@@ -161,9 +135,9 @@ TEST(SvuotaUsb, LeavesWhenTheUserGivesUpOrThePurgeFails) {
     EXPECT_NEAR(b.Trascorsi(), 0.1, 0.031);
     b.stato.AbbandonaComandi = false;
     b.usb.statoSvuota = 1;
-    const double secondo = b.ambiente.ora += 0.05;
+    b.inizio = b.ambiente.ora += 0.05;
     b.porta.SvuotaRicezione();
-    EXPECT_EQ(b.ambiente.ora, secondo);
+    EXPECT_EQ(b.Trascorsi(), 0);
 }
 
 } // namespace

@@ -29,13 +29,6 @@ TEST(LogTraffico, TimesSeparatorAndLabel) {
                                                               "\t\tRBW=OK\t43200.13\tM100T090\r\n");
 }
 
-TEST(LogTraffico, TheSeparatorWaitsForALine) {
-    BancoSeriale b;
-    b.stato.SeparaLog = true;
-    Scambia(b);
-    EXPECT_TRUE(b.stato.SeparaLog);
-}
-
 TEST(LogTraffico, EachReplyOnceWithItsVerdict) {
     BancoAperto b("/LOGRISPOSTE");
     b.peer.RispondiInFila({"RBW=ERR\r\n", "RBW=", "", " RBW\r=OK \r\n"});
@@ -50,12 +43,6 @@ TEST(LogTraffico, AReplyThatNobodyJudgedStandsBeforeTheNextCommand) {
     InviaGrezzo(b.r, "#SSTP*");
     InviaGrezzo(b.r, "#ASBK*");
     EXPECT_EQ(b.File("LOGCR.TXT"), "#?DET*\r\n\t\tDET=1;\r\n#SSTP*\r\n#ASBK*\r\n");
-}
-
-TEST(LogTraffico, TextGoesOutInTheCodePage) {
-    BancoAperto b("/LOGCOMANDI");
-    InviaGrezzo(b.r, "#SLIC 1,\u00B5V*");
-    EXPECT_EQ(b.File("LOGCOMANDI.TXT"), "#SLIC 1,\xB5V*\r\n");
 }
 
 TEST(LogTraffico, ALogThatCannotBeWrittenDisturbsNothing) {

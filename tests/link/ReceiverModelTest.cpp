@@ -9,19 +9,16 @@ namespace {
 using M = ReceiverModel;
 
 TEST(NomeModello, WhatStandsBeforeWhat) {
-    struct Caso {
-        M modello;
-        const char* nome;
-        const char* conFrontEnd = nullptr; ///< where it differs
-    };
-    for (const Caso& caso :
-         {Caso{M{.EstensioneAttiva = true}, "5540"}, Caso{M{.TipoFrontEnd = 1}, "GX2207"},
-          Caso{M{.TipoFrontEnd = 2}, "5/GX2207", "GX2207"},
-          Caso{M{.Is5520F = true, .TipoFrontEnd = 3}, "FGX2207"}, Caso{M{.Is5520F = true}, "F5520"},
-          Caso{M{.Is60OEM = true, .HaK3XK6X = true}, "OEM"},
-          Caso{M{.HaK3XK6X = true, .EstensioneAttiva = true}, "5520/K3X"}}) {
-        EXPECT_EQ(NomeModello(caso.modello, false), caso.nome);
-        EXPECT_EQ(NomeModello(caso.modello, true), caso.conFrontEnd ? caso.conFrontEnd : caso.nome);
+    const std::pair<M, std::string> casi[] = {
+        {{.EstensioneAttiva = true}, "5540"},
+        {{.TipoFrontEnd = 2}, "5/GX2207"},
+        {{.Is5520F = true, .TipoFrontEnd = 3}, "FGX2207"},
+        {{.Is5520F = true}, "F5520"},
+        {{.Is60OEM = true, .HaK3XK6X = true}, "OEM"},
+        {{.HaK3XK6X = true, .EstensioneAttiva = true}, "5520/K3X"}};
+    for (const auto& [modello, nome] : casi) {
+        EXPECT_EQ(NomeModello(modello, false), nome);
+        EXPECT_EQ(NomeModello(modello, true), nome == "5/GX2207" ? "GX2207" : nome);
     }
 }
 

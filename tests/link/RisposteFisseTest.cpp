@@ -19,23 +19,6 @@ TEST(RisposteFisse, TheFirstKeyInTheOrderOfTheTableDecides) {
         EXPECT_EQ(RisposteFisse(comando), risposta) << comando;
 }
 
-TEST(RisposteFisse, OnlyThe3360FamilyGetsThem) {
-    BancoAperto b;
-    b.peer.alComando = [&](const std::string& comando) {
-        b.peer.Rispondi(comando.substr(2, 3) + "=OK\r\n");
-    };
-    ImpostaPulseLim(b.r, true);
-    EXPECT_EQ(b.peer.scritti, Testi{"#SPLMON*"});
-    b.r.modello.Is3360 = true;
-    ImpostaPulseLim(b.r, true);
-    ImpostaBWIF(b.r, 3);
-    EXPECT_EQ(InviaComando(b.r, 0.7, "#?BAT*", true), "---");
-    EXPECT_EQ(LeggiFiltriMil(b.r), false);
-    EXPECT_EQ(LeggiPreselettore(b.r), "***");
-    EXPECT_EQ(b.peer.scritti, (Testi{"#SPLMON*", "#SRBW3*"}));
-    EXPECT_EQ(b.finestra.fatti, Testi{});
-}
-
 /// Every setter that the family answers for itself must take that answer for a success.
 TEST(RisposteFisse, NoSetterRefusesItsCannedReply) {
     for (const VoceImpostazione& voce : TabellaImpostazioni()) {

@@ -13,17 +13,10 @@ using namespace prova;
 
 const ReceiverCommand kFiltro = {"#SRBW3*", "set BW IF", {"RBW", "OK"}};
 
-TEST(InviaImpostazione, BothTextsMustOccur) {
-    BancoAperto b;
-    b.peer.RispondiInFila({"RBW=OK\r\n", "TGS=N/A\r\n", "TGS =OK\r\n"});
-    InviaImpostazione(b.r, {"#STGSON*", "set RF Out", {"TGS", "OK"}}, true);
-    EXPECT_EQ(b.peer.scritti.size(), 3u);
-    EXPECT_EQ(b.finestra.fatti, Testi{});
-}
-
 TEST(InviaImpostazione, FourTriesInSilenceThenTheBanner) {
     BancoAperto b;
-    b.peer.RispondiInFila({"", "", "", "RBW=OK\r\n"});
+    b.peer.RispondiInFila(
+        {"", "RBW=N/A\r\n", "TGS=OK\r\n", "RBW =OK\r\n"}); // both texts must occur
     InviaImpostazione(b.r, kFiltro, true);
     EXPECT_EQ(b.peer.scritti.size(), 4u);
     EXPECT_EQ(b.finestra.fatti, Testi{});
@@ -64,21 +57,6 @@ TEST(InviaImpostazione, TheUserGivesUpWhileItRetries) {
     }
 }
 
-TEST(InviaImpostazione, BehindAnAbortACommandStillGoesOutOnce) {
-    BancoAperto b;
-    b.stato.AbbandonaComandi = true;
-    ImpostaRFOut(b.r, false);
-    EXPECT_EQ(b.peer.scritti, Testi{"#STGSOFF*"});
-}
-
-TEST(InviaImpostazione, AClosedPortRetriesAtAReceiversPace) {
-    BancoSeriale b;
-    b.ambiente.Fra(60, [&] { b.stato.AbbandonaComandi = true; });
-    InviaImpostazione(b.r, kFiltro, true);
-    EXPECT_LT(b.ambiente.giri, 1000u);
-    EXPECT_EQ(b.finestra.Quanti("mostra Error set BW IF"), 1u);
-}
-
 TEST(InviaImpostazione, ARefusalAtOnceDoesNotRace) {
     BancoAperto b;
     b.peer.alComando = [&](const std::string&) {
@@ -105,31 +83,10 @@ TEST(InviaImpostazione, TheInputOfAnOemModelAnswersLate) {
 
 TEST(Interroga, ThreeSilentRetriesThenTheBannerAndOn) {
     BancoAperto b;
-    b.peer.RispondiInFila({"", "", "", "", "", "UPP=4\r\n"});
-    EXPECT_EQ(LeggiUserPort(b.r), 4);
+    b.peer.RispondiInFila({"", "UPP=x\r\n", "ABC=4\r\n", "UPP=3.5\r\n", "", "UPP =4 \r\n"});
+    EXPECT_EQ(LeggiUserPort(b.r), 4) << "a wrong reply is no reply";
     EXPECT_EQ(b.peer.scritti, Testi(6, "#?UPP*"));
     EXPECT_EQ(b.finestra.fatti, (Testi{"mostra Error Read User Port", "nascondi"}));
-}
-
-TEST(Interroga, AWrongReplyIsNoReply) {
-    BancoAperto b;
-    b.peer.RispondiInFila({"UPP=x\r\n", "ABC=4\r\n", "UPP=3.5\r\n", "UPP =12 \r\n"});
-    EXPECT_EQ(LeggiUserPort(b.r), 12);
-    EXPECT_EQ(b.finestra.fatti, Testi{});
-}
-
-TEST(Interroga, ARefusedAnswerOfTheConsoleItselfDoesNotRace) {
-    BancoAperto b;
-    b.r.modello.Is3360 = true;
-    b.ambiente.Fra(10, [&] { b.stato.AbbandonaComandi = true; });
-    int letture = 0;
-    EXPECT_FALSE(Interroga(b.r, "#?CKR*", "click", [&](const std::string&) {
-        b.ambiente.ora += 1e-5; // a clock never stands still
-        ++letture;
-        return false;
-    }));
-    EXPECT_LE(letture, 110);
-    EXPECT_EQ(b.peer.scritti, Testi{});
 }
 
 TEST(MostraErrore, TheSameDescriptionIsNotShownAgain) {
@@ -158,6 +115,14 @@ TEST(TimerError, BlinksUntilTheUserGivesUp) {
     EXPECT_EQ(b.finestra.fatti,
               (Testi{"mostra Error set Level", "scambiata", "diritta", "scambiata", "nascondi"}));
     EXPECT_FALSE(b.stato.strisciaScambiata);
+}
+
+TEST(InviaImpostazione, AClosedPortRetriesAtAReceiversPace) {
+    BancoSeriale b;
+    b.ambiente.Fra(60, [&] { b.stato.AbbandonaComandi = true; });
+    InviaImpostazione(b.r, kFiltro, true);
+    EXPECT_LT(b.ambiente.giri, 1000u);
+    EXPECT_EQ(b.finestra.Quanti("mostra Error set BW IF"), 1u);
 }
 
 } // namespace

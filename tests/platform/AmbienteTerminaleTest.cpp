@@ -35,15 +35,8 @@ double QuotaDiAttesa(Ambiente& ambiente, double passoS) {
 }
 
 TEST(AmbienteTerminale, ABoxIsALineWithItsAnswer) {
-    struct Caso {
-        const char* testo;
-        Pulsanti pulsanti;
-        std::optional<bool> risposta;
-        Risposta attesa;
-        const char* riga;
-    };
     using enum Pulsanti;
-    const Caso casi[] = {
+    const std::tuple<const char*, Pulsanti, std::optional<bool>, Risposta, const char*> casi[] = {
         {"Over?", SiNo, {}, Risposta::No, "Over? -> No"},
         {"Over?", SiNo, false, Risposta::No, "Over? -> No"},
         {"Over?", SiNo, true, Risposta::Si, "Over? -> Yes"},
@@ -55,22 +48,13 @@ TEST(AmbienteTerminale, ABoxIsALineWithItsAnswer) {
         {"No X\ron the bus.\r", Ok, {}, Risposta::Ok, "No X on the bus. -> OK"},
         {"one\r\n\r\ntwo", Ok, {}, Risposta::Ok, "one two -> OK"},
         {"dB\xC2\xB5V \x1B[2J\x7F.", Ok, {}, Risposta::Ok, "dB\xC2\xB5V  [2J . -> OK"}};
-    for (const Caso& caso : casi) {
+    for (const auto& [testo, pulsanti, risposta, attesa, riga] : casi) {
         SorvegliaLink sorveglia;
-        AmbienteTerminale ambiente(sorveglia, "", caso.risposta);
+        AmbienteTerminale ambiente(sorveglia, "", risposta);
         testing::internal::CaptureStderr();
-        EXPECT_EQ(ambiente.Mostra({.testo = caso.testo, .pulsanti = caso.pulsanti}), caso.attesa);
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), "[box] " + std::string(caso.riga) + "\n");
+        EXPECT_EQ(ambiente.Mostra({.testo = testo, .pulsanti = pulsanti}), attesa);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "[box] " + std::string(riga) + "\n");
     }
-}
-
-TEST(AmbienteTerminale, ReportsAFaultOfItsOwn) {
-    SorvegliaLink sorveglia;
-    AmbienteTerminale ambiente(sorveglia, "orvane /LOGCOMANDI", std::nullopt);
-    EXPECT_EQ(ambiente.RigaComando(), "orvane /LOGCOMANDI");
-    testing::internal::CaptureStderr();
-    ambiente.SegnalaDifetto("a send\ninside a send");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "internal fault: a send inside a send\n");
 }
 
 TEST(AmbienteTerminale, TheCalendarIsTheLocalOne) {
@@ -96,17 +80,6 @@ TEST(AmbienteTerminale, BytesOfTheLinkEndAWaitForThem) {
     ambiente.ElaboraEventi(kALungo, Veglia::EventiELink);
     EXPECT_TRUE(disturbo.SonoSveglio());
     EXPECT_EQ(l.ArrivatiAllaPorta(8), Byte("SFD=OK\r\n"));
-}
-
-TEST(AmbienteTerminale, APlainWaitGoesItsWholeTimeWhateverTheLinkDoes) {
-    Linea l;
-    ASSERT_EQ(l.Apri(), EsitoApertura::Aperto);
-    ASSERT_EQ(l.pseudo.Scrivi(Byte("bytes")), 5U);
-    l.sorveglia.senzaAvviso = true;
-    AmbienteTerminale ambiente(l.sorveglia, "", std::nullopt);
-    const double inizio = ambiente.Adesso();
-    ambiente.ElaboraEventi(0.05, Veglia::Eventi);
-    EXPECT_GE(ambiente.Adesso() - inizio, 0.05);
 }
 
 TEST(AmbienteTerminale, ASilentLineCostsNoProcessorTime) {
@@ -169,14 +142,6 @@ TEST(AmbienteTerminale, CtrlCOfAProgramThatDoesNotListenEndsIt) {
         testing::KilledBySignal(SIGINT), "");
 }
 
-TEST(AmbienteTerminale, PutsTheOldHandlersBack) {
-    SorvegliaLink sorveglia;
-    { const AmbienteTerminale ambiente(sorveglia, "", std::nullopt); }
-    struct sigaction azione = {};
-    ASSERT_EQ(sigaction(SIGINT, nullptr, &azione), 0);
-    EXPECT_EQ(azione.sa_handler, SIG_DFL);
-}
-
 TEST(AmbienteTerminale, TheClocksTurnComesDuringALongWaitAndNeverInsideItself) {
     SorvegliaLink sorveglia;
     AmbienteTerminale ambiente(sorveglia, "", std::nullopt);
@@ -191,6 +156,15 @@ TEST(AmbienteTerminale, TheClocksTurnComesDuringALongWaitAndNeverInsideItself) {
     ambiente.ElaboraEventi(kALungo, Veglia::Eventi);
     EXPECT_EQ(giri, 2);
     EXPECT_TRUE(disturbo.SonoSveglio());
+}
+
+TEST(AmbienteTerminale, ReportsAFaultOfItsOwn) {
+    SorvegliaLink sorveglia;
+    AmbienteTerminale ambiente(sorveglia, "orvane /LOGCOMANDI", std::nullopt);
+    EXPECT_EQ(ambiente.RigaComando(), "orvane /LOGCOMANDI");
+    testing::internal::CaptureStderr();
+    ambiente.SegnalaDifetto("a send\ninside a send");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "internal fault: a send inside a send\n");
 }
 
 } // namespace

@@ -66,22 +66,14 @@ TEST(PorteSistema, ListsTheKindsInOrderAndEachByNumber) {
                              "ttyUSBx", "null", "ttyprintk"})
         m.Dispositivo(nome);
     m.Uart("ttyS0", "4");
+    m.Uart("ttyS1", "0"); // UARTs that are only names
+    m.Uart("ttyS2", "4", false);
+    m.Dispositivo("ttyS3");
     EXPECT_EQ(
         m.Elenca(),
         (Righe{"Communications Port (COM1) = dev/ttyS0", "USB Serial Port (COM2) = dev/ttyUSB2",
                "USB Serial Port (COM3) = dev/ttyUSB10", "USB Modem Port (ACM) (COM4) = dev/ttyACM0",
                "Standard Serial over Bluetooth link (COM5) = dev/rfcomm0"}));
-}
-
-TEST(PorteSistema, LeavesOutUartsThatAreOnlyNames) {
-    Macchina m;
-    m.Uart("ttyS0", "0");
-    m.Uart("ttyS1", "4");
-    m.Uart("ttyS2", "4", false);
-    m.Dispositivo("ttyS3");
-    m.Dispositivo("ttyUSB0");
-    EXPECT_EQ(m.Elenca(), (Righe{"Communications Port (COM2) = dev/ttyS1",
-                                 "USB Serial Port (COM1) = dev/ttyUSB0"}));
 }
 
 TEST(PorteSistema, LinksWinTheirNumbersFromTheDevices) {
@@ -115,29 +107,18 @@ TEST(PorteSistema, LinksAreTakenByNameInAnyCaseFrom1To99) {
 
 TEST(PorteSistema, ALinkIsNamedAfterWhatItPointsTo) {
     Macchina m;
-    m.Usb("ttyUSB0", "FT232R USB UART\n", "1-1:1.0/ttyUSB0");
+    m.Usb("ttyUSB0", "  FT232R USB UART \n", "1-1:1.0/ttyUSB0");
+    m.Usb("ttyUSB2", "Cable (COM9)\n", "1-1:1.0/ttyUSB2"); // would be taken for a number
+    m.Usb("ttyACM0", "KRV 3360\n", "1-1:1.0");
     m.Scrivi(m.dev / "serial" / "x", "");
     fs::create_symlink("../ttyUSB0", m.dev / "serial" / "by-name");
     m.Legame("COM1", "../dev/serial/by-name");
     m.Legame("COM2", "/dev/rfcomm3"); // not bound yet
-    EXPECT_EQ(m.Elenca(), (Righe{"FT232R USB UART (COM1) = Ports/COM1",
-                                 "Standard Serial over Bluetooth link (COM2) = Ports/COM2",
-                                 "FT232R USB UART (COM3) = dev/ttyUSB0"}));
-}
-
-TEST(PorteSistema, UsbDevicesAreNamedByTheirProduct) {
-    Macchina m;
-    m.Usb("ttyUSB0", "  FT232R USB UART \n", "1-1:1.0/ttyUSB0");
-    m.Usb("ttyUSB1", "\n", "1-1:1.0/ttyUSB1");
-    m.Usb("ttyUSB2", "Cable (COM9)\n", "1-1:1.0/ttyUSB2"); // would be taken for a number
-    m.Usb("ttyACM0", "KRV 3360\n", "1-1:1.0");
     EXPECT_EQ(m.Elenca(),
-              (Righe{"FT232R USB UART (COM1) = dev/ttyUSB0", "USB Serial Port (COM2) = dev/ttyUSB1",
-                     "USB Serial Port (COM3) = dev/ttyUSB2", "KRV 3360 (COM4) = dev/ttyACM0"}));
-}
-
-TEST(PorteSistema, AMachineWithoutAnyOfItHasNoPorts) {
-    EXPECT_TRUE(PorteSistema("/nowhere/Ports", "/nowhere/dev", "/nowhere/sys").Elenca().empty());
+              (Righe{"FT232R USB UART (COM1) = Ports/COM1",
+                     "Standard Serial over Bluetooth link (COM2) = Ports/COM2",
+                     "FT232R USB UART (COM3) = dev/ttyUSB0", "USB Serial Port (COM4) = dev/ttyUSB2",
+                     "KRV 3360 (COM5) = dev/ttyACM0"}));
 }
 
 } // namespace

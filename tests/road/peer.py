@@ -152,7 +152,7 @@ class Peer:
 
     regole: replies by the beginning of a command without "#" ("?IDN", "SDIS"); text gets its CR LF,
     bytes go as they are, None is silence, a list is worked off and its last entry stays, a callable
-    is asked. muto: no reply to anything. ritardo: seconds before each reply. spezza: every byte by
+    is asked. A sweep told to pause stands still until it is resumed. muto: no reply to anything. ritardo: seconds before each reply. spezza: every byte by
     itself. flussi: a Flusso for each sweep command, the last one stays."""
 
     def __init__(self, modello="5520", fw=FIRMWARE, regole=None, flussi=None, muto=False,
@@ -165,6 +165,7 @@ class Peer:
         self.campioni = []  # samples of each sweep, as far as they went out
         self.staccato = False
         self._coda, self._flusso, self._entrata = [], None, b""
+        self.fermo = False  # a sweep stands still
         self._libero = 0.0  # nothing goes out before this moment
         self._padrone, self._guardiano = os.openpty()
         tty.setraw(self._guardiano)
@@ -206,7 +207,8 @@ class Peer:
                 return
             resto = self._libero - time.monotonic()
             scrivere = bool(self._coda) and resto <= 0
-            attesa = max(resto, 0) if self._coda or self._flusso else 1.0
+            attende = self._coda or (self._flusso and not self.fermo)
+            attesa = max(resto, 0) if attende else 1.0
             pronti, scrivibili, _ = select.select(
                 [self._padrone, self._leggi_sveglia],
                 [self._padrone] if scrivere else [], [], 1.0 if scrivere else attesa,
@@ -220,7 +222,8 @@ class Peer:
 
     def _Carica(self):
         """Takes the next piece of a running stream, when the one before has gone."""
-        while self._flusso and not self._coda and self._libero <= time.monotonic():
+        while self._flusso and not self._coda and not self.fermo \
+                and self._libero <= time.monotonic():
             pezzo = next(self._flusso, None)
             if pezzo is None:
                 self._flusso = None
@@ -254,11 +257,12 @@ class Peer:
             self._flusso = flusso.Pezzi(comando)
             return
         if comando[1:5] in ("ASBK", "SSTP"):
-            self._flusso, self._coda = None, []
+            self._flusso, self._coda, self.fermo = None, [], False
         risposta = self._Risposta(comando)
         while callable(risposta):
             risposta = risposta(self, comando)
         if risposta is None:
+            self.fermo = {"ASPA": True, "ASRE": False}.get(comando[1:5], self.fermo)
             return
         if isinstance(risposta, str):
             risposta = risposta.encode("cp1252") + CRLF

@@ -39,14 +39,15 @@ class ProvaCheck(ProvaStrada):
         senza_sel = {"PreSel": 0}
         casi = {
             "a table in order": ("5520", [Banda(0.15, 30, 2, 0.005, (0, 1, 3))], None, []),
-            # Attenuation of 40 dB is too much here, and a turned span leaves no step. The unit in charge
-            # follows from the first line, so that the second has no 120 kHz.
+            # Attenuation of 40 dB is too much here, and a turned span leaves no step.
             "5520": ("5520", [Banda(0.15, 30, 2, 0.005, MinAtt=4), Banda(40, 30, 1, 0.1)], None, [
                 (7, [], "asked"),
                 (8, [(2, START), (2, STOP)], "stop"),
-                (10, [(2, RBW)], "stop"),
                 (14, [(2, START), (2, STOP)], "stop"),
                 (16, [(1, ATT)], "stop")]),
+            # After Yes each line asks for its unit: its filter is its own matter.
+            "5520, B and C": ("5520", [Banda(0.15, 30, 2, 0.005), Banda(30, 300, 1, 0.1)], "yes", [
+                (7, [], "asked")]),
             # ...and here it is not; the preselector is fixed.
             "5590": ("5590", [Banda(7000, 9000, 0, 0.25, MinAtt=4, PreAmp=1, **senza_sel)], None, [
                 (20, [(1, PREAMP), (1, ATT)], "stop"),

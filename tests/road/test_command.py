@@ -13,13 +13,13 @@ COMANDO = "#SSFD 150000;30000000;5000;P;10;6;10;OFF;ON;0*"
 
 
 class ProvaCommand(ProvaStrada):
-    def Prepara(self, collegato, riga):
+    def Prepara(self, collegato, *righe):
         setup = bytearray(5094)
         Campo(setup, 3000, "h", collegato)
         pannelli = self.dati / "Panels"
         pannelli.mkdir(exist_ok=True)
         (pannelli / "Untitled.EAM").write_bytes(setup)
-        (pannelli / "T.EST").write_bytes(ScanRecord(riga))
+        (pannelli / "T.EST").write_bytes(ScanRecord(*righe))
 
     def test_passate(self):
         """By what is attached: the passes of a line without selections, and what switches each."""
@@ -46,6 +46,37 @@ class ProvaCommand(ProvaStrada):
             self.assertEqual(
                 chiesti, ["Switch antenna to Vertical", "Switch antenna to Horizontal"]
                 if collegato == 3 else [""] * len(attese))  # fmt: skip
+
+    def test_unita_a_mano(self):
+        """Each line behind the words for the unit that it needs, and as that unit takes it."""
+        self.Prepara(0, ScanLine(0.15, 30, 0.005, 2, HoldTime=10), ScanLine(30, 300, 0.1, 1),
+                     ScanLine(6000, 18000, 0.25, 0), ScanLine(1, 2, 0.005, 2))  # fmt: skip
+        with Peer("5520") as peer:
+            esito = self.Orvane("command", "--scan", "T", peer=peer)
+        accendi = ("[box] Switch OFF 5520. Switch ON the extension unit ({}), wait a couple of seconds, "
+                   "then switch back ON 5520 and click OK.")  # fmt: skip
+        self.assertEqual(esito.out.split("\n"), [
+            "run", *CORSA, "line 1", COMANDO,
+            "line 2", accendi.format("5540 or 5570"),
+            "#SSFD 30000000;300000000;100000;P;0;10;10;OFF;ON;0*",
+            "line 3", accendi.format("5590"),
+            "#SSFD 6000000000;18000000000;250000;P;0;9;10;OFF;OFF;0*",
+            "line 4", "[box] Switch OFF 5520 and 5590 Then switch back ON 5520 only and click OK.",
+            "#SSFD 1000000;2000000;5000;P;0;6;10;OFF;ON;0*", ""], str(esito))  # fmt: skip
+
+    def test_corretto(self):
+        """What the checks of a run would put right is as they would leave it."""
+        riga = ScanLine(0.15, 30, 0.005, 2, (1,), HoldTime=10, AutoStep=0)
+        for modello, tenuta in (("5520", 10), ("5520F", 500)):
+            self.Prepara(0, riga)
+            eam = bytearray(5094)
+            Campo(eam, 2540, "h", 1)  # pulse limiter
+            (self.dati / "Panels" / "Untitled.EAM").write_bytes(eam)
+            with Peer(modello) as peer:
+                righe = self.Riesce("command", "--scan", "T", peer=peer).out.split("\n")
+            self.assertIn("#SPLMOFF*", righe)
+            self.assertEqual([r.split(";")[4] for r in righe if "#SSFD" in r], [str(tenuta)])
+            self.assertEqual((self.dati / "Panels" / "Untitled.EAM").read_bytes(), bytes(eam))
 
     def test_testo_e_rifiuti(self):
         riga = bytearray(ScanLine(0.15, 30, 0.005, 2, HoldTime=10))

@@ -46,11 +46,8 @@ class ProvaGuasti(ProvaStrada):
 
     def test_silenzio_prima_dei_dati(self):
         """In each phase: the words of what was asked, status 3, and next to no processor time."""
-        casi = {
-            "SCFA": "Disabling conv factor", "SDIS": "Dynamics - Ref Level",
-            "SPLM": "set Pulse Limiter", "STGF": "set Frequency Tracking", "?BAT": "Read battery",
-            "?UHT": "Read Hold Time",
-        }  # fmt: skip
+        casi = {"SCFA": "Disabling conv factor", "SDIS": "Dynamics - Ref Level",
+                "?BAT": "Read battery", "?UHT": "Read Hold Time"}  # fmt: skip
 
         def Corpo(comando):
             dati = self.Sottocartella(comando)
@@ -70,14 +67,11 @@ class ProvaGuasti(ProvaStrada):
         """A receiver that stops in mid-word: what had come is stored, whole steps of it."""
         casi = {
             "no acknowledgement": (Flusso(riscontro=b""), 0),
-            "half an acknowledgement": (Flusso(riscontro=b"SFD=O"), 0),
             "no sample": (Flusso(taglia=0), 0),
-            "in mid-sample": (Flusso(taglia=4 * 17 + 1), 17),
             "in mid-step": (Flusso(taglia=4 * 40 + 2), 40),
             "before the mark": (Flusso(taglia=4 * 101), 101),
-            "in the mark": (Flusso(riscontro=b"SFD=OK\r\n", passi=0, coda=b""), 0),
+            "garbage": (Flusso(riscontro=random.Random(5).randbytes(3000).replace(b"OK", b"")), 0),
         }
-        casi["in the mark"] = (Flusso(taglia=4 * 101, fine=False, coda=b""), 101)
 
         def Corpo(nome):
             flusso, passi = casi[nome]
@@ -102,17 +96,6 @@ class ProvaGuasti(ProvaStrada):
         self.assertLessEqual(self.MisuraIntera(peer.campioni[0], [0]), 60)
         self.assertLess(esito.processore, 1)
 
-    def test_linea_occupata(self):
-        """A second console on the same line is told so, and disturbs nothing."""
-        self.Tabella("T", BREVE)
-        with Peer(flussi=[Flusso(pausa=0.02, pezzi=4)]) as peer:
-            prima = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
-            self.assertTrue(peer.Aspetta(lambda: peer.campioni))
-            seconda = self.Orvane("identify", peer=peer)
-            self.assertEqual(seconda.codice, 3, str(seconda))
-            self.assertEqual(prima.Attendi().codice, 0)
-        self.assertEqual(self.MisuraIntera(peer.campioni[0], [0]), 101)
-
     def test_dati_senza_fine(self):
         """More steps than the line has: all are kept, and the run ends with the mark."""
         self.Tabella("T", BREVE)
@@ -120,15 +103,6 @@ class ProvaGuasti(ProvaStrada):
             esito = self.Sweep(peer=peer)
         self.assertEqual(esito.codice, 0, str(esito))
         self.assertEqual(self.MisuraIntera(peer.campioni[0], [0]), 500)
-
-    def test_riga_di_fumo(self):
-        """Garbage in place of the acknowledgement ends in the time-out, not in a trace."""
-        self.Tabella("T", BREVE)
-        fumo = random.Random(5).randbytes(3000).replace(b"\r\n", b"")
-        with Peer(regole={"SSFD": fumo}) as peer:
-            esito = self.Sweep(peer=peer)
-        self.assertEqual(esito.codice, 3, str(esito))
-        self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 0)
 
 
 class ProvaFermata(ProvaStrada):
@@ -157,11 +131,6 @@ class ProvaFermata(ProvaStrada):
         self.assertGreater(len(self.Riesce("trace", "M").out.splitlines()), 500)
         self.assertIn("M\t", self.Riesce("archive").out)
 
-    def test_sigterm(self):
-        esito, peer = self.Fermata(signal.SIGTERM)
-        self.assertEqual(esito.codice, 5, str(esito))
-        self.assertIn("#ASBK*", peer.comandi[-3:])
-
     def test_kill(self):
         """Killed outright: what is on disk is whole steps, and the measure can be shown."""
         esito, _ = self.Fermata(signal.SIGKILL)
@@ -181,14 +150,6 @@ class ProvaFermata(ProvaStrada):
         self.assertEqual(esito.codice, 5, str(esito))
         self.assertFalse((self.dati / "Sweep" / "M" / "M.RS0").exists())
 
-    def test_fermata_di_identify(self):
-        with Peer(muto=True) as peer:
-            corsa = self.Avvia("identify", peer=peer)
-            self.assertTrue(peer.Aspetta(lambda: peer.comandi))
-            corsa.Segnala()
-            esito = corsa.Attendi(10)
-        self.assertEqual(esito.codice, 5, str(esito))
-
 
 class ProvaDisco(ProvaStrada):
     def test_radice_non_scrivibile(self):
@@ -200,12 +161,6 @@ class ProvaDisco(ProvaStrada):
         self.assertEqual(esito.codice, 4, str(esito))
         self.assertRegex(esito.err, r"\[box\] Cannot open file .*\\Sweep\\M\\M\.KSH -> OK")
         self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
-
-    def test_pannelli_non_scrivibili(self):
-        (self.dati / "Panels").write_text("in the way")
-        esito = self.Orvane("scan", "add", "T", "--band", "B")
-        self.assertEqual(esito.codice, 4, str(esito))
-        self.assertIn("Cannot open file", esito.err)
 
     def test_disco_pieno(self):
         """The disk fills up in mid-trace, in the middle of a step: whole steps stay, status 4."""
@@ -240,11 +195,8 @@ class ProvaDisco(ProvaStrada):
         """EPN and EAM of every wrong length, and of random bytes: no crash; a run runs, or is refused
         for what a random set-up asks of the receiver."""
         caso = random.Random(11)
-        lunghezze = [0, 1, 11, 12, 17, 233, 235, 1495, 2095, 2096, 2097, 5093, 5094, 5095, 20000]
-        casi = [(n, caso.randbytes(n)) for n in lunghezze]
-        casi += [(f"zeros {n}", bytes(n)) for n in (2096, 5094)]
-        casi += [(f"ones {n}", b"\xff" * n) for n in (2096, 5094)]
-        casi += [(f"seed {i}", caso.randbytes(5094)) for i in range(6)]
+        casi = [(n, caso.randbytes(n)) for n in (0, 1, 235, 2095, 2096, 5093, 5094, 20000)]
+        casi += [("zeros", bytes(5094)), ("ones", b"\xff" * 5094)]
 
         def Corpo(voce):
             nome, byte = voce
@@ -253,8 +205,6 @@ class ProvaDisco(ProvaStrada):
             for file in ("Untitled.EPN", "Untitled.EAM", "Untitled.PTH"):
                 (dati / "Panels" / file).write_bytes(byte)
             with Peer() as peer:
-                esito = self.Orvane("identify", peer=peer, dati=dati)
-                self.assertEqual(esito.codice, 0, str(esito))
                 esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati,
                                     risposta="yes")  # fmt: skip
             if esito.codice == 1 and len(byte) > 2542:
@@ -263,12 +213,9 @@ class ProvaDisco(ProvaStrada):
                 self.assertEqual(esito.codice, 0, str(esito))
                 rs = self.FileMisura("M", "RS0", dati).read_bytes()
                 self.assertEqual(rs, Passi(peer.campioni[0], [0]))
-            if len(byte) < 2096:
-                self.assertRegex(esito.err, r"\[box\] Failed loading.*Untitled\.EPN -> OK")
-            if len(byte) < 5094:
-                self.assertRegex(esito.err, r"\[box\] Failed loading.*Untitled\.EAM -> OK")
-            # Without a link of its own choice the program asks what is left of the panel.
-            self.assertIn(self.Orvane("identify", dati=dati, pazienza=0.1).codice, (0, 3))
+            for file, intero in (("EPN", 2096), ("EAM", 5094)):
+                detto = f"Untitled.{file} -> OK" in esito.err
+                self.assertEqual(detto, len(byte) < intero, esito.err)
 
         InParallelo(self, casi, Corpo)
 
@@ -276,13 +223,13 @@ class ProvaDisco(ProvaStrada):
         """A scan table torn at any length, or of random bytes, is refused or repaired, never worse."""
         caso = random.Random(13)
         buona = ScanRecord(ScanLine(0.15, 1.15, 0.01, 2, AutoStep=0))
-        casi = [(n, buona[:n]) for n in (0, 1, 5, 1199, 1200, 12675)]
-        casi += [(f"seed {i}", caso.randbytes(12676)) for i in range(8)]
-        for nome, campo in {"nan": float("nan"), "inf": float("inf"), "big": 1e300}.items():
+        casi = [(n, buona[:n]) for n in (0, 1200, 12675)]
+        casi += [(f"seed {i}", caso.randbytes(12676)) for i in range(4)]
+        for campo in (float("nan"), 1e300):
             rotta = bytearray(buona)
             struct.pack_into("<d", rotta, 12, campo)
             struct.pack_into("<d", rotta, 24, 5e-324)
-            casi.append((nome, bytes(rotta)))
+            casi.append((str(campo), bytes(rotta)))
 
         def Corpo(voce):
             nome, byte = voce
@@ -305,7 +252,7 @@ class ProvaDisco(ProvaStrada):
             self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
         ksh, rs = self.FileMisura("M", "KSH"), self.FileMisura("M", "RS0")
         header, traccia = ksh.read_bytes(), rs.read_bytes()
-        for n in (0, 1, 1200, 12676, 17769):
+        for n in (0, 12676, 17769):
             with self.subTest(lunghezza=n):
                 ksh.write_bytes(header[:n])
                 esito = self.Orvane("trace", "M")
@@ -313,16 +260,12 @@ class ProvaDisco(ProvaStrada):
                 self.assertRegex(esito.err, r"Failed loading.*M\.KSH")
                 self.assertIn("header damaged", self.Riesce("archive").out)
         ksh.write_bytes(header)
-        for n in (0, 11, 12, 25, len(traccia) - 1):
+        for n in (0, 11, 12, len(traccia) - 1):
             with self.subTest(traccia=n):
                 rs.write_bytes(traccia[:n])
                 righe = self.Riesce("trace", "M").out.splitlines()
                 self.assertEqual(len(righe) - 1, n // 12)
                 self.assertIn(f"\t{n // 12} steps", self.Riesce("archive").out)
-        rs.unlink()
-        self.assertEqual(self.Riesce("trace", "M").out, "frequency_mhz,level_db,line\n")
-        ksh.write_bytes(random.Random(1).randbytes(17770))
-        self.assertIn(self.Orvane("trace", "M").codice, (0, 2, 4))
 
 
 if __name__ == "__main__":

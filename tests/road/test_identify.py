@@ -12,32 +12,16 @@ BCD = ["#?BCD*", *OPZIONI]
 # model of the peer: commands between start and serial number; model, extension, mil, fmin, fmax.
 FORME = {
     "5520": (BCD, "5520", "none", "yes", "0.00001", "30.1"),
-    "5540": (BCD, "5540", "5540", "yes", "28", "3000"),
     "5570": (BCD, "5570", "5570", "yes", "28", "6000"),
-    "5590": (BCD, "5590", "5590", "yes", "6000.001", "18000"),
     "5520+GX2207": (BCD, "5/GX2207", "none", "yes", "0.009", "30.1"),
     "K3X low": (["#?BCD*", "#?3PR*", *OPZIONI], "5520/K3X", "none", "yes", "0.00001", "30.1"),
-    "60 OEM low": (["#?BCD*", "#?3PR*", *OPZIONI], "OEM", "none", "yes", "0.00001", "30.1"),
-    "5520F": (["#?CO6*", *OPZIONI], "5520/60OEM", "none", "yes", "0.00001", "30.1"),
     "5520F rad": (["#?CO6*", *OPZIONI], "5520/60OEM", "none", "yes", "28", "6000"),
     "VSD3": (["#?LNK*", "#?CO6*", *OPZIONI], "5520/VSD3", "none", "yes", "0.00001", "30.1"),
-    "T4470K": (["#?LNK*", "#?CO6*", *OPZIONI], "5520/T4470K", "none", "yes", "30", "6000"),
-    "GX2207": (BCD, "GX2207", "none", "yes", "0.009", "30.1"),
-    "TB05": (BCD, "GX2207", "none", "yes", "0.009", "30.1"),
     "GX2207F": (BCD, "FGX2207", "none", "yes", "0.009", "30.1"),
     # The 3360 family lacks "#?MIL*": its answer is canned and nothing goes out.
-    "3360": (["#?3PR*", "#?CRA*"], "3360", "none", "no", "0.15", "30.1"),
-    "3360/00": (["#?3PR*", "#?CRA*"], "3360/00", "none", "no", "0.15", "30.1"),
     "3360/01": (["#?3PR*", "#?CRA*"], "3360/01", "none", "no", "0.009", "30.1"),
-    "3360/02 rad": (["#?3PR*", "#?CRA*"], "3360/02", "none", "no", "28", "1000"),
     "3360/03 rad": (["#?3PR*", "#?CRA*"], "3360/03", "none", "no", "28", "3000"),
 }
-ALTE = {
-    "K3X high": ("5520/K3X", "28", "3000"),
-    "K0X high": ("5520/K0X", "28", "300"),
-    "K6X high": ("5520/K6X", "28", "6000"),
-}
-
 # firmware text: options asked, mil, rmsavg. Each threshold is the first version that asks.
 FIRMWARE = {
     "1.76 01/02/03": ([], "no", "yes"),
@@ -70,15 +54,7 @@ class ProvaIdentify(ProvaStrada):
             self.assertEqual(peer.estranei, b"")
 
         InParallelo(self, FORME, Corpo)
-
-    def test_gamma_alta(self):
-        def Corpo(forma):
-            modello, fmin, fmax = ALTE[forma]
-            with Peer(forma, regole={"?3PR": f"3PR=RAD;{fmin},{fmax},"}) as peer:
-                voci = Voci(self.Identifica(peer))
-            self.assertEqual((voci["model"], voci["fmin"], voci["fmax"]), (modello, fmin, fmax))
-
-        InParallelo(self, ALTE, Corpo)
+        self.assertEqual(list(self.dati.iterdir()), [])  # nothing is written
 
     def test_soglie_del_firmware(self):
         def Corpo(firmware):
@@ -113,10 +89,8 @@ class ProvaIdentify(ProvaStrada):
 
     def test_json(self):
         with Peer("5570") as peer:
-            esito = self.Identifica(peer, "--json")
-        attese = {"model": "5570", "firmware": "2.20 12/03/18", "serial": "KR-0042",
-                  "extension": "5570", "mil": True, "rmsavg": True, "fmin": 28, "fmax": 6000}  # fmt: skip
-        self.assertEqual(json.loads(esito.out), attese)
+            voci = json.loads(self.Identifica(peer, "--json").out)
+        self.assertEqual((voci["mil"], voci["fmin"], voci["serial"]), (True, 28, "KR-0042"))
 
     def test_nessuno_risponde(self):
         """The banner comes after four tries; patience ends the wait, and it costs no processor."""
@@ -162,11 +136,6 @@ class ProvaIdentify(ProvaStrada):
             forzato = self.Orvane("--link", "com:1", "COMM=3", "identify")
             self.assertEqual(Voci(forzato).get("model"), "5520", str(forzato))
         self.assertEqual(peer.comandi.count("#?IDN*"), 2)
-
-    def test_non_scrive_niente(self):
-        with Peer() as peer:
-            self.Identifica(peer)
-        self.assertEqual(list(self.dati.iterdir()), [])
 
 
 if __name__ == "__main__":

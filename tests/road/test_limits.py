@@ -21,12 +21,9 @@ def f32(value):
     return struct.unpack("<f", struct.pack("<f", value))[0]
 
 
-def next_up(value):
-    return struct.unpack("<f", struct.pack("<I", struct.unpack("<I", struct.pack("<f", value))[0] + 1))[0]
-
-
-def next_down(value):
-    return struct.unpack("<f", struct.pack("<I", struct.unpack("<I", struct.pack("<f", value))[0] - 1))[0]
+def next_to(value, places):
+    bits = struct.unpack("<I", struct.pack("<f", value))[0]
+    return struct.unpack("<f", struct.pack("<I", bits + places))[0]
 
 
 def record(points, lin=0, hint=0, title=b""):
@@ -80,7 +77,7 @@ class Limits(unittest.TestCase):
         return words
 
     def probes(self, points, rng, count):
-        probes = [f for point in points for f in (next_down(point[0]), point[0], next_up(point[0]))]
+        probes = [f for point in points for f in (next_to(point[0], n) for n in (-1, 0, 1))]
         low, high = math.log(points[0][0] / 2), math.log(points[-1][0] * 2)
         return probes + [f32(math.exp(rng.uniform(low, high))) for _ in range(count)]
 
@@ -130,31 +127,9 @@ class Limits(unittest.TestCase):
         self.assertEqual(said.count("written\t"), 15)
         self.assertEqual((self.data / "Limits/CISPR 15 mains QP.5SL").read_bytes(), b"own")
 
-    def test_old_file_is_converted(self):
-        data = record([(1e6, 100), (2e6, 200)], lin=1)
-        self.put("Limits", "Old.5SL", data[:1262])
-        self.assertEqual(self.values("limit", "Old", [1e6]), ["100"])
-        converted = (self.data / "Limits/Old.5SL").read_bytes()
-        self.assertEqual(len(converted), 1972)
-        self.assertEqual(converted[:1212], data[:1212])
-        self.assertEqual(struct.unpack_from("<hh", converted, 1262), (0, 1))
-
-    def test_wrong_length_is_asked_about(self):
-        self.put("Limits", "Torn.5SL", record([(1e6, 100), (2e6, 200)])[:1500])
-        refused = self.orvane("limit", "value", "Torn", "1e6", status=4)
-        self.assertIn("This file is not as expected", refused.stderr)
-        taken = self.orvane("limit", "value", "Torn", "1e6", options=("--answer", "yes"))
-        self.assertEqual(taken.stdout, "100\n")
-
-    def test_damaged_points_are_told(self):
-        self.put("Limits", "Bad.5SL", record([(3e6, 3), (float("nan"), 9), (1e6, 1)]))
-        shown = self.orvane("limit", "show", "Bad")
-        self.assertIn("damaged points", shown.stderr)
-        self.assertTrue(shown.stdout.endswith("1\t0.01\n3\t0.03\n"), shown.stdout)
-
     def test_text_and_back(self):
         text = self.data / "points.txt"
-        text.write_bytes("0,5 56\r\n0.15;66\r\nnonsense\r\n30\t60,5\r\n".encode())
+        text.write_bytes(b"0,5 56\r\n0.15;66\r\nnonsense\r\n30\t60,5\r\n")
         done = self.orvane("limit", "import", "Mine", text, "--unit", "dBuV/m", "--title", "My limit")
         self.assertIn("Line File: 3.", done.stderr)
         document = json.loads(self.orvane("limit", "show", "Mine", options=("--json",)).stdout)
@@ -165,47 +140,24 @@ class Limits(unittest.TestCase):
         (self.data / "Header.TXT").write_bytes(b"Lab\r\n")
         self.orvane("limit", "export", "Mine", out)
         self.assertEqual(out.read_bytes(), b"Lab\r\n\r\nMy limit\r\n0.15\t66.00\r\n0.5\t56.00\r\n30\t60.50\r\n")
+        self.orvane("table", "import", "F", text, "--mast")
+        self.assertEqual((self.data / "Mast-Table/F.FTM").stat().st_size, 2828)
+        self.assertIn("30\t60.50\t---\t---\n", self.orvane("table", "show", "F", "--mast").stdout)
+        self.orvane("table", "show", "F", status=4)
+        self.assertEqual(self.orvane("limit", "list").stdout, "Mine\n")
+        self.orvane("limit", "import", "X", self.data / "absent.txt", status=4)
+        self.orvane("limit", "import", "X", self.data / "Header.TXT", status=1)  # no points
+        # Damaged points are told.
+        self.put("Limits", "Bad.5SL", record([(3e6, 3), (float("nan"), 9), (1e6, 1)]))
+        shown = self.orvane("limit", "show", "Bad")
+        self.assertIn("damaged points", shown.stderr)
+        self.assertTrue(shown.stdout.endswith("1\t0.01\n3\t0.03\n"), shown.stdout)
         # An existing table is replaced only on a Yes.
         before = (self.data / "Limits/Mine.5SL").read_bytes()
         self.orvane("limit", "import", "Mine", text, status=1)
         self.assertEqual((self.data / "Limits/Mine.5SL").read_bytes(), before)
         self.orvane("limit", "import", "Mine", text, options=("--answer", "yes"))
         self.assertNotEqual((self.data / "Limits/Mine.5SL").read_bytes(), before)
-
-    def test_frequency_tables(self):
-        text = self.data / "points.txt"
-        text.write_text("30 40 150 90\n31\n")
-        self.orvane("table", "import", "F", text, "--mast")
-        self.assertEqual((self.data / "Mast-Table/F.FTM").stat().st_size, 2828)
-        self.assertEqual(self.orvane("table", "show", "F", "--mast").stdout,
-                         "30\t40.00\t150\t90\n31\t0.00\t---\t---\n")
-        text.write_text("30\n31\n")
-        self.orvane("table", "import", "F", text)
-        self.assertEqual((self.data / "Table/F.5SF").stat().st_size, 2020)
-        self.assertEqual(self.orvane("table", "list").stdout, "F\n")
-
-    def test_wrong_use_and_absent_files(self):
-        self.orvane("limit", status=2)
-        self.orvane("limit", "value", "X", status=2)
-        self.orvane("limit", "value", "X", "ten", status=2)
-        self.orvane("table", "value", "X", "1e6", status=2)
-        self.orvane("factor", "library", status=2)
-        self.orvane("limit", "show", "Absent", status=4)
-        self.orvane("limit", "show", "../X", status=4)
-        self.orvane("table", "show", "Absent", status=4)
-        self.assertFalse((self.data / "Table").exists())
-        self.orvane("limit", "import", "X", self.data / "absent.txt", status=4)
-        (self.data / "empty.txt").write_text("no points\n")
-        self.orvane("limit", "import", "X", self.data / "empty.txt", status=1)
-
-    def test_store_in_a_simulated_receiver(self):
-        self.orvane("limit", "library")
-        sim = ("--link", "sim")
-        done = self.orvane("limit", "store", "CISPR 32 B mains QP", "--slot", 3, "--name", "C32BQP", options=sim)
-        self.assertIn("Successfully stored as", done.stderr)
-        self.orvane("limit", "store", "CISPR 32 B mains QP", status=2, options=sim)
-        self.orvane("limit", "store", "CISPR 32 B mains QP", "--slot", 0, status=2, options=sim)
-        self.orvane("limit", "store", "Absent", "--slot", 1, status=4, options=sim)
 
 
 if __name__ == "__main__":

@@ -42,23 +42,6 @@ class ProvaLog(ProvaStrada):
         self.assertEqual(esito.codice, 2, str(esito))
         self.assertEqual(list(self.dati.iterdir()), [])
 
-    def test_con_ora(self):
-        righe = self.Identifica("/LOGCOMRISP", "/TIMELOG")["LOGCR.TXT"].split("\r\n")[:-1]
-        self.assertEqual(len(righe), 2 * len(SCAMBI))
-        for (comando, risposta), dice, sente in zip(SCAMBI, righe[::2], righe[1::2]):
-            self.assertRegex(dice, r"^\t\d+\.\d\d\t")
-            self.assertEqual(dice.split("\t")[2], comando)
-            self.assertRegex(sente, r"^\t\t[^\t]*\t\d+\.\d\d\t$")
-            self.assertEqual(sente.split("\t")[2], risposta)
-
-    def test_risposte_fallite(self):
-        """A reply that was not what it should be carries its mark; one that never came, an empty one."""
-        regole = {"?BCD": ["BCD=MAYBE", None, "BCD=OFF"]}
-        testo = self.Identifica("/LOGCOMRISP", regole=regole)["LOGCR.TXT"]
-        bcd = testo[testo.index("#?BCD*") : testo.index("#?MIL*")]
-        self.assertEqual(bcd, "#?BCD*\r\n\t\tBCD=MAYBE***\r\n#?BCD*\r\n\t\t***\r\n"
-                              "#?BCD*\r\n\t\tBCD=OFF\r\n")  # fmt: skip
-
     def test_logsweep(self):
         """LOGSWEEP.BIN holds the command and every byte behind it, of both lines."""
         self.Tabella("T", "--start 0.15 --stop 1.15 --step 0.01 --detector P,Q",
@@ -71,16 +54,6 @@ class ProvaLog(ProvaStrada):
             for comando, campioni in zip(comandi, peer.campioni)
         )
         self.assertEqual((self.dati / "LOGSWEEP.BIN").read_bytes(), atteso)
-
-    def test_cartella_di_lancio(self):
-        """Without --data everything lies in the working directory."""
-        from comune import Corsa
-
-        with Peer() as peer:
-            esito = Corsa(["/LOGCOMANDI", "--link", "tty:" + peer.percorso, "identify"],
-                          cartella=self.dati).Attendi()  # fmt: skip
-        self.assertEqual(esito.codice, 0, str(esito))
-        self.assertEqual((self.dati / "LOGCOMANDI.TXT").read_text(), COMANDI.replace("\r", ""))
 
 
 if __name__ == "__main__":

@@ -8,53 +8,35 @@ from comune import Esegui, ProvaStrada
 CASI = [
     ([], 2, "wants a verb"),
     (["dance"], 2, 'unknown verb "dance"'),
-    (["--frobnicate", "x", "identify"], 2, "unknown option --frobnicate"),
     (["--answer", "maybe", "archive"], 2, "--answer wants yes or no"),
     (["--patience", "long", "archive"], 2, "--patience wants seconds"),
-    (["--data"], 2, "--data wants a value"),
     (["--link", "smoke", "identify"], 2, 'unknown link "smoke"'),
     (["--link", "com:0", "identify"], 2, "com: wants a port number"),
-    (["--link", "com:x", "identify"], 2, "com: wants a port number"),
     (["--link", "tty:", "identify"], 2, "tty: wants a path"),
     (["--link", "sim:toaster", "identify"], 2, "toaster"),
     (["identify", "now"], 2, "takes no further words"),
     (["archive", "all"], 2, "takes no further words"),
     (["ports", "all"], 2, "takes no further words"),
-    (["scan"], 2, "move, copy or clear?"),
     (["scan", "paint", "X"], 2, "move, copy or clear?"),
     (["scan", "show"], 2, "wants the name of a scan table"),
     (["scan", "show", "Missing"], 4, "there is no scan table Panels\\Missing.EST"),
     (["scan", "add", "X"], 2, "wants --band, or --start below --stop"),
     (["scan", "add", "X", "--band", "Z"], 2, 'unknown band "Z"'),
-    (["scan", "add", "X", "--band"], 2, "--band wants a value"),
     (["scan", "add", "X", "--start", "2", "--stop", "1"], 2, "--start below --stop"),
-    (["scan", "add", "X", "--start", "abc", "--stop", "1"], 2, "--start wants a number"),
-    (["scan", "add", "X", "--start", "nan", "--stop", "1"], 2, "--start"),
     (["scan", "add", "X", "--start", "0.15", "--stop", "inf"], 2, "--stop"),
     (["scan", "add", "X", "--band", "B", "--rbw", "7 kHz"], 2, "--rbw wants a filter"),
-    (["scan", "add", "X", "--band", "B", "--rbw", "----------------"], 2, "--rbw wants a filter"),
     (["scan", "add", "X", "--band", "B", "--detector", "P,Z"], 2, "--detector wants"),
-    (["scan", "add", "X", "--band", "B", "--detector", ""], 2, "--detector wants"),
     (["scan", "add", "X", "--band", "B", "--min-att", "15"], 2, "--min-att wants"),
     (["scan", "add", "X", "--band", "B", "--step", "0"], 2, "--step"),
-    (["scan", "add", "X", "--band", "B", "--step", "-1"], 2, "--step"),
     (["scan", "add", "X", "--band", "B", "--preamp", "maybe"], 2, "--preamp wants on or off"),
-    (["scan", "add", "X", "--band", "B", "--colour", "red"], 2, "unknown option --colour"),
-    (["scan", "add", "a/b", "--band", "B"], 2, "is no name for a scan table"),
     (["scan", "add", "../up", "--band", "B"], 2, "is no name for a scan table"),
-    (["scan", "add", "", "--band", "B"], 2, "is no name for a scan table"),
     (["sweep"], 2, "wants --scan NAME"),
     (["sweep", "--scan", "Missing"], 4, "there is no scan table"),
     (["sweep", "--scan", "../X"], 2, "is no valid name"),
-    (["sweep", "--scan", "X", "--name", "a/b"], 2, "is no valid name"),
-    (["sweep", "--scan", "X", "--name", "../../tmp"], 2, "is no valid name"),
     (["sweep", "--scan", "X", "--name", "a.b"], 2, "is no valid name"),
-    (["sweep", "--scan", "X", "--name", ""], 2, "is no valid name"),
     (["trace"], 2, "wants one MEASURE"),
     (["trace", "Missing"], 4, "there is no measure Sweep\\Missing\\Missing.KSH"),
-    (["trace", "a/b"], 2, "is no valid name"),
     (["trace", "X", "--sub", "../X"], 2, "is no valid name"),
-    (["trace", "X", "--detector"], 2, "--detector wants a value"),
 ]
 
 
@@ -68,17 +50,8 @@ class ProvaUso(ProvaStrada):
                 self.assertEqual(esito.out, "")
         # Not one of them has left anything behind.
         self.assertEqual(list(self.dati.iterdir()), [])
-
-    def test_aiuto(self):
-        for parola in ("--help", "-h"):
-            esito = self.Riesce(parola)
-            for verbo in ("identify", "ports", "scan", "sweep", "archive", "trace"):
-                self.assertIn(f"\n  {verbo} ", esito.out)
-
-    def test_radice_assente(self):
-        esito = self.Orvane("archive", dati=self.dati / "none")
-        self.assertEqual(esito.codice, 4)
-        self.assertIn("there is no directory", esito.err)
+        self.assertEqual(self.Orvane("archive", dati=self.dati / "none").codice, 4)
+        self.assertIn("\n  identify ", self.Riesce("--help").out)
 
     def test_link_simulato(self):
         """Words of the simulated receiver stand behind a model, or without one."""
@@ -102,7 +75,7 @@ class ProvaUso(ProvaStrada):
 
     def test_tabelle(self):
         """A composite band brings its rows, a table is listed, cleared and found in any case."""
-        self.Tabella("Cond", "--band a+b --detector q,p")
+        self.Tabella("Cond", "/TIMELOG --band a+b /INFOMOD --detector q,p")  # switches anywhere
         righe = self.Riesce("scan", "show", "cond").out.splitlines()
         self.assertEqual([r.split("\t")[1:3] for r in righe], [["0.009", "0.15"], ["0.15", "30"]])
         self.assertTrue(all("P Q" in r for r in righe), righe)
@@ -110,14 +83,6 @@ class ProvaUso(ProvaStrada):
         self.assertEqual((self.dati / "Panels" / "Cond.EST").stat().st_size, 12676)
         self.Riesce("scan", "clear", "Cond")
         self.assertEqual(self.Riesce("scan", "show", "Cond").out, "")
-
-    def test_interruttori_sono_passati_oltre(self):
-        """Switches may stand anywhere among the words."""
-        self.Tabella("T", "--band B")
-        for parole in (["/LOGCOMANDI", "scan", "list"], ["scan", "/TIMELOG", "list", "/INFOMOD"]):
-            self.assertEqual(self.Riesce(*parole).out, "T\n")
-        # A path in capitals is none.
-        self.assertEqual(self.Orvane("scan", "show", "/T").codice, 2)
 
     def test_nomi_con_spazi(self):
         """Blanks around a name are not part of it, and nothing but blanks is no name."""

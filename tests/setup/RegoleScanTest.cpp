@@ -353,14 +353,35 @@ TEST(RegoleScan, ASwitchLetsTheNarrowMilFiltersThrough) {
     EXPECT_TRUE(ControllaRBWScanTab(t.C()).empty());
 }
 
-TEST(RegoleScan, WithUnitsSwitchedByHandTheFirstLineDecidesTheRange) {
+TEST(RegoleScan, ALineWithoutARangeOfItsOwnTakesThatOfTheFirst) {
     ScanLine b = Span(0.15, 30);
     b.RbwId = 2;
     ScanLine c = Span(30, 300);
     c.RbwId = 1;
-    EXPECT_EQ(ControllaRBWScanTab(Tavolo({b, c}).C()).at(0).celle, (Celle{{1, Rbw}}));
-    EXPECT_TRUE(ControllaRBWScanTab(Tavolo({c}).C()).empty());
-    EXPECT_TRUE(ControllaRBWScanTab(Tavolo({b, c}, K3X()).C()).empty());
+    ScanLine oltre = Span(29, 31);
+    oltre.RbwId = 1;
+    ScanLine girata = Span(300, 30);
+    girata.RbwId = 1;
+    const ReceiverModel frontEnd{.TipoFrontEnd = 1};
+    struct {
+        const char* nome;
+        std::vector<ScanLine> righe;
+        ReceiverModel modello;
+        Celle errate;
+    } const casi[] = {
+        {"each asks for its unit", {b, c}, {}, {}},
+        {"in either order", {c, b}, ConUnita(1), {}},
+        {"on one instrument", {b, c}, K3X(), {}},
+        {"turned round", {b, girata}, {}, {}},
+        {"across 30 MHz behind a conducted line", {b, oltre}, {}, {{1, Rbw}}},
+        {"the same with a front-end", {b, oltre}, frontEnd, {{1, Rbw}}},
+        {"behind a radiated line", {c, oltre}, {}, {}},
+        {"on one instrument no rule knows it", {b, oltre}, K3X(), {}},
+    };
+    for (const auto& caso : casi) {
+        const Segnalazioni trovate = ControllaRBWScanTab(Tavolo(caso.righe, caso.modello).C());
+        EXPECT_EQ(trovate.empty() ? Celle{} : trovate[0].celle, caso.errate) << caso.nome;
+    }
 }
 
 TEST(RegoleScan, OverlapsAreMarkedOnBothLinesAndTouchingSpansAreNone) {

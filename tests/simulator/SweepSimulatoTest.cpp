@@ -59,19 +59,6 @@ TEST(Sweep, EveryLevelIsTheSpectrumsOwn) {
     }
 }
 
-TEST(Sweep, TheStreamIsTheSameHoweverItIsTaken) {
-    const char* comando = "#SSFD 150000;1150000;1000;PQA;1;6;10;OFF;OFF;0*";
-    const std::string intero = Banco("5520F,fw=1.43").Chiedi(comando);
-    for (const size_t pezzo : {1u, 5u, 7u, 64u, 1001u}) {
-        Banco banco("5520F,fw=1.43");
-        banco.Manda(comando);
-        std::string flusso;
-        for (std::string altro; !(altro = banco.Prendi(pezzo)).empty();)
-            flusso += altro;
-        EXPECT_TRUE(flusso == intero) << pezzo;
-    }
-}
-
 TEST(Sweep, NegativeLevelsKeepTheOddEncoding) {
     // Far below what a wide filter reads: some levels are negative.
     const std::string flusso =
@@ -86,19 +73,15 @@ TEST(Sweep, NegativeLevelsKeepTheOddEncoding) {
 }
 
 TEST(Sweep, A5520FTellsItsStep) {
-    const struct {
-        const char* modello;
-        const char* comando;
-        float passo;
-        size_t passi;
-    } casi[] = {{"5520F", "#SSFD 150000;30000000;5000;P;1;6;10;OFF;OFF;0*", 4500, 6634},
-                {"5520F", "#SSFDS 150000;30000000;5000;P;1;6;10;OFF;OFF;0*", 5000, 5971},
-                {"5520F,fw=1.43", "#SSFD 150000;30000000;5000;P;1;6;10;OFF;OFF;0*", 5000, 5971},
-                {"5520F,fw=1.44", "#SSFD 150000;30000000;5000;P;1;6;10;OFF;OFF;0*", 4500, 6634}};
-    for (const auto& caso : casi) {
-        const std::string flusso = Banco(caso.modello).Chiedi(caso.comando);
-        EXPECT_EQ(flusso.size(), 8 + 32 + caso.passi * 2 + kFine.size()) << caso.modello;
-        EXPECT_EQ(Singolo(flusso, 8), caso.passo) << caso.modello;
+    const std::tuple<const char*, const char*, float, size_t> casi[] = {
+        {"5520F", "#SSFDS", 5000, 5971},
+        {"5520F,fw=1.43", "#SSFD", 5000, 5971},
+        {"5520F,fw=1.44", "#SSFD", 4500, 6634}};
+    for (const auto& [modello, comando, passo, passi] : casi) {
+        const std::string flusso = Banco(modello).Chiedi(
+            std::string(comando) + " 150000;30000000;5000;P;1;6;10;OFF;OFF;0*");
+        EXPECT_EQ(flusso.size(), 8 + 32 + passi * 2 + kFine.size()) << modello;
+        EXPECT_EQ(Singolo(flusso, 8), passo) << modello;
     }
 }
 
@@ -128,16 +111,10 @@ TEST(Sweep, TheFirstWrongFieldIsTold) {
                 {"150000;30200000;5000;P;1;6;10;OFF;OFF;0", 1},
                 {"30000000;150000;5000;P;1;6;10;OFF;OFF;0", 1},
                 {"30000000;40000000;5000;P;1;10;10;OFF;OFF;0", 1, "K6X"},
-                {"149000;30000000;5000;P;1;6;10;OFF;OFF;0", 1, "3360"},
-                {"", 1},
                 {"150000;30000000;-1;P;1;6;10;OFF;OFF;0", 2},
-                {"150000;30000000;1e-9;P;1;6;10;OFF;OFF;0", 2},
                 {"150000;30000000;5000;;1;6;10;OFF;OFF;0", 3},
-                {"150000;30000000;5000;S;1;6;10;OFF;OFF;0", 3},
                 {"150000;30000000;5000;QP;1;6;10;OFF;OFF;0", 3},
-                {"150000;30000000;5000;PP;1;6;10;OFF;OFF;0", 3},
                 {"150000;30000000;5000;P;-1;6;10;OFF;OFF;0", 4},
-                {"150000;30000000;5000;P;1;6;10;OFF;OFF;x", 4},
                 {"150000;30000000;5000;P;1;13;10;OFF;OFF;0", 5},
                 {"150000;30000000;5000;P;1;9;10;OFF;OFF;0", 5},
                 {"30000000;900000000;5000;P;1;7;10;OFF;OFF;0", 5, "5520+5540"},
@@ -152,14 +129,6 @@ TEST(Sweep, TheFirstWrongFieldIsTold) {
                   "SFD=ERR " + std::to_string(caso.errore) + "\r\n")
             << caso.modello << " " << caso.campi;
     }
-}
-
-TEST(Sweep, TheHoldTimeInUseIsReadBack) {
-    Banco banco;
-    banco.Chiedi("#SSFD 150000;160000;5000;P;1000;6;10;OFF;OFF;0*#?UHT*");
-    EXPECT_EQ(banco.Chiedi("#?UHT*"), "UHT=1000\r\n");
-    banco.Chiedi("#SSFD 9000;9100;100;P;0;7;10;OFF;OFF;0*");
-    EXPECT_EQ(banco.Chiedi("#?UHT*"), "UHT=10\r\n") << "the shortest that the filter allows";
 }
 
 TEST(Sweep, TheAnalyzerHeadsItsSamplesWithTheSpan) {

@@ -37,16 +37,6 @@ TEST(Uscita, AReplyBegunInAPauseEndsBeforeTheStreamGoesOn) {
     EXPECT_EQ(prima.size() + dopo.size(), kLungo + 26);
 }
 
-TEST(Uscita, ACommandInMidSweepIsAnsweredBehindIt) {
-    Banco banco;
-    banco.Manda(kSweep);
-    std::string preso = banco.Prendi(500);
-    banco.Manda("#?UPP*");
-    preso += banco.Prendi();
-    EXPECT_TRUE(preso.ends_with("SFD_ENDUPP=0\r\n"));
-    EXPECT_EQ(preso.size(), kLungo + 7);
-}
-
 TEST(Uscita, AnAbortDropsWhatIsUnderWay) {
     for (const auto& [comando, risposta] :
          {std::pair{"#ASBK*", "SBK=OK\r\n"}, std::pair{"#SSTP*", "STP=OK\r\n"}}) {
@@ -93,26 +83,6 @@ TEST(Uscita, TheLineSpeedPacesRepliesAndSweeps) {
     EXPECT_EQ(banco.ricevitore.ProssimoByte(banco.ora), std::nullopt);
 }
 
-TEST(Uscita, APacedPauseLetsWhatHasLeftArrive) {
-    const std::string intero = Banco().Chiedi(kSweep);
-    Banco banco("5520,speed=line");
-    banco.Manda(kSweep);
-    banco.ora += 0.1;
-    banco.Manda("#ASPA*");
-    banco.ora += 5;
-    std::string preso = banco.Prendi();
-    EXPECT_EQ(preso.size(), 1152u);
-    banco.ora += 5;
-    EXPECT_EQ(banco.Prendi(), "");
-    banco.Manda("#ASRE*");
-    banco.ora += 0.1;
-    preso += banco.Prendi();
-    EXPECT_EQ(preso.size(), 2304u) << "a pause gains no time";
-    banco.ora += 100;
-    preso += banco.Prendi();
-    EXPECT_TRUE(preso == intero);
-}
-
 TEST(Uscita, AReaderThatStopsHoldsThePacedSweepUp) {
     Banco banco("5520,speed=line");
     banco.Manda("#SSFD 150000;30000000;10;PQ;1;6;10;OFF;OFF;0*");
@@ -137,20 +107,6 @@ struct LinkSimulato : testing::Test {
         return testo;
     }
 };
-
-TEST_F(LinkSimulato, CarriesBytesWhileItIsOpen) {
-    EXPECT_FALSE(Scrivi("#?UPP*"));
-    EXPECT_EQ(flusso.Apri("any name"), EsitoApertura::Aperto);
-    EXPECT_TRUE(Scrivi("#?UPP*"));
-    EXPECT_EQ(flusso.InArrivo(), 7u);
-    EXPECT_EQ(Leggi(4), "UPP=");
-    EXPECT_EQ(flusso.DaSpedire(), 0u);
-    flusso.Scarta();
-    EXPECT_EQ(flusso.InArrivo(), 0u);
-    flusso.Chiudi();
-    EXPECT_FALSE(flusso.Aperto());
-    EXPECT_EQ(flusso.InArrivo(), std::nullopt);
-}
 
 TEST_F(LinkSimulato, FailsLikeAPulledAdapter) {
     ASSERT_EQ(flusso.Apri(""), EsitoApertura::Aperto);

@@ -73,6 +73,17 @@ public:
     }
     /// A click that runs inside the pump of whatever is under way, as a user's does.
     void Fra(int ms, std::function<void()> cosa) { QTimer::singleShot(ms, this, std::move(cosa)); }
+    /// Once, as soon as `caso` holds, from the pump.
+    void Quando(std::function<bool()> caso, std::function<void()> cosa) {
+        auto* guarda = new QTimer(this);
+        connect(guarda, &QTimer::timeout, this, [guarda, caso, cosa] {
+            if (!caso())
+                return;
+            guarda->stop();
+            cosa();
+        });
+        guarda->start(10);
+    }
     void Banda(const char* nome) { QVERIFY(AggiungiLaBanda(nome)); }
     bool AggiungiLaBanda(const char* nome) {
         for (QAction* voce : Trova<QPushButton>("CMBAddBanda")->menu()->actions())

@@ -265,10 +265,10 @@ void AspettoUi::IntestazioneNasceDalModello() {
         QStringLiteral("\n   ************  Header Text ***************\n")));
     QVERIFY(testo->toPlainText().contains(QStringLiteral("--- °C\n")));
     QVERIFY(s.albero.Esiste(kFileHeader));
-    testo->setPlainText(QStringLiteral("Lab 中"));
+    testo->setPlainText(QStringLiteral("Lab\u00a0中"));
     QVERIFY(!finestra->findChild<QLabel*>(QStringLiteral("LBNota"))->text().isEmpty());
     Premi(finestra, "CMBOK");
-    QCOMPARE(CaricaTesto(s, kFileHeader), std::string("Lab ?"));
+    QCOMPARE(CaricaTesto(s, kFileHeader), std::string("Lab\xC2\xA0?"));
 }
 
 void AspettoUi::CommentoNellaRadice() {
@@ -277,7 +277,8 @@ void AspettoUi::CommentoNellaRadice() {
     banco.Scheda(Modalita::Sweep);
     auto* finestra = Apri<QDialog>(banco, "mnuTestComment", "FrmTesto");
     QTest::keyClicks(finestra->findChild<QPlainTextEdit*>(), QStringLiteral("no load"));
-    Premi(finestra, "CMBCancel"); // the careful answer: not discarded
+    // Enter is the focused button's, not the default one's; the careful answer: not discarded.
+    QTest::keyClick(finestra->findChild<QPushButton*>(QStringLiteral("CMBCancel")), Qt::Key_Return);
     QVERIFY(finestra->isVisible());
     QCOMPARE(banco.riquadri, QStringList{QStringLiteral("Discard the changes?")});
     Premi(finestra, "CMBOK");

@@ -1,8 +1,12 @@
 // Runs, retries and the way out, with the real event loop and a receiver in memory.
+#include <QCheckBox>
 #include <QMenu>
+#include <QProgressBar>
 
 #include "Banco.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
+#include "ui/FasiCorsa.h"
 #include "ui/FrmRemoteLink.h"
 
 using namespace orvane;
@@ -17,6 +21,15 @@ private Q_SLOTS:
     void NomeOccupatoChiede();
     void UscitaAnnullataLasciaCorrere();
     void UscitaDuranteLaCorsa();
+    void PausaERipresa();
+    void StopInPausa();
+    void UscitaInPausa();
+    void ConPiuPassate();
+    void TimerFermatoNonLasciaNulla();
+    void TriggerAspettaLaPorta();
+    void TimerETriggerSiEscludono();
+    void ControlliDiOgniFase();
+    void MisuraIncompiutaSiAccetta();
     void UscitaDuranteUnaImpostazione();
     void RicevitoreMutoEAbort();
     void SchedaDuranteUnaImpostazione();
@@ -136,6 +149,174 @@ void CorsaUi::UscitaDuranteLaCorsa() {
     QVERIFY(Finita(banco));
     QVERIFY(!banco.posto->porta.Aperta());
     QVERIFY(banco.difetti.empty());
+}
+
+static bool Mandato(const Banco& banco, const char* comando) {
+    return std::ranges::find(banco.simulato.Comandi(), comando) != banco.simulato.Comandi().end();
+}
+
+/// A sweep slow enough to be paused, and calls `cosa` once the pause has taken.
+static void PausaPoi(Banco& banco, std::function<void()> cosa) {
+    banco.Scheda(Modalita::Sweep);
+    banco.RigaCorta();
+    banco.posto->scan.Righe[0].HoldTime = 20;
+    banco.Quando([&banco] { return banco.posto->statoCorsa.fase == FaseCorsa::Misura; },
+                 [&banco] { banco.Trova<QPushButton>("CMBPauseSweep")->click(); });
+    banco.Quando([&banco] { return banco.posto->statoCorsa.fase == FaseCorsa::Pausa; },
+                 std::move(cosa));
+    QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
+}
+
+void CorsaUi::PausaERipresa() {
+    Banco banco;
+    auto* pausa = banco.Trova<QPushButton>("CMBPauseSweep");
+    QString durante;
+    PausaPoi(banco, [&] {
+        durante = pausa->text();
+        QVERIFY(pausa->isVisible() && pausa->isEnabled());
+        pausa->click();
+    });
+    QCOMPARE(durante, QStringLiteral("Resume"));
+    QVERIFY(!pausa->isVisible());
+    QVERIFY(Mandato(banco, "#ASPA*") && Mandato(banco, "#ASRE*"));
+    QCOMPARE(LeggiTraccia(banco.posto->scrivania, PercorsoRS("Untitled", "Untitled", 0)).size(),
+             size_t{101});
+    QVERIFY(banco.difetti.empty());
+}
+
+void CorsaUi::StopInPausa() {
+    Banco banco;
+    PausaPoi(banco, [&] { banco.Trova<QPushButton>("CMBExecuteSweep")->click(); });
+    QVERIFY(Mandato(banco, "#ASPA*") && Mandato(banco, "#ASBK*") && !Mandato(banco, "#ASRE*"));
+    QVERIFY(banco.Trova<QLabel>("LBStato")->text().startsWith(QStringLiteral("Stopped")));
+    QVERIFY(banco.difetti.empty());
+}
+
+void CorsaUi::UscitaInPausa() {
+    Banco banco;
+    banco.risposte = {QMessageBox::Ok};
+    PausaPoi(banco, [&] { banco.Finestra().close(); });
+    QVERIFY(Finita(banco));
+    QVERIFY(!banco.posto->statoCorsa.SweepInCorso && !banco.posto->porta.Aperta());
+    QVERIFY(MisureIncompiute(banco.posto->scrivania.albero).empty());
+    QVERIFY(banco.difetti.empty());
+}
+
+void CorsaUi::ConPiuPassate() {
+    Banco banco;
+    banco.Scheda(Modalita::Sweep);
+    banco.posto->scrivania.setup.AncillaryKind = 1;
+    banco.RigaCorta();
+    banco.posto->scan.Righe[0].LineSwitch = {0, 1, 1, 0};
+    QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
+    // The last pass stands in front; the one before is still there.
+    const TraccePassate& tracce = banco.Trova<MainPict>("MainPict")->Tracce();
+    QCOMPARE(tracce.Visibili().size(), size_t{2});
+    QCOMPARE(tracce.DaDisegnare().back()->nome, QStringLiteral("L2"));
+    const QColor rosso(255, 0, 0);
+    QCOMPARE(tracce.Sfumata(*tracce.Visibili()[1], rosso, Qt::black), rosso);
+    QVERIFY(tracce.Sfumata(*tracce.Visibili()[0], rosso, Qt::black).red() < 200);
+    QVERIFY(banco.Trova<QLabel>("LBPassata")->text().contains(QStringLiteral("pass 2 of 2")));
+}
+
+void CorsaUi::TimerFermatoNonLasciaNulla() {
+    Banco banco;
+    banco.Scheda(Modalita::Sweep);
+    banco.RigaCorta();
+    banco.Trova<QCheckBox>("ChkTimerSweep")->click();
+    banco.Trova<QLineEdit>("TBTimerSweep")->setText(QStringLiteral("40"));
+    auto* attesa = banco.Trova<QWidget>("FrmPBTimerSweep");
+    QString testo;
+    int massimo = 0;
+    banco.Quando([&] { return attesa->isVisible(); },
+                 [&] {
+                     testo = banco.Trova<QLabel>("LBTimerSweep")->text();
+                     massimo = banco.Trova<QProgressBar>("PBTimerSweep")->maximum();
+                     banco.Trova<QPushButton>("CMBStopTimerSweep")->click();
+                 });
+    QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
+    QCOMPARE(testo, QStringLiteral("40 s to start Sweep"));
+    QCOMPARE(massimo, 40);
+    QVERIFY(!attesa->isVisible());
+    QVERIFY(banco.Trova<QLabel>("LBStato")->text().startsWith(QStringLiteral("Stopped before")));
+    QVERIFY(!std::filesystem::exists(banco.cartella.Percorso() / "Sweep" / "Untitled"));
+    QCOMPARE(banco.Trova<QPushButton>("CMBExecuteSweep")->text(), QStringLiteral("Execute"));
+}
+
+void CorsaUi::TriggerAspettaLaPorta() {
+    Banco banco;
+    banco.Scheda(Modalita::Sweep);
+    banco.RigaCorta();
+    banco.Trova<QCheckBox>("ChkTriggerSweep")->click();
+    // The port of the simulated receiver reads 0 at rest.
+    banco.Trova<QComboBox>("CBXTriggerSweep")->setCurrentIndex(1);
+    auto* attesa = banco.Trova<QWidget>("FrmPBTriggerSweep");
+    QString testo;
+    banco.Quando([&] { return attesa->isVisible(); },
+                 [&] {
+                     testo = banco.Trova<QLabel>("LBTriggerSweep")->text();
+                     banco.Trova<QPushButton>("CMBStopTriggerSweep")->click();
+                 });
+    auto* esegui = banco.Trova<QPushButton>("CMBExecuteSweep");
+    QTest::mouseClick(esegui, Qt::LeftButton);
+    QCOMPARE(testo, QStringLiteral("User port reads 0; the sweep starts when it is not 0"));
+    QVERIFY(!attesa->isVisible());
+    banco.Trova<QComboBox>("CBXTriggerSweep")->setCurrentIndex(0);
+    QTest::mouseClick(esegui, Qt::LeftButton);
+    QVERIFY(banco.Trova<QLabel>("LBStato")->text().startsWith(QStringLiteral("Done")));
+}
+
+void CorsaUi::TimerETriggerSiEscludono() {
+    Banco banco;
+    auto* timer = banco.Trova<QCheckBox>("ChkTimerSweep");
+    auto* trigger = banco.Trova<QCheckBox>("ChkTriggerSweep");
+    timer->setChecked(true);
+    QVERIFY(banco.Trova<QLineEdit>("TBTimerSweep")->isEnabledTo(banco.Trova<QWidget>("FRMAvvio")));
+    trigger->setChecked(true);
+    QVERIFY(!timer->isChecked());
+    timer->setChecked(true);
+    QVERIFY(!trigger->isChecked());
+    timer->setChecked(false);
+    QVERIFY(!trigger->isChecked());
+}
+
+void CorsaUi::ControlliDiOgniFase() {
+    for (int f = 0; f <= static_cast<int>(FaseCorsa::Guasto); ++f) {
+        const auto fase = static_cast<FaseCorsa>(f);
+        const ControlliFase c = ControlliDiFase(fase, true);
+        QCOMPARE(c.fase, fase);
+        QCOMPARE(c.fermi, fase == FaseCorsa::Ferma);
+        QCOMPARE(c.pausaViva, fase == FaseCorsa::Misura || fase == FaseCorsa::Pausa);
+        QCOMPARE(c.eseguiVivo, fase != FaseCorsa::Arresto && fase != FaseCorsa::Guasto);
+        QVERIFY(!ControlliDiFase(fase, false).eseguiVivo &&
+                !ControlliDiFase(fase, false).pausaViva);
+    }
+}
+
+void CorsaUi::MisuraIncompiutaSiAccetta() {
+    Banco banco;
+    banco.Scheda(Modalita::Sweep);
+    banco.RigaCorta();
+    QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
+    auto* avviso = banco.Trova<QWidget>("FRMIncompiute");
+    banco.Scheda(Modalita::SweepsArchive);
+    QVERIFY(!avviso->isVisible());
+    QVERIFY(SegnaCorsa(banco.posto->scrivania.albero, "Untitled"));
+    banco.posto.reset();
+    banco.Apri();
+    avviso = banco.Trova<QWidget>("FRMIncompiute");
+    QVERIFY(avviso->isVisible());
+    QVERIFY(banco.Trova<QLabel>("LBIncompiute")->text().contains(QStringLiteral("Untitled")));
+    auto* lista = banco.Trova<QListWidget>("CBXSweepsArchive");
+    QVERIFY(lista->item(0)->toolTip().startsWith(QStringLiteral("Incomplete")));
+    banco.Trova<QPushButton>("CMBShowIncomplete")->click();
+    QTRY_VERIFY(banco.Trova<QLabel>("LBDettagli")->text().contains(QStringLiteral("101 samples")));
+    auto* accetta = banco.Trova<QPushButton>("CMBAcceptMeasure");
+    QVERIFY(accetta->isVisible());
+    accetta->click();
+    QVERIFY(!avviso->isVisible() && !accetta->isVisible());
+    QVERIFY(!lista->item(0)->toolTip().startsWith(QStringLiteral("Incomplete")));
+    QVERIFY(MisureIncompiute(banco.posto->scrivania.albero).empty());
 }
 
 void CorsaUi::UscitaDuranteUnaImpostazione() {

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void HoldTime_data();
     void HoldTime();
     void CancCancellaLaRiga();
+    void CtrlNonAllargaLaScelta();
     void BandaComposta();
     void TabellaPiena();
     void PannelliSiScelgonoESiCancellano();
@@ -161,6 +162,18 @@ void Griglia::HoldTime() {
     QTRY_VERIFY(!modulo);
     QCOMPARE(static_cast<double>(Riga(0).HoldTime), ms);
     QCOMPARE(Cella(0, ColonnaScan::HoldTime).data().toString(), mostrato);
+}
+
+/// A copy that is made with Ctrl down is what is chosen next, and nothing besides.
+void Griglia::CtrlNonAllargaLaScelta() {
+    Scrivi(0, ColonnaScan::Start, "1");
+    Scrivi(0, ColonnaScan::Stop, "2");
+    griglia_->setCurrentIndex(Cella(0, ColonnaScan::Rbw));
+    griglia_->setFocus();
+    QTest::keyClick(griglia_, Qt::Key_D, Qt::ControlModifier);
+    QCOMPARE(Riga(1).Start, 1.0);
+    QCOMPARE(griglia_->selectionModel()->selectedIndexes(),
+             QModelIndexList{Cella(1, ColonnaScan::Rbw)});
 }
 
 void Griglia::CancCancellaLaRiga() {

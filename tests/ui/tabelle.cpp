@@ -298,6 +298,10 @@ void Tabelle::RifiutiDelSalvare() {
     finestra.accept();
     QVERIFY(!finestra.isVisible());
     QCOMPARE(finestra.Percorso(), std::string("Limits\\CISPR 32 A mains QP.5SL"));
+    FrmLoadSave dopo(banco_->posto->console, RichiestaTabella(TableKind::Limite),
+                     FrmLoadSave::Modo::Carica, QStringLiteral("Load Limit"), nullptr);
+    QCOMPARE(dopo.findChild<QListWidget*>()->currentItem()->text(),
+             QStringLiteral("CISPR 32 A mains QP"));
 }
 
 void Tabelle::CancellareUnaTabellaInUso() {

@@ -78,6 +78,10 @@ TEST_F(ScanTest, EachOptionWritesItsField) {
          {"\"ancillary\":1", "\"double_smart\":true", "\"peak_hold_ms\":30000", "\"passes\":1",
           "\"lines\":[\"L2\"]", "\"prompt\":\"Turn it\"", "\"margin_db\":-19"})
         EXPECT_NE(dati.str().find(atteso), std::string::npos) << atteso;
+    // A float is told as it was typed.
+    ASSERT_EQ(Esegui("add|Short|--band|B"), kFatto);
+    ASSERT_EQ(Esegui("show|Short", true), kFatto);
+    EXPECT_NE(dati.str().find("\"hold_ms\":1.9,"), std::string::npos) << dati.str();
 }
 
 TEST_F(ScanTest, WhatTheRulesRefuseChangesNothing) {

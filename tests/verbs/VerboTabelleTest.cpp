@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "aiuto/BancoSimulato.h"
+#include "base/Testo.h"
 #include "verbs/Verbo.h"
 
 namespace orvane::prova {
@@ -73,21 +74,14 @@ TEST_F(VerboTabelleTest, AnUploadThatFailsIsTheLinks) {
 }
 
 TEST_F(VerboTabelleTest, WrongWordsAreWrongUse) {
-    const std::vector<std::pair<std::string, std::vector<std::string>>> casi = {
-        {"limit", {}},
-        {"limit", {"shown", "X"}},
-        {"limit", {"value", "X"}},
-        {"limit", {"value", "X", "inf"}},
-        {"limit", {"store", "X"}},
-        {"limit", {"store", "X", "--slot", "1.5"}},
-        {"limit", {"store", "X", "--slot", "100"}},
-        {"factor", {"import", "X", "f", "--lin"}},
-        {"limit", {"import", "X", "f", "--unit", "dBx"}},
-        {"table", {"value", "X", "1"}},
-        {"table", {"import", "X", "f", "--title", "T"}},
-    };
-    for (const auto& [verbo, parole] : casi)
-        EXPECT_EQ(Esegui(verbo, parole), kUsoErrato) << verbo << " " << parole.size();
+    for (const char* riga :
+         {"limit", "limit shown X", "limit value X", "limit value X inf", "limit store X",
+          "limit store X --slot 1.5", "limit store X --slot 0", "limit store X --slot 100",
+          "factor library", "factor import X f --lin", "limit import X f --unit dBx",
+          "table value X 1", "table import X f --title T"}) {
+        const std::vector<std::string> parole = Dividi(riga, ' ');
+        EXPECT_EQ(Esegui(parole[0], {parole.begin() + 1, parole.end()}), kUsoErrato) << riga;
+    }
 }
 
 } // namespace

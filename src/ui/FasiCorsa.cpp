@@ -1,0 +1,30 @@
+#include "ui/FasiCorsa.h"
+
+#include <array>
+
+namespace orvane {
+namespace {
+
+constexpr std::array<ControlliFase, 9> kFasi = {{
+    // phase, Execute, alive, Pause, alive, what belongs to a window at rest
+    {FaseCorsa::Ferma, "Execute", true, "Pause", false, true},
+    {FaseCorsa::Controlli, "Stop", true, "Pause", false, false},
+    {FaseCorsa::Attesa, "Stop", true, "Pause", false, false},
+    {FaseCorsa::Preparazione, "Stop", true, "Pause", false, false},
+    {FaseCorsa::Riga, "Stop", true, "Pause", false, false},
+    {FaseCorsa::Misura, "Stop", true, "Pause", true, false},
+    {FaseCorsa::Pausa, "Stop", true, "Resume", true, false},
+    {FaseCorsa::Arresto, "Stop", false, "Pause", false, false},
+    {FaseCorsa::Guasto, "Stop", false, "Pause", false, false},
+}};
+
+} // namespace
+
+ControlliFase ControlliDiFase(FaseCorsa fase, bool riceve) {
+    ControlliFase controlli = kFasi[static_cast<size_t>(fase)];
+    controlli.eseguiVivo = controlli.eseguiVivo && riceve;
+    controlli.pausaViva = controlli.pausaViva && riceve;
+    return controlli;
+}
+
+} // namespace orvane

@@ -1,0 +1,110 @@
+#include "ui/VociArchivio.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QPainter>
+
+#include "data/Incompiute.h"
+#include "ui/IconeScan.h"
+#include "ui/Tema.h"
+#include "ui/Testi.h"
+
+namespace orvane {
+namespace {
+
+/// "22 Nov" of "dd/mm/yyyy hh:mm:ss"; with the year where it is not this one.
+QString DataCorta(const std::string& data) {
+    const QDate giorno = QDate::fromString(Q(data).left(10), QStringLiteral("dd/MM/yyyy"));
+    if (!giorno.isValid())
+        return {};
+    const bool quest = giorno.year() == QDate::currentDate().year();
+    return QLocale::c().toString(giorno,
+                                 quest ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
+}
+
+/// Sign of a run that was cut off, in front of the date.
+constexpr int kSegno = 14;
+
+QString AiutoVoce(const VoceArchivio& misura) {
+    if (!misura.leggibile)
+        return QStringLiteral("The header of this measure is missing or damaged");
+    const QString fatti = QStringLiteral("%1\n%2 lines, %3 steps, detectors %4")
+                              .arg(Q(misura.ultima))
+                              .arg(misura.righe)
+                              .arg(misura.passi)
+                              .arg(Q(misura.detector));
+    return misura.incompiuta ? QStringLiteral("Incomplete: the run was cut off\n%1").arg(fatti)
+                             : fatti;
+}
+
+} // namespace
+
+QListWidgetItem* CreaVoceMisura(const VoceArchivio& misura) {
+    auto* voce = new QListWidgetItem;
+    voce->setData(VoceMisura::Nome, Q(misura.nome));
+    voce->setData(VoceMisura::Data, DataCorta(misura.ultima));
+    voce->setData(VoceMisura::Guasta, !misura.leggibile);
+    voce->setData(VoceMisura::Cercabile,
+                  Q(misura.nome + " " + misura.prima + " " + misura.ultima + " ") +
+                      DataCorta(misura.ultima));
+    voce->setData(VoceMisura::Incompiuta, misura.incompiuta);
+    voce->setData(Qt::AccessibleTextRole, Q(misura.nome + (misura.leggibile ? "" : ", damaged") +
+                                            (misura.incompiuta ? ", incomplete" : "")));
+    voce->setToolTip(AiutoVoce(misura));
+    return voce;
+}
+
+void DelegatoMisura::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const {
+    const bool scelta = o.state & QStyle::State_Selected;
+    const bool guasta = i.data(VoceMisura::Guasta).toBool();
+    const QRect riga = o.rect.adjusted(8, 1, -8, -1);
+    p->save();
+    p->setRenderHint(QPainter::Antialiasing);
+    p->setPen(Qt::NoPen);
+    if (scelta || o.state & QStyle::State_MouseOver) {
+        p->setBrush(Tinta(o.palette, scelta ? Ruolo::Scelta : Ruolo::Sorvolo));
+        p->drawRoundedRect(riga, 4, 4);
+    }
+    QFont piccolo = o.font;
+    piccolo.setPointSizeF(piccolo.pointSizeF() * 0.88);
+    const QString data = guasta ? QStringLiteral("damaged") : i.data(VoceMisura::Data).toString();
+    const int largo = QFontMetrics(piccolo).horizontalAdvance(data);
+    p->setFont(piccolo);
+    p->setPen(Tinta(o.palette, guasta ? Ruolo::Errore : Ruolo::Tenue));
+    p->drawText(riga.adjusted(0, 0, -8, 0), Qt::AlignVCenter | Qt::AlignRight, data);
+    const bool incompiuta = i.data(VoceMisura::Incompiuta).toBool();
+    const int segno = incompiuta ? kSegno + 6 : 0;
+    if (incompiuta)
+        DisegnaAvviso(*p,
+                      QRectF(riga.right() - 8 - largo - segno, riga.center().y() - kSegno / 2.0 + 1,
+                             kSegno, kSegno),
+                      Tinta(o.palette, Ruolo::Errore));
+    QFont nome = o.font;
+    nome.setWeight(scelta ? QFont::DemiBold : QFont::Normal);
+    p->setFont(nome);
+    p->setPen(Tinta(o.palette, guasta ? Ruolo::Tenue : Ruolo::Testo));
+    const QRect spazio = riga.adjusted(8, 0, -largo - segno - 18, 0);
+    p->drawText(spazio, Qt::AlignVCenter,
+                QFontMetrics(nome).elidedText(i.data(VoceMisura::Nome).toString(), Qt::ElideRight,
+                                              spazio.width()));
+    p->restore();
+}
+
+QSize DelegatoMisura::sizeHint(const QStyleOptionViewItem& o, const QModelIndex&) const {
+    return {o.rect.width(), o.fontMetrics.height() + 12};
+}
+
+QString NomiIncompiute(const AlberoDati& albero) {
+    constexpr qsizetype kNominate = 3;
+    QStringList nomi;
+    for (const std::string& nome : MisureIncompiute(albero))
+        nomi << Q(nome);
+    const qsizetype altre = nomi.size() - kNominate;
+    if (altre <= 0)
+        return nomi.join(QStringLiteral(", "));
+    return QStringLiteral("%1 and %2 more")
+        .arg(nomi.first(kNominate).join(QStringLiteral(", ")))
+        .arg(altre);
+}
+
+} // namespace orvane
