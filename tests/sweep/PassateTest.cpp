@@ -146,9 +146,6 @@ TEST_F(PassateTest, AsksForTheUnitThatALineNeeds) {
     banco.scan.Righe[1] = banco.scan.Righe[0];
     banco.scan.Righe[1].Start = 40;
     banco.scan.Righe[1].Stop = 41;
-    banco.scan.Righe[1].RbwId = 3;
-    banco.scan.Righe[1].Step = 0.05;
-    banco.scan.Righe[1].AutoStep = 0;
     banco.ambiente.risposte = {Risposta::Si}; // conducted and radiated lines together
     EXPECT_EQ(Esegui(), EsitoCorsa::Fermata) << corsa.stato.motivo;
     EXPECT_EQ(corsa.stato.motivo, "line 2 needs another unit");
