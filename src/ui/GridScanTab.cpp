@@ -126,6 +126,12 @@ void GridScanTab::Avanza() {
     }
 }
 
+/// The numbers of the rows are no cells.
+QModelIndex GridScanTab::moveCursor(CursorAction azione, Qt::KeyboardModifiers tasti) {
+    const QModelIndex cella = QTableView::moveCursor(azione, tasti);
+    return cella.column() == 0 ? cella.siblingAtColumn(1) : cella;
+}
+
 void GridScanTab::keyPressEvent(QKeyEvent* evento) {
     const QModelIndex cella = currentIndex();
     if (!modello_->Modificabile() || !cella.isValid())

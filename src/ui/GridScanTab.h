@@ -32,6 +32,7 @@ Q_SIGNALS:
     void RigaCorrenteCambiata();
 
 protected:
+    QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers tasti) override;
     void keyPressEvent(QKeyEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;

@@ -180,7 +180,7 @@ void MainForm::CollegaPannelli() {
     connect(sweep_, &PannelloSweep::Pausa, this, [this] { ChiediPausa(console_->corsa.stato); });
     connect(sweep_, &PannelloSweep::TabellaCambiata, this, &MainForm::MostraAsseTabella);
     connect(comuni_, &ColonnaComuni::ScalaCambiata, quadro_, &MainPict::DrawGrid);
-    connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::AggiornaGriglia);
+    connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::CambiaAncillary);
     connect(archivio_, &PannelloArchivio::DetectorCambiato, this, &MainForm::DisegnaMisura);
     for (const auto* divisore : findChildren<QSplitter*>())
         connect(divisore, &QSplitter::splitterMoved, &attesaMisure_, qOverload<>(&QTimer::start));

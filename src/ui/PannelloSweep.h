@@ -34,6 +34,9 @@ public:
     void Carica();
     /// The table or the ancillary of the set-up has changed.
     void AggiornaGriglia();
+    /// The user has attached something else: the lines choose among it what a new line would, and
+    /// keep what they have chosen of it. It can be undone.
+    void CambiaAncillary();
     void EvidenziaCella(int riga, ColonnaScan colonna, bool errata);
     void AbilitaDisabilitaControlli(const ControlliFase& controlli);
     /// `ControllaVisCMBPausa`.

@@ -3,6 +3,7 @@
 
 #include "base/Percorsi.h"
 #include "data/Panels.h"
+#include "setup/CommutatoriSweep.h"
 #include "setup/ModificaTabella.h"
 #include "setup/StimaDurata.h"
 #include "setup/TastiScan.h"
@@ -53,6 +54,11 @@ void PannelloSweep::AggiornaGriglia() {
     picker_->Aggiorna();
     ScriviStima();
     RinnovaEsame();
+}
+
+void PannelloSweep::CambiaAncillary() {
+    SelLineParaSweep(scan_.Righe, scrivania_.setup);
+    SalvaTabella();
 }
 
 void PannelloSweep::EvidenziaCella(int riga, ColonnaScan colonna, bool errata) {

@@ -1,5 +1,8 @@
 #include "ui/RiquadriScan.h"
 
+#include <array>
+#include <span>
+
 #include <QAbstractItemView>
 #include <QSignalBlocker>
 
@@ -85,14 +88,18 @@ void Mostra(QWidget& controllo, const StatoCampo& stato) {
 }
 
 void Avvisa(QWidget& controllo, bool avviso) {
+    constexpr std::array kTesti = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
+    const QPalette& normale = controllo.parentWidget()->palette();
     QPalette tavolozza;
-    if (avviso)
-        for (const auto posto : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-            tavolozza.setColor(posto, Tinta(controllo.palette(), Ruolo::Errore));
+    QPalette voci;
+    for (const auto posto : avviso ? std::span(kTesti) : std::span<const QPalette::ColorRole>()) {
+        tavolozza.setColor(posto, Tinta(normale, Ruolo::Errore));
+        voci.setColor(posto, normale.color(posto));
+    }
     controllo.setPalette(tavolozza);
     // What may be chosen instead is no error.
     if (auto* elenco = qobject_cast<QComboBox*>(&controllo))
-        elenco->view()->setPalette(controllo.parentWidget()->palette());
+        elenco->view()->setPalette(voci);
 }
 
 } // namespace orvane

@@ -193,6 +193,17 @@ void Colonna::LaReteVaNelRecord() {
     Scegli(banco, "CBXLisn", QStringLiteral("Mast-Table"));
     QCOMPARE(SuDisco(banco).AncillaryKind, int16_t{5});
     QCOMPARE(spia.count(), 1);
+    // The lines follow; what they have chosen stays.
+    ScanTable& righe = banco.posto->scan.Righe;
+    righe[0].Start = righe[1].Start = 1;
+    righe[1].LineSwitch = {0, 0, 1, 0};
+    const std::array<int16_t, 4> nessuna{};
+    const std::array<int16_t, 4> due = {0, 1, 1, 0};
+    const std::array<int16_t, 4> una = {0, 0, 1, 0};
+    Scegli(banco, "CBXLisn", QStringLiteral("L2 KRV"));
+    QVERIFY(righe[0].LineSwitch == due && righe[1].LineSwitch == una);
+    Scegli(banco, "CBXLisn", QStringLiteral("Nothing"));
+    QVERIFY(righe[0].LineSwitch == nessuna && righe[1].LineSwitch == nessuna);
     banco.posto->scrivania.setup.AncillaryKind = 99;
     colonna->Carica();
     QCOMPARE(banco.Trova<QComboBox>("CBXLisn")->currentIndex(), 6);

@@ -164,16 +164,20 @@ void Griglia::HoldTime() {
     QCOMPARE(Cella(0, ColonnaScan::HoldTime).data().toString(), mostrato);
 }
 
-/// A copy that is made with Ctrl down is what is chosen next, and nothing besides.
+/// The keys stop at the first cell; a copy made with Ctrl down is chosen next, and nothing besides.
 void Griglia::CtrlNonAllargaLaScelta() {
     Scrivi(0, ColonnaScan::Start, "1");
     Scrivi(0, ColonnaScan::Stop, "2");
     griglia_->setCurrentIndex(Cella(0, ColonnaScan::Rbw));
     griglia_->setFocus();
+    for (const auto tasto : {Qt::Key_Home, Qt::Key_Left}) {
+        QTest::keyClick(griglia_, tasto);
+        QCOMPARE(griglia_->currentIndex(), Cella(0, ColonnaScan::Start));
+    }
     QTest::keyClick(griglia_, Qt::Key_D, Qt::ControlModifier);
     QCOMPARE(Riga(1).Start, 1.0);
     QCOMPARE(griglia_->selectionModel()->selectedIndexes(),
-             QModelIndexList{Cella(1, ColonnaScan::Rbw)});
+             QModelIndexList{Cella(1, ColonnaScan::Start)});
 }
 
 void Griglia::CancCancellaLaRiga() {
