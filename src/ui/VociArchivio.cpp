@@ -37,6 +37,17 @@ QString AiutoVoce(const VoceArchivio& misura) {
                              : fatti;
 }
 
+void DisegnaNome(QPainter& p, const QStyleOptionViewItem& o, const QModelIndex& i,
+                 const QRect& dove) {
+    QFont nome = o.font;
+    nome.setWeight(o.state & QStyle::State_Selected ? QFont::DemiBold : QFont::Normal);
+    p.setFont(nome);
+    p.setPen(Tinta(o.palette, i.data(VoceMisura::Guasta).toBool() ? Ruolo::Tenue : Ruolo::Testo));
+    p.drawText(dove, Qt::AlignVCenter,
+               QFontMetrics(nome).elidedText(i.data(VoceMisura::Nome).toString(), Qt::ElideRight,
+                                             dove.width()));
+}
+
 } // namespace
 
 QListWidgetItem* CreaVoceMisura(const VoceArchivio& misura) {
@@ -72,21 +83,13 @@ void DelegatoMisura::paint(QPainter* p, const QStyleOptionViewItem& o, const QMo
     p->setFont(piccolo);
     p->setPen(Tinta(o.palette, guasta ? Ruolo::Errore : Ruolo::Tenue));
     p->drawText(riga.adjusted(0, 0, -8, 0), Qt::AlignVCenter | Qt::AlignRight, data);
-    const bool incompiuta = i.data(VoceMisura::Incompiuta).toBool();
-    const int segno = incompiuta ? kSegno + 6 : 0;
-    if (incompiuta)
-        DisegnaAvviso(*p,
-                      QRectF(riga.right() - 8 - largo - segno, riga.center().y() - kSegno / 2.0 + 1,
-                             kSegno, kSegno),
+    int restano = riga.right() - riga.left() - largo - 26;
+    if (i.data(VoceMisura::Incompiuta).toBool()) {
+        restano -= kSegno + 6;
+        DisegnaAvviso(*p, QRectF(riga.left() + 14 + restano, riga.center().y() - 6, kSegno, kSegno),
                       Tinta(o.palette, Ruolo::Errore));
-    QFont nome = o.font;
-    nome.setWeight(scelta ? QFont::DemiBold : QFont::Normal);
-    p->setFont(nome);
-    p->setPen(Tinta(o.palette, guasta ? Ruolo::Tenue : Ruolo::Testo));
-    const QRect spazio = riga.adjusted(8, 0, -largo - segno - 18, 0);
-    p->drawText(spazio, Qt::AlignVCenter,
-                QFontMetrics(nome).elidedText(i.data(VoceMisura::Nome).toString(), Qt::ElideRight,
-                                              spazio.width()));
+    }
+    DisegnaNome(*p, o, i, QRect(riga.left() + 8, riga.top(), restano, riga.height()));
     p->restore();
 }
 

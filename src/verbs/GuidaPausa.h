@@ -23,8 +23,8 @@ struct PianoPausa {
 
 class GuidaPausa {
 public:
-    GuidaPausa(const Ambiente& ambiente, StatoCorsa& stato, VistaTerminale& vista,
-               PianoPausa piano, TastoInvio tastiera)
+    GuidaPausa(const Ambiente& ambiente, StatoCorsa& stato, VistaTerminale& vista, PianoPausa piano,
+               TastoInvio tastiera)
         : ambiente_(ambiente), stato_(stato), vista_(vista), piano_(piano),
           tastiera_(std::move(tastiera)) {}
 
