@@ -1,6 +1,14 @@
 #include "verbs/EsameScan.h"
 
+#include "console/Console.h"
+#include "verbs/VerboScanModifica.h"
+
 namespace orvane {
+
+EsitoVerbo CaricaPerEsame(Banco& banco, const std::string& nome, ScanRecord& scan) {
+    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
+    return CaricaTabellaScan(banco, nome, scan);
+}
 
 ContestoControlli ContestoDiScan(Banco& banco, const ScanTable& tabella) {
     return {.tabella = tabella,

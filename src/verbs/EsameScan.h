@@ -6,6 +6,8 @@
 
 namespace orvane {
 
+/// Loads the panels, and the scan table of this name; kFatto, or why it could not be read.
+EsitoVerbo CaricaPerEsame(Banco& banco, const std::string& nome, ScanRecord& scan);
 /// The receiver has been identified.
 ContestoControlli ContestoDiScan(Banco& banco, const ScanTable& tabella);
 /// Each question as a line, answered as the command line says.

@@ -3,9 +3,6 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "console/Console.h"
-#include "data/ControllaRecord.h"
-#include "data/Panels.h"
 #include "setup/PreVolo.h"
 #include "verbs/Argomenti.h"
 #include "verbs/EsameScan.h"
@@ -132,14 +129,9 @@ EsitoVerbo VerboCheck(Banco& banco, Parole parole) {
     if (!nomeScan || !misura)
         return UsoErrato(banco, "check",
                          "\"" + (nomeScan ? *misuraChiesta : *scanChiesto) + "\" is no valid name");
-    const std::string percorso = PercorsoPannello(*nomeScan, "EST");
-    if (!banco.scrivania.albero.Esiste(percorso))
-        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
-    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
     ScanRecord scan;
-    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
-        return kGuastoFile;
-    ControllaScan(scan);
+    if (const EsitoVerbo esito = CaricaPerEsame(banco, *nomeScan, scan); esito != kFatto)
+        return esito;
     return Controlla(banco, scan, *misura);
 }
 

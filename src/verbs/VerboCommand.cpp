@@ -1,9 +1,6 @@
 #include <ostream>
 
 #include "base/Numeri.h"
-#include "console/Console.h"
-#include "data/ControllaRecord.h"
-#include "data/Panels.h"
 #include "link/Identificazione.h"
 #include "setup/ComandiScan.h"
 #include "setup/CommutatoriSweep.h"
@@ -101,14 +98,9 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole) {
     const auto nome = NomeDaParola(*chiesto);
     if (!nome)
         return UsoErrato(banco, "command", "\"" + *chiesto + "\" is no valid name");
-    const std::string percorso = PercorsoPannello(*nome, "EST");
-    if (!banco.scrivania.albero.Esiste(percorso))
-        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
-    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
     ScanRecord scan;
-    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
-        return kGuastoFile;
-    ControllaScan(scan);
+    if (const EsitoVerbo esito = CaricaPerEsame(banco, *nome, scan); esito != kFatto)
+        return esito;
     if (!Riconosci(banco.ricevitore))
         return Guasto(banco, EsitoDelLink(banco),
                       banco.interrotto ? "stopped" : "no receiver answered");

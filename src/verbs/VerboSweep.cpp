@@ -3,11 +3,10 @@
 
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
-#include "console/Console.h"
-#include "data/ControllaRecord.h"
 #include "data/Panels.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
+#include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
 
@@ -132,16 +131,10 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     if (!nomeScan || !misura)
         return UsoErrato(banco, "sweep",
                          "\"" + (nomeScan ? misuraChiesta : *scanChiesto) + "\" is no valid name");
-    const std::string percorso = PercorsoPannello(*nomeScan, "EST");
-    if (!banco.scrivania.albero.Esiste(percorso))
-        return Guasto(banco, kGuastoFile, "there is no scan table " + percorso);
-
-    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
     ScanRecord scan;
-    if (!CaricaPanelEST(banco.scrivania, percorso, scan))
-        return kGuastoFile;
-    ControllaScan(scan);
-    banco.scrivania.env.ScanPanelPath = percorso;
+    if (const EsitoVerbo esito = CaricaPerEsame(banco, *nomeScan, scan); esito != kFatto)
+        return esito;
+    banco.scrivania.env.ScanPanelPath = PercorsoPannello(*nomeScan, "EST");
     const EsitoVerbo esito = DaCorsa(banco, Corri(banco, scan, *misura, modo));
     DiMisura(banco, esito);
     return esito == kFatto ? kFatto : Guasto(banco, esito, banco.corsa.motivo);
