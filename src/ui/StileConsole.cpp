@@ -364,6 +364,7 @@ int StileConsole::styleHint(StyleHint indizio, const QStyleOption* o, const QWid
     case SH_UnderlineShortcut:
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_ScrollBar_LeftClickAbsolutePosition:
         return 1;
