@@ -128,9 +128,9 @@ void LettoreFlusso::LeggiCampioni(Accumulo& dati,
     const size_t fine = TrovaFine(testo);
     const bool finito = fine != std::string_view::npos;
     const size_t utili = finito ? fine : testo.size() - CodaSospesa(testo);
-    const size_t bytePasso = 2 * quali_.size();
-    const size_t interi = utili / bytePasso;
-    Decodifica(dati.Dati().first(interi * bytePasso), interi);
+    const size_t interi = PassiInteri(utili, quali_.size());
+    blocco_.resize(interi);
+    DecodificaPassi(dati.Dati(), quali_, blocco_);
     if (interi > 0)
         passi(blocco_);
     if (finito) {
@@ -138,18 +138,7 @@ void LettoreFlusso::LeggiCampioni(Accumulo& dati,
         dati.Azzera();
         stato_ = Stato::Finito;
     } else {
-        dati.Consuma(interi * bytePasso);
-    }
-}
-
-void LettoreFlusso::Decodifica(std::span<const uint8_t> dati, size_t interi) {
-    blocco_.assign(interi, SampleRecord{});
-    const uint8_t* da = dati.data();
-    for (SampleRecord& passo : blocco_) {
-        for (const int d : quali_) {
-            passo.Livello[static_cast<size_t>(d)] = DecodificaLivello(da[0], da[1]);
-            da += 2;
-        }
+        dati.Consuma(interi * kByteLivello * quali_.size());
     }
 }
 

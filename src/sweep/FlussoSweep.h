@@ -11,16 +11,10 @@
 #include <vector>
 
 #include "link/LinkPort.h"
+#include "link/Livelli.h"
 #include "records/SampleRecord.h"
 
 namespace orvane {
-
-/// The one decoder of wire levels: hundredths of a dB in dBuV.
-constexpr int16_t DecodificaLivello(uint8_t basso, uint8_t alto) {
-    const int v = alto * 256 + basso;
-    // Minus 65535, not 65536: every stored trace relies on this one encoding.
-    return static_cast<int16_t>(v > 32767 ? v - 65535 : v);
-}
 
 /// Words of the parameter that an "SFD=ERR n" names; empty for an unknown number.
 std::string_view ParoleErroreSweep(int codice);
@@ -59,7 +53,6 @@ public:
 private:
     bool LeggiRiscontro(Accumulo& dati);
     void LeggiIntestazione(Accumulo& dati);
-    void Decodifica(std::span<const uint8_t> dati, size_t interi);
     void LeggiCampioni(Accumulo& dati,
                        const std::function<void(std::span<const SampleRecord>)>& passi);
 

@@ -50,14 +50,6 @@ Ricevuto Leggi(const std::string& stream, const Flag& detector, bool con5520F, s
     return {lettore.StatoAttuale(), passi, lettore.PassoAnnunciato(), lettore.CodiceErrore()};
 }
 
-TEST(DecodificaLivello, KeepsItsOneEncoding) {
-    EXPECT_EQ(DecodificaLivello(0x10, 0x27), 10000);
-    EXPECT_EQ(DecodificaLivello(0xFF, 0x7F), 32767);
-    EXPECT_EQ(DecodificaLivello(0x00, 0x80), -32767);
-    EXPECT_EQ(DecodificaLivello(0xFF, 0xFF), 0);
-    EXPECT_EQ(DecodificaLivello(0xFE, 0xFF), -1);
-}
-
 TEST(LettoreFlusso, GivesTheSameStepsHoweverTheBytesAreSplit) {
     const Flag insiemi[] = {{1}, {1, 1}, {0, 1, 0, 1}, {1, 1, 1, 1, 1, 1}};
     for (const Flag& detector : insiemi) {
