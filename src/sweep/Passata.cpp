@@ -61,12 +61,12 @@ bool Passata::Ricevi() {
     Scadenza termine(r_.ambiente, TempoMassimo());
     Scadenza intestazione(r_.ambiente, kIntestazioneS);
     while (true) {
-        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta();
+        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta() || PausaMatura();
         const double attesa = AttendeIntestazione()
                                   ? std::min(termine.Rimane(), intestazione.Rimane())
                                   : termine.Rimane();
         r_.ambiente.ElaboraEventi(subito ? 0 : attesa, Veglia::EventiELink);
-        if (c_.stato.PausaRichiesta != 0 && !Interrotta() && !Pausa(termine))
+        if (PausaMatura() && !Interrotta() && !Pausa(termine))
             return false;
         if (Interrotta())
             return Finisci(EsitoCorsa::Fermata);
@@ -83,6 +83,12 @@ bool Passata::Ricevi() {
         if (!Attendi5520F(intestazione))
             return false;
     }
+}
+
+/// Ahead of its steps the silence of a receiver is no pause.
+bool Passata::PausaMatura() const {
+    return c_.stato.PausaRichiesta != 0 &&
+           lettore_->StatoAttuale() == LettoreFlusso::Stato::Campioni;
 }
 
 /// False: what had come by then could not be stored, or was no sweep.
