@@ -21,6 +21,8 @@ constexpr double kPeriodoTestoS = 0.1;
 // Beyond twice its steps and this many more a stream is no sweep: it would fill the disk.
 constexpr long long kPassiDiTroppo = 1000;
 constexpr size_t kBloccoLettura = 256 * 1024;
+// Acknowledgement and header, without most of a pass that has come already.
+constexpr size_t kBloccoPrimaDellaPausa = 64;
 
 } // namespace
 
@@ -101,7 +103,9 @@ bool Passata::Pausa(Scadenza& termine) {
 
 /// Whether any bytes came; the log has them.
 bool Passata::LeggiArrivati() {
-    const size_t letti = r_.porta.LeggiInAccumulo(kBloccoLettura);
+    const bool verraPausa = c_.stato.PausaRichiesta != 0;
+    const size_t letti =
+        r_.porta.LeggiInAccumulo(verraPausa ? kBloccoPrimaDellaPausa : kBloccoLettura);
     if (letti > 0)
         r_.log.BloccoSweep(r_.porta.accumulo.Dati().last(letti));
     return letti > 0;

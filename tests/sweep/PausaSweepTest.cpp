@@ -221,26 +221,31 @@ TEST(PausaSweep, ASettingThatIsRefusedDoesNotHoldUpAStop) {
 }
 
 TEST(PausaSweep, APressBetweenTwoPassesHoldsTheNextOne) {
-    Banco banco;
-    banco.pausa.alPasso = {};
-    banco.scrivania.setup.AncillaryKind = 1;
-    banco.scan.Righe[0].LineSwitch = {0, 1, 1, 0};
-    banco.pausa.inRiga = [&] {
-        const auto& comandi = banco.simulato.Comandi();
-        const auto sweep = std::ranges::count_if(
-            comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
-        if (sweep == 1)
-            ChiediPausa(banco.statoCorsa);
-    };
-    EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);
-    std::vector<std::string> comandi = banco.Dietro();
-    std::erase_if(comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
-    EXPECT_EQ(comandi,
-              (std::vector<std::string>{"#?UHT*", "#SUPP4*", "#ASPA*", "#ASRE*", "#?UHT*"}));
-    for (const char* base : {"M-L1", "M-L2"})
-        EXPECT_EQ(banco.File(PercorsoRS("M", std::string("Sub_Measure\\") + base, 0)).size(),
-                  5971 * kByteCampione);
-    EXPECT_EQ(banco.statoCorsa.PausaRichiesta, 0);
+    for (const double riscontroS : {0.0, 2.0}) { // a receiver still at it is no paused one
+        SCOPED_TRACE(riscontroS);
+        Banco banco;
+        banco.simulato.Aggiungi(
+            {.tipo = Capriccio::Tipo::Tardi, .comando = "SSFD", .secondi = riscontroS});
+        banco.pausa.alPasso = {};
+        banco.scrivania.setup.AncillaryKind = 1;
+        banco.scan.Righe[0].LineSwitch = {0, 1, 1, 0};
+        banco.pausa.inRiga = [&] {
+            const auto& comandi = banco.simulato.Comandi();
+            const auto sweep = std::ranges::count_if(
+                comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
+            if (sweep == 1)
+                ChiediPausa(banco.statoCorsa);
+        };
+        EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);
+        std::vector<std::string> comandi = banco.Dietro();
+        std::erase_if(comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
+        EXPECT_EQ(comandi,
+                  (std::vector<std::string>{"#?UHT*", "#SUPP4*", "#ASPA*", "#ASRE*", "#?UHT*"}));
+        for (const char* base : {"M-L1", "M-L2"})
+            EXPECT_EQ(banco.File(PercorsoRS("M", std::string("Sub_Measure\\") + base, 0)).size(),
+                      5971 * kByteCampione);
+        EXPECT_EQ(banco.statoCorsa.PausaRichiesta, 0);
+    }
 }
 
 TEST(PausaSweep, IsOfferedFromTheFirmwareOnThatHasIt) {
