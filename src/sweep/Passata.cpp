@@ -96,7 +96,9 @@ bool Passata::PausaMatura() const {
 /// False: what had come by then could not be stored, or was no sweep.
 bool Passata::Pausa(Scadenza& termine) {
     bool bene = true;
+    const double da = r_.ambiente.Adesso();
     ControllaPausaSweep(c_, [&] { bene = Elabora(); });
+    progresso_.AggiungiPausa(r_.ambiente.Adesso() - da);
     termine.Rinnova(TempoMassimo());
     return bene && Elabora();
 }
