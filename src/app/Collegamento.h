@@ -25,8 +25,8 @@ public:
     Vettori VettoriPorta();
     CatalogoPorte& Catalogo() { return porte_; }
 
-    /// "sim[:MODEL][,fw=X.YZ][,seed=N][,speed=line]", "usb", "com:N", "tty:PATH"; an empty text
-    /// leaves the panel's choice. What is wrong with the text, empty when nothing is.
+    /// "sim[:MODEL][,fw=X.YZ][,seed=N][,speed=line|full][,port=N]", "usb", "com:N", "tty:PATH"; an
+    /// empty text leaves the panel's choice. What is wrong with the text, empty when nothing is.
     std::string Applica(std::string_view link, Porta& porta);
 
     /// The receiver in memory, for as long as there is one.

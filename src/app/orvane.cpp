@@ -39,7 +39,8 @@ void StampaAiuto(std::ostream& uscita) {
     uscita << kNomeProgramma << " " << RelSoftware() << "\n\n"
            << "usage: orvane [--data DIR] [--link LINK] [--answer yes|no] [--json]\n"
            << "              [--patience S] VERB ...\n\n"
-           << "LINK: sim[:MODEL][,fw=X.YZ][,seed=N][,speed=line], usb, com:N or tty:PATH\n\n";
+           << "LINK: sim[:MODEL][,fw=X.YZ][,seed=N][,speed=line|full][,port=N], usb, com:N or\n"
+           << "      tty:PATH\n\n";
     for (const VoceVerbo& voce : TabellaVerbi())
         uscita << "  " << voce.nome << " " << voce.uso << "\n      " << voce.aiuto << "\n";
     uscita << "\nexit status: 0 done, 1 refused by a check, 2 wrong use, 3 link or receiver,\n"

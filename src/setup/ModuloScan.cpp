@@ -105,6 +105,11 @@ void ModificaTBStep(ModuloScan& modulo, std::string_view testo) {
         ModificaStep(modulo.riga, testo, modulo.unita);
 }
 
+void ScriviPrompt(ModuloScan& modulo, std::string_view testo) {
+    ModificaPrompt(modulo.riga, testo);
+    modulo.riga.PromptOn = modulo.riga.Prompt.empty() ? 0 : 1;
+}
+
 std::vector<std::string> ElencoFreqTable(const AlberoDati& albero) {
     return NessunoENomi(albero, cartella::kTable, "5SF");
 }

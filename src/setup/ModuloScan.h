@@ -118,6 +118,9 @@ std::optional<Riquadro> ControllaFreqTable(ModuloScan& modulo);
 /// `TBStep`, in the unit that the window shows; and another unit for the same step.
 void ModificaTBStep(ModuloScan& modulo, std::string_view testo);
 
+/// `TBMsgBoxIniziale`: a text that is typed is also shown, and one that is cleared no longer.
+void ScriviPrompt(ModuloScan& modulo, std::string_view testo);
+
 /// What `CBXFileStep` and the two lists of limits offer: "NONE", then the files' base names.
 std::vector<std::string> ElencoFreqTable(const AlberoDati& albero);
 std::vector<std::string> CompilaCBXLimiti(const AlberoDati& albero);

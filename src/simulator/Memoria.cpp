@@ -47,6 +47,11 @@ int AttenuatorePer(const MemoriaSimulata& memoria, std::string_view nome) {
     return std::max(scelto < 0 ? 10 : scelto, minimo);
 }
 
+int ReteInUso(const MemoriaSimulata& memoria) {
+    const int porta = static_cast<int>(NumeroOppure(memoria, "UPP", 0));
+    return porta != 0 ? porta : static_cast<int>(NumeroOppure(memoria, "LSN", 0));
+}
+
 std::string HoldEffettivo(double ms, double rbwHz) {
     const double minimo = std::ceil(2000 / rbwHz * 1000) / 1000;
     return TestoDaNumero(ms > 0 ? ms : std::max(0.1, minimo));

@@ -52,6 +52,8 @@ double VersioneInUso(const MemoriaSimulata& memoria);
 int FiltroPer(const MemoriaSimulata& memoria, int id, double freqHz);
 /// Attenuator in use: as set by `nome`, on AUTO 10 dB, never below the minimum.
 int AttenuatorePer(const MemoriaSimulata& memoria, std::string_view nome);
+/// Code of the network line that a command has switched to: at the user port, or else inside.
+int ReteInUso(const MemoriaSimulata& memoria);
 /// The time that the receiver measures at each step, ms; 0 asks for the shortest of the filter.
 std::string HoldEffettivo(double ms, double rbwHz);
 

@@ -28,8 +28,8 @@ inline constexpr double kByteAlSecondoLinea = 11520; ///< 115200 baud, ten bits 
 
 /// Names accepted by `--model`, in the order that a help text lists them.
 std::vector<std::string> ModelliSimulati();
-/// "MODEL[,fw=X.YZ][,seed=N][,speed=line][,port=N]"; empty with an unknown word, which `errore`
-/// then tells.
+/// "MODEL[,fw=X.YZ][,seed=N][,speed=line|full][,port=N]"; empty with an unknown word, which
+/// `errore` then tells.
 std::optional<OpzioniSimulatore> LeggiOpzioniSimulatore(std::string_view testo,
                                                         std::string& errore);
 
@@ -112,6 +112,7 @@ struct CondizioniSpettro {
     int attDb = 10;
     bool preAmp = false;
     uint32_t seme = 1;
+    int rete = 0; ///< code of the network line that is switched to the input
 };
 int16_t LivelloSimulato(double freqMhz, int detector, const CondizioniSpettro& condizioni);
 

@@ -55,11 +55,23 @@ float LivelloInviluppo(double freqHz, const CondizioniSpettro& c) {
     return SommaPotenze(ricevitore + banda, FondoApparato(freqHz) + banda);
 }
 
-int16_t Arrotonda(float centesimi) {
+int Arrotonda(float centesimi) {
     // The bias makes the cut a rounding for negative levels too.
-    const int intero = static_cast<int>(centesimi + 32768.5f) - 32768;
-    return static_cast<int16_t>(std::clamp(intero, -19999, 32767));
+    return static_cast<int>(centesimi + 32768.5f) - 32768;
 }
+
+int16_t InCampo(int centesimi) {
+    return static_cast<int16_t>(std::clamp(centesimi, -19999, 32767));
+}
+
+/// Networks by the three lowest pins of their code, in hundredths of a dB.
+struct ReteSimulata {
+    float medio;    ///< at the middle frequency
+    float pendenza; ///< half of what it changes from far below to far above
+};
+constexpr ReteSimulata kReti[] = {{0, 0},      {-150, 80},  {220, -60}, {-260, 120},
+                                  {-180, 140}, {160, -120}, {-230, 60}, {190, 90}};
+constexpr double kMezzoReteHz = 2e6;
 
 } // namespace
 
@@ -67,9 +79,16 @@ int64_t GrigliaMilliHz(double freqHz) {
     return static_cast<int64_t>(freqHz * 1000 + 0.5);
 }
 
+int ScartoRete(int codice, double freqHz) {
+    const ReteSimulata& rete = kReti[static_cast<size_t>(codice) % std::size(kReti)];
+    const double posto = (freqHz - kMezzoReteHz) / (freqHz + kMezzoReteHz);
+    return static_cast<int>(std::lround(rete.medio + rete.pendenza * posto));
+}
+
 Spettro::Spettro(const CondizioniSpettro& condizioni, double minHz, double maxHz)
-    : rbwHz_(std::max(condizioni.rbwHz, 0.1)), seme_(Mescola(condizioni.seme)),
-      celleAlHz_(2 / rbwHz_), inversoMezzaBanda_(2 / rbwHz_), margine_(kBandePortata * rbwHz_) {
+    : rbwHz_(std::max(condizioni.rbwHz, 0.1)), rete_(condizioni.rete),
+      seme_(Mescola(condizioni.seme)), celleAlHz_(2 / rbwHz_), inversoMezzaBanda_(2 / rbwHz_),
+      margine_(kBandePortata * rbwHz_) {
     const double da = std::max(minHz, 1.0);
     const double a = std::max(maxHz, da);
     primaVoce_ = VoceInviluppo(da);
@@ -172,8 +191,9 @@ void Spettro::Livelli(double freqHz, std::span<const uint8_t> quali, int16_t* do
         livelli[i] = fondo + kScartiRumore[d] + a[d] + (b[d] - a[d]) * parte;
     }
     AggiungiRighe(hz, quali, livelli);
+    const int scarto = rete_ == 0 ? 0 : ScartoRete(rete_, hz);
     for (size_t i = 0; i < quali.size(); ++i)
-        dove[i] = Arrotonda(livelli[i]);
+        dove[i] = InCampo(Arrotonda(livelli[i]) + scarto);
 }
 
 int16_t LivelloSimulato(double freqMhz, int detector, const CondizioniSpettro& condizioni) {

@@ -33,6 +33,10 @@ struct Altopiano {
 /// Frequencies on this grid give the same level whichever way they were computed.
 int64_t GrigliaMilliHz(double freqHz);
 
+/// What a network line measures more than the one with code 0, in hundredths of a dB: smooth over
+/// the frequency, the same for every detector.
+int ScartoRete(int codice, double freqHz);
+
 class Spettro {
 public:
     /// Covers `minHz` to `maxHz`; elsewhere there is nothing but floor.
@@ -50,6 +54,7 @@ private:
     void AggiungiRighe(double hz, std::span<const uint8_t> quali, float* livelli) const;
 
     double rbwHz_;
+    int rete_;
     uint64_t seme_;
     double celleAlHz_;
     double inversoMezzaBanda_;

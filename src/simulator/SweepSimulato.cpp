@@ -188,7 +188,8 @@ PassoSimulato PassoAnalyzer(const MemoriaSimulata& memoria) {
     passo.condizioni = {.rbwHz = RbwDaCodice(FiltroPer(memoria, filtro, passo.stopHz)),
                         .attDb = AttenuatorePer(memoria, "AAT"),
                         .preAmp = ValoreOppure(memoria, "APA", "OFF") == "ON",
-                        .seme = memoria.seme};
+                        .seme = memoria.seme,
+                        .rete = ReteInUso(memoria)};
     // At least 500 steps in a narrow span, at most a million in a wide one.
     const double spanHz = passo.stopHz - passo.startHz;
     passo.stepHz = static_cast<float>(
@@ -224,6 +225,7 @@ SweepAvviato AvviaSweep(MemoriaSimulata& memoria, std::string_view campi) {
     for (std::string& campo : r.campi)
         campo = Rifila(campo);
     r.passo.condizioni.seme = memoria.seme;
+    r.passo.condizioni.rete = ReteInUso(memoria);
     if (const ErroreSweep errore = LeggiCampi(memoria, r); errore != kNessuno)
         return {.errore = errore, .flusso = nullptr};
 

@@ -337,7 +337,8 @@ std::string Detector(const MemoriaSimulata& memoria) {
     const CondizioniSpettro condizioni{.rbwHz = RbwDaCodice(filtro),
                                        .attDb = AttenuatorePer(memoria, "MAT"),
                                        .preAmp = ValoreOppure(memoria, "MPA", "OFF") == "ON",
-                                       .seme = memoria.seme};
+                                       .seme = memoria.seme,
+                                       .rete = ReteInUso(memoria)};
     std::string valori;
     for (int d = 0; d < static_cast<int>(kNumDetector); ++d)
         valori += TestoFisso(LivelloSimulato(hz / 1e6, d, condizioni) / 100.0, 2) + ";";

@@ -111,10 +111,20 @@ void ChiediStop(StatoCorsa& stato) {
 }
 
 void ChiediPausa(StatoCorsa& stato) {
-    if (stato.fase == FaseCorsa::Misura)
+    if (stato.fase == FaseCorsa::Misura || stato.fase == FaseCorsa::Riga)
         stato.PausaRichiesta = 1;
     else if (stato.fase == FaseCorsa::Pausa)
         stato.PausaRichiesta = 2;
+}
+
+bool ChiediCambio(StatoCorsa& stato, const CambioInPausa& cambio) {
+    const bool suo = cambio.quale == ParComune::BWIF || cambio.quale == ParComune::Attenuatore;
+    if (!suo || stato.fase != FaseCorsa::Pausa)
+        return false;
+    // What waits already goes out with the value that the record has by then.
+    std::erase_if(stato.inSospeso, [&](const auto& c) { return c.quale == cambio.quale; });
+    stato.inSospeso.push_back(cambio);
+    return true;
 }
 
 void ScegliTimer(StatoCorsa& stato, int secondi) {

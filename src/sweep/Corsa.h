@@ -8,6 +8,7 @@
 
 #include "data/Misure.h"
 #include "data/Scrivania.h"
+#include "link/RegoleComuni.h"
 #include "link/Ricevitore.h"
 #include "records/ScanRecord.h"
 #include "setup/PreVolo.h"
@@ -87,12 +88,19 @@ enum class EsitoCorsa {
     GuastoFile
 };
 
+/// A setting of the front-end that was changed in a pause; the record has its value.
+struct CambioInPausa {
+    ParComune quale = ParComune::BWIF;
+    Modalita modalita = Modalita::Analyzer; ///< the live mode whose list and command it belongs to
+};
+
 /// Flags through which the window reaches the run, and what the run keeps.
 struct StatoCorsa {
     FaseCorsa fase = FaseCorsa::Ferma;
     bool SweepInCorso = false;
     bool StopRichiesto = false;
-    int16_t PausaRichiesta = 0; ///< 0 none, 1 pause wanted, 2 resume wanted
+    int16_t PausaRichiesta = 0;                ///< 0 none, 1 pause wanted, 2 resume wanted
+    std::vector<CambioInPausa> inSospeso = {}; ///< still to be sent, in order
     bool SweepFinito = false;
     int TimerSweepSec = 0;        ///< delayed start; 0 none. A run leaves it as it is
     int16_t TriggerSweepMode = 0; ///< start when the user port is 0 (1), or is not (2); 0 none
@@ -119,9 +127,13 @@ EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura);
 /// is in flight.
 void ChiediStop(StatoCorsa& stato);
 
-/// `CMBPauseSweep`: pause while a pass is measuring, resume while it is paused; nothing in any
-/// other phase.
+/// `CMBPauseSweep`: pause while a pass is measuring, resume while it is paused. Between two passes
+/// the pause is kept for the next one. Nothing in any other phase.
 void ChiediPausa(StatoCorsa& stato);
+
+/// The user has changed filter or attenuator while the run is paused: the run sends it from there.
+/// False, and nothing noted, for any other setting and in any other phase.
+bool ChiediCambio(StatoCorsa& stato, const CambioInPausa& cambio);
 
 /// `ChkTimerSweep` and `ChkTriggerSweep`: setting one clears the other.
 void ScegliTimer(StatoCorsa& stato, int secondi);

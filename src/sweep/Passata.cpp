@@ -21,6 +21,8 @@ constexpr double kPeriodoTestoS = 0.1;
 // Beyond twice its steps and this many more a stream is no sweep: it would fill the disk.
 constexpr long long kPassiDiTroppo = 1000;
 constexpr size_t kBloccoLettura = 256 * 1024;
+// Acknowledgement and header, without most of a pass that has come already.
+constexpr size_t kBloccoPrimaDellaPausa = 64;
 
 } // namespace
 
@@ -61,12 +63,12 @@ bool Passata::Ricevi() {
     Scadenza termine(r_.ambiente, TempoMassimo());
     Scadenza intestazione(r_.ambiente, kIntestazioneS);
     while (true) {
-        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta();
+        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta() || PausaMatura();
         const double attesa = AttendeIntestazione()
                                   ? std::min(termine.Rimane(), intestazione.Rimane())
                                   : termine.Rimane();
         r_.ambiente.ElaboraEventi(subito ? 0 : attesa, Veglia::EventiELink);
-        if (c_.stato.PausaRichiesta != 0 && !Interrotta() && !Pausa(termine))
+        if (PausaMatura() && !Interrotta() && !Pausa(termine))
             return false;
         if (Interrotta())
             return Finisci(EsitoCorsa::Fermata);
@@ -85,17 +87,27 @@ bool Passata::Ricevi() {
     }
 }
 
+/// Ahead of its steps the silence of a receiver is no pause.
+bool Passata::PausaMatura() const {
+    return c_.stato.PausaRichiesta != 0 &&
+           lettore_->StatoAttuale() == LettoreFlusso::Stato::Campioni;
+}
+
 /// False: what had come by then could not be stored, or was no sweep.
 bool Passata::Pausa(Scadenza& termine) {
     bool bene = true;
+    const double da = r_.ambiente.Adesso();
     ControllaPausaSweep(c_, [&] { bene = Elabora(); });
+    progresso_.AggiungiPausa(r_.ambiente.Adesso() - da);
     termine.Rinnova(TempoMassimo());
     return bene && Elabora();
 }
 
 /// Whether any bytes came; the log has them.
 bool Passata::LeggiArrivati() {
-    const size_t letti = r_.porta.LeggiInAccumulo(kBloccoLettura);
+    const bool verraPausa = c_.stato.PausaRichiesta != 0;
+    const size_t letti =
+        r_.porta.LeggiInAccumulo(verraPausa ? kBloccoPrimaDellaPausa : kBloccoLettura);
     if (letti > 0)
         r_.log.BloccoSweep(r_.porta.accumulo.Dati().last(letti));
     return letti > 0;

@@ -39,6 +39,7 @@ private:
     bool LeggiArrivati();
     bool AttendeIntestazione() const;
     bool Attendi5520F(Scadenza& intestazione);
+    bool PausaMatura() const;
     bool Pausa(Scadenza& termine);
     bool LetturaFallita();
     bool Elabora();

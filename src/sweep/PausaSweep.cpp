@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "link/ImpLocali.h"
 #include "link/Interrogazioni.h"
 #include "link/Protocollo.h"
 #include "records/SetupRecord.h"
@@ -32,6 +33,44 @@ bool PuoEssereRifiuto(std::span<const uint8_t> dati) {
                       [](uint8_t a, char b) { return a == static_cast<uint8_t>(b); });
 }
 
+/// A command empties the accumulation buffer, in which part of a step may wait: keeps what it held.
+class TieniAccumulo {
+public:
+    explicit TieniAccumulo(Accumulo& accumulo)
+        : accumulo_(accumulo), tenuti_(accumulo.Dati().begin(), accumulo.Dati().end()) {}
+    ~TieniAccumulo() {
+        accumulo_.Azzera();
+        std::ranges::copy(tenuti_, accumulo_.Spazio(tenuti_.size()).begin());
+        accumulo_.Aggiunti(tenuti_.size());
+    }
+    TieniAccumulo(const TieniAccumulo&) = delete;
+    TieniAccumulo& operator=(const TieniAccumulo&) = delete;
+
+private:
+    Accumulo& accumulo_;
+    std::vector<uint8_t> tenuti_;
+};
+
+/// In a pause the column of settings shows the record already; nothing else is to be shown.
+struct VistaMuta : VistaComuni {
+    void MostraComuni() override {}
+    void RidisegnaScala() override {}
+    void MostraFiltro(const FiltroMostrato&) override {}
+    void RiempiLineSwitch() override {}
+    void InviaLineSwitch() override {}
+};
+
+/// The setter of a live mode, which sends what the record holds.
+void InviaCambio(const Corsa& corsa, const CambioInPausa& cambio) {
+    const TieniAccumulo tenuto(corsa.ricevitore.porta.accumulo);
+    VistaMuta vista;
+    ComuniVivi comuni{corsa.ricevitore, corsa.scrivania.setup, vista};
+    const auto ordine = OrdineInvio();
+    const auto voce = std::ranges::find(ordine, cambio.quale, &VoceInvio::quale);
+    if (voce != ordine.end())
+        voce->invia(comuni, cambio.modalita);
+}
+
 class Pausa {
 public:
     explicit Pausa(const Corsa& c) : c_(c), r_(c.ricevitore) {}
@@ -43,6 +82,7 @@ public:
 private:
     bool ProvaSospensione();
     bool ProvaRipresa();
+    void TimerAggiornaControlli();
     void Attendi(double secondi);
     bool Raccogli();
     bool TogliRifiuto();
@@ -124,8 +164,11 @@ bool Pausa::Sospendi() {
     c_.vista.AbilitaTastiCorsa(true);
     if (riuscita && !SweepGiaFinito())
         return true;
+    // A pass that was over first leaves the pause to the next one.
+    if (SweepGiaFinito() && !VuoleUscire())
+        return false;
     c_.stato.PausaRichiesta = 0;
-    if (VuoleUscire() || SweepGiaFinito())
+    if (VuoleUscire())
         return false;
     c_.stato.StopRichiesto = true;
     c_.stato.motivo = "Pause Failed";
@@ -133,20 +176,34 @@ bool Pausa::Sospendi() {
     return false;
 }
 
+/// Sends what the user has changed meanwhile. While a command is out a further change may come.
+void Pausa::TimerAggiornaControlli() {
+    auto& inSospeso = c_.stato.inSospeso;
+    while (!inSospeso.empty() && !VuoleUscire()) {
+        const CambioInPausa cambio = inSospeso.front();
+        inSospeso.erase(inSospeso.begin());
+        InviaCambio(c_, cambio);
+    }
+}
+
 void Pausa::RestaInPausa() {
     Fase(FaseCorsa::Pausa);
     Scadenza batteria(r_.ambiente, 0);
     while (c_.stato.PausaRichiesta == 1 && !VuoleUscire()) {
-        if (batteria.Passata()) {
-            VisualizzaBatteriaInPausa(c_);
-            batteria.Rinnova(kPeriodoBatteriaS);
-        }
         r_.porta.ByteInCoda(); // finds out whether there is a port still
         if (!r_.porta.Aperta()) {
             c_.stato.PausaRichiesta = 0;
             return Fase(FaseCorsa::Misura);
         }
-        r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
+        // While a command is out the user may have asked for something: no wait behind it.
+        if (!c_.stato.inSospeso.empty()) {
+            TimerAggiornaControlli();
+        } else if (batteria.Passata()) {
+            VisualizzaBatteriaInPausa(c_);
+            batteria.Rinnova(kPeriodoBatteriaS);
+        } else {
+            r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
+        }
     }
 }
 
@@ -166,8 +223,10 @@ bool Pausa::ProvaRipresa() {
 }
 
 void Pausa::Riprendi() {
-    // Still paused: a Stop ends the query too.
-    VisualizzaBatteriaInPausa(c_);
+    // Still paused: a Stop ends the commands too.
+    TimerAggiornaControlli();
+    if (!VuoleUscire())
+        VisualizzaBatteriaInPausa(c_);
     Fase(FaseCorsa::Misura);
     while (!VuoleUscire() && !ProvaRipresa()) {
         MostraErrore(r_, "set Resume Sweep", true);
@@ -200,12 +259,8 @@ void VisualizzaBatteriaInPausa(const Corsa& corsa) {
     Ricevitore& r = corsa.ricevitore;
     if (r.modello.FwVersione < firmware::kPausaBatteria || !HaBatteria(r.modello))
         return;
-    // The query empties the accumulation buffer, in which part of a step may wait.
-    const auto dati = r.porta.accumulo.Dati();
-    const std::vector<uint8_t> tenuti(dati.begin(), dati.end());
+    const TieniAccumulo tenuto(r.porta.accumulo);
     const auto batteria = LeggiRispostaBAT(InviaComando(r, kTempoRisposta, "#?BAT*", true));
-    std::ranges::copy(tenuti, r.porta.accumulo.Spazio(tenuti.size()).begin());
-    r.porta.accumulo.Aggiunti(tenuti.size());
     if (batteria)
         corsa.vista.MostraBatteria(batteria->livello);
 }

@@ -11,8 +11,9 @@ namespace orvane {
 void ControllaVisCMBPausa(Corsa& corsa);
 
 /// Carries out what `PausaRichiesta` asks for, and stays until the pass runs on or the user wants
-/// out. What arrives meanwhile goes into the accumulation buffer; `elabora` is called when all that
-/// came ahead of the pause is there. A receiver that cannot be made to pause flags a stop.
+/// out; filter and attenuator that the user touches there are sent. What arrives meanwhile goes
+/// into the accumulation buffer; `elabora` is called when all that came ahead of the pause is
+/// there. A receiver that cannot be made to pause flags a stop.
 void ControllaPausaSweep(const Corsa& corsa, const std::function<void()>& elabora);
 
 /// Asks the battery, once, in the midst of a pass: what has been accumulated stays.

@@ -76,7 +76,7 @@ Avanzamento Progresso::Adesso() const {
     if (totale_ > 0)
         ora.frazione = std::min(1.0, (finite_ + PesoFatto()) / totale_);
     if (ora.frazione >= kFrazioneMinima)
-        ora.restanoS = ora.trascorsiS * (1 - ora.frazione) / ora.frazione;
+        ora.restanoS = (ora.trascorsiS - pauseS_) * (1 - ora.frazione) / ora.frazione;
     return ora;
 }
 

@@ -23,6 +23,8 @@ public:
     /// A 5520F has announced another step than the table's: its line has `passi` steps.
     void CorreggiRiga(long long passi);
     void Aggiungi(long long passi) { passiRiga_ += passi; }
+    /// So long the sweep was held: elapsed, but no measure of its speed.
+    void AggiungiPausa(double secondi) { pauseS_ += secondi; }
     /// The line is done, however many steps it had.
     void FineRiga() { rigaFinita_ = true; }
     Avanzamento Adesso() const;
@@ -40,6 +42,7 @@ private:
     const Ambiente& ambiente_;
     std::vector<PesoRiga> righe_;
     double inizio_;
+    double pauseS_ = 0;
     double totale_ = 0;
     double finite_ = 0; ///< weight of the lines that are done
     int riga_ = 0;

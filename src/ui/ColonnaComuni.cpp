@@ -87,7 +87,7 @@ void ColonnaComuni::Carica() {
     generatore_->Carica(regole.generatore, ImpostaModelCaps(modello_)[1]);
     if (!inCorsa_)
         return;
-    frontEnd_->Blocca(kInCorsa);
+    frontEnd_->Blocca(kInCorsa, filtroEAtt_);
     ancillary_->Blocca(kInCorsa);
     generatore_->Blocca(kInCorsa);
 }
@@ -105,8 +105,9 @@ void ColonnaComuni::Segui(const ReceiverModel& modello, Modalita scheda) {
         Q_EMIT ScalaCambiata();
 }
 
-void ColonnaComuni::Abilita(bool si) {
+void ColonnaComuni::Abilita(bool si, bool filtroEAtt) {
     inCorsa_ = !si;
+    filtroEAtt_ = filtroEAtt;
     Carica();
 }
 

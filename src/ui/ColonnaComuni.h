@@ -21,8 +21,11 @@ public:
     void Carica();
     /// Follows the receiver that was met last, and the tab; the live mode is the last one entered.
     void Segui(const ReceiverModel& modello, Modalita scheda);
-    /// While a run is on, what the receiver was told stays as it is.
-    void Abilita(bool si);
+    /// While a run is on (`si` false), what the receiver was told stays as it is, but for filter
+    /// and attenuator where `filtroEAtt`.
+    void Abilita(bool si, bool filtroEAtt);
+    /// The live mode whose lists are shown.
+    Modalita ModoVivo() const { return modoVivo_; }
 
 Q_SIGNALS:
     /// The scale of the picture is another one.
@@ -44,6 +47,7 @@ private:
     Modalita scheda_ = Modalita::SweepsArchive;
     Modalita modoVivo_ = Modalita::Analyzer;
     bool inCorsa_ = false;
+    bool filtroEAtt_ = true;
     QFileSystemWatcher file_; ///< tables that come and go
     QWidget* interno_;
     FrmFrontEnd* frontEnd_;

@@ -11,7 +11,8 @@ struct ControlliFase {
     bool eseguiVivo;
     const char* pausa; ///< caption of `CMBPauseSweep`, where the run shows it
     bool pausaViva;
-    bool fermi; ///< scan table, measure, start, settings, tabs and menus
+    bool fermi;      ///< scan table, measure, start, settings, tabs and menus
+    bool filtroEAtt; ///< filter and attenuator, in the column of settings
 };
 
 /// `riceve`: false while the receiver is asked to pause; neither button acts then.

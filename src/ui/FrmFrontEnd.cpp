@@ -115,11 +115,12 @@ void FrmFrontEnd::Carica(const RegoleComuni& regole) {
     ApplicaStato(pulseLim_, regole.pulseLimiter);
 }
 
-void FrmFrontEnd::Blocca(const StatoControllo& perche) {
-    for (QWidget* controllo :
-         std::initializer_list<QWidget*>{filtro_, attenuatore_, minAtt_, preselettore_, preAmp_,
-                                         pulseLim_, antenna_, passaAlto_, altaImpedenza_})
+void FrmFrontEnd::Blocca(const StatoControllo& perche, bool filtroEAtt) {
+    for (QWidget* controllo : std::initializer_list<QWidget*>{
+             minAtt_, preselettore_, preAmp_, pulseLim_, antenna_, passaAlto_, altaImpedenza_})
         ApplicaStato(controllo, perche);
+    for (QComboBox* lista : {filtro_, attenuatore_})
+        ApplicaStato(lista, filtroEAtt ? StatoControllo{} : perche);
 }
 
 } // namespace orvane

@@ -11,8 +11,8 @@ class FrmFrontEnd : public GruppoColonna {
 public:
     FrmFrontEnd(ScritturaComuni& scrittura, QWidget* padre);
     void Carica(const RegoleComuni& regole);
-    /// While a run is on, nothing here changes.
-    void Blocca(const StatoControllo& perche);
+    /// While a run is on, nothing here changes but filter and attenuator, where `filtroEAtt`.
+    void Blocca(const StatoControllo& perche, bool filtroEAtt);
 
 private:
     void CreaListe();

@@ -177,10 +177,13 @@ void MainForm::CreaScorciatoie() {
 void MainForm::CollegaPannelli() {
     connect(schede_, &QTabBar::currentChanged, this, &MainForm::ClickScheda);
     connect(sweep_, &PannelloSweep::Esegui, this, &MainForm::Esegui);
-    connect(sweep_, &PannelloSweep::Pausa, this, [this] { ChiediPausa(console_->corsa.stato); });
+    connect(sweep_, &PannelloSweep::Pausa, this, &MainForm::Pausa);
     connect(sweep_, &PannelloSweep::TabellaCambiata, this, &MainForm::MostraAsseTabella);
     connect(comuni_, &ColonnaComuni::ScalaCambiata, quadro_, &MainPict::DrawGrid);
     connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::CambiaAncillary);
+    connect(comuni_, &ColonnaComuni::Cambiato, this, [this](ParComune quale) {
+        ChiediCambio(console_->corsa.stato, {quale, comuni_->ModoVivo()});
+    });
     connect(archivio_, &PannelloArchivio::DetectorCambiato, this, &MainForm::DisegnaMisura);
     for (const auto* divisore : findChildren<QSplitter*>())
         connect(divisore, &QSplitter::splitterMoved, &attesaMisure_, qOverload<>(&QTimer::start));

@@ -95,6 +95,7 @@ private:
     void MostraPannelli(bool archivio, bool sweep, bool vivo);
     void ClickScheda(int scheda);
     void Esegui();
+    void Pausa();
     void AbilitaDisabilitaControlli();
     void CreaAvvisiQuadro();
     void MostraEsito(EsitoCorsa esito);

@@ -42,6 +42,13 @@ void MainForm::Esegui() {
     MostraEsito(ClickExecuteSweep(console_->corsa, sweep_->Misura()));
 }
 
+void MainForm::Pausa() {
+    StatoCorsa& corsa = console_->corsa.stato;
+    ChiediPausa(corsa);
+    if (corsa.fase == FaseCorsa::Riga && corsa.PausaRichiesta == 1)
+        stato_->MostraMessaggio(tr("Pauses as soon as the next pass measures"));
+}
+
 void MainForm::MostraEsito(EsitoCorsa esito) {
     const StatoCorsa& s = console_->corsa.stato;
     QString testo = tr(kEsiti[static_cast<size_t>(esito)].testo);
@@ -96,7 +103,7 @@ void MainForm::MostraFase(FaseCorsa fase) {
 void MainForm::AbilitaDisabilitaControlli() {
     const auto controlli = ControlliDiFase(console_->corsa.stato.fase, riceveTasti_);
     sweep_->AbilitaDisabilitaControlli(controlli);
-    comuni_->Abilita(controlli.fermi);
+    comuni_->Abilita(controlli.fermi, controlli.filtroEAtt);
     schede_->setEnabled(controlli.fermi);
     if (auto* voce = menuBar()->findChild<QAction*>(QStringLiteral("MNURemoteLink")))
         voce->setEnabled(controlli.fermi);

@@ -37,7 +37,8 @@ QPlainTextEdit* CreaTestoPrompt(PiantaModulo& pianta) {
                         testo->fontMetrics().lineSpacing() * 4 + 12);
     testo->setPlainText(Q(pianta.modulo.riga.Prompt));
     QObject::connect(testo, &QPlainTextEdit::textChanged, testo, [&pianta, testo] {
-        ModificaPrompt(pianta.modulo.riga, S(testo->toPlainText()));
+        ScriviPrompt(pianta.modulo, S(testo->toPlainText()));
+        pianta.cambiato(std::nullopt);
         const QString tenuto = Q(pianta.modulo.riga.Prompt);
         if (tenuto.size() >= testo->toPlainText().size())
             return;
@@ -64,9 +65,8 @@ void CreaPrompt(PiantaModulo& pianta) {
     interno->addWidget(testo);
     CreaCornice(pianta, Cornice::FRMMsgBoxIniziale, "FRMMsgBoxIniziale", interno, testo,
                 QLatin1Char('T'));
-    pianta.specchi.emplace_back([&pianta, mostra, testo](const VistaModulo&) {
+    pianta.specchi.emplace_back([&pianta, mostra](const VistaModulo&) {
         mostra->setChecked(pianta.modulo.riga.PromptOn == 1);
-        testo->setEnabled(pianta.modulo.riga.PromptOn == 1);
     });
 }
 

@@ -22,13 +22,14 @@ constexpr std::pair<ColonnaScan, const char*> kPrimi[] = {
     {ColonnaScan::Step, "CHKAutoStep"},
     {ColonnaScan::Detector, "OPTDetector0"},
     {ColonnaScan::HoldTime, "TBHoldTime"},
-    {ColonnaScan::Prompt, "CHKMsgBoxIniziale"},
+    {ColonnaScan::Prompt, "TBMsgBoxIniziale"},
 };
 
 /// The text that what is typed over a cell begins.
 constexpr std::pair<ColonnaScan, const char*> kDigitabili[] = {
     {ColonnaScan::Step, "TBStep"},
     {ColonnaScan::HoldTime, "TBHoldTime"},
+    {ColonnaScan::Prompt, "TBMsgBoxIniziale"},
 };
 
 const char* Cerca(std::span<const std::pair<ColonnaScan, const char*>> voci, ColonnaScan colonna) {
@@ -119,11 +120,22 @@ void ScanTabForm::ApriVicino(const QRect& cella, const QString& digitato) {
     }
     move(angolo);
     open();
-    auto* testo = findChild<QLineEdit*>(QLatin1String(Cerca(kDigitabili, modulo_.colonna)));
-    if (!digitato.isEmpty() && testo && testo->isEnabled() && testo->isVisible()) {
-        testo->setFocus();
-        testo->selectAll();
-        testo->insert(digitato);
+    if (!digitato.isEmpty())
+        Digita(digitato);
+}
+
+/// Begins the entry of the column anew, where it has a text that can be used.
+void ScanTabForm::Digita(const QString& digitato) {
+    auto* testo = findChild<QWidget*>(QLatin1String(Cerca(kDigitabili, modulo_.colonna)));
+    if (!testo || !testo->isEnabled() || !testo->isVisible())
+        return;
+    testo->setFocus();
+    if (auto* riga = qobject_cast<QLineEdit*>(testo)) {
+        riga->selectAll();
+        riga->insert(digitato);
+    } else if (auto* foglio = qobject_cast<QPlainTextEdit*>(testo)) {
+        foglio->selectAll();
+        foglio->insertPlainText(digitato);
     }
 }
 

@@ -29,6 +29,7 @@ protected:
 
 private:
     QLayout* CreaPulsanti();
+    void Digita(const QString& digitato);
     void Cambiato(const std::optional<Riquadro>& rifiuto);
     void Specchia();
     /// The first control that can be used.

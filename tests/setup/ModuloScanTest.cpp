@@ -170,6 +170,24 @@ TEST(RegoleRigaTest, FieldsAreHeldToTheirRanges) {
     }
 }
 
+TEST_F(ModuloScanTest, ATypedPromptIsShown) {
+    struct {
+        ScanLine riga;
+        const char* testo;
+        int16_t acceso;
+    } const casi[] = {
+        {{}, "P", 1},
+        {{.Prompt = "Plug in"}, "Plug in t", 1}, // the tick had been taken back
+        {{.PromptOn = 1, .Prompt = "P"}, "", 0},
+    };
+    for (const auto& caso : casi) {
+        ModuloScan modulo = Apri(ColonnaScan::Prompt, 0, caso.riga);
+        ScriviPrompt(modulo, caso.testo);
+        EXPECT_EQ(modulo.riga.PromptOn, caso.acceso) << caso.testo;
+        EXPECT_EQ(modulo.riga.Prompt, caso.testo);
+    }
+}
+
 TEST_F(ModuloScanTest, ASmartLineTakesNoLinearLimit) {
     const ScanLine smart{.Smart = 1,
                          .Detector = {0, 1, 0, 1},

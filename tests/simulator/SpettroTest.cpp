@@ -44,6 +44,20 @@ TEST(Spettro, TheSeedDecides) {
     EXPECT_GT(diversi, 90);
 }
 
+TEST(Spettro, ANetworkLineDiffersByWhatItsCodeSays) {
+    const struct {
+        int codice;
+        double mhz;
+        int diversa; ///< hundredths of a dB
+    } casi[] = {{0, 0.5, 0},  {1, 2, -150}, {1, 6, -110}, {2, 2, 220}, {4, 2, -180},
+                {4, 6, -110}, {4, 1, -227}, {7, 6, 235},  {8, 6, 0},   {12, 6, -110}};
+    for (const auto& caso : casi)
+        for (int d = kPeak; d <= kCAvg; ++d)
+            EXPECT_EQ(LivelloSimulato(caso.mhz, d, {.rete = caso.codice}),
+                      LivelloSimulato(caso.mhz, d, {}) + caso.diversa)
+                << caso.codice << " at " << caso.mhz;
+}
+
 /// The highest point of a piece of spectrum, MHz.
 double Cima(double daMhz, double aMhz, double passoMhz, const CondizioniSpettro& condizioni) {
     double cima = daMhz;

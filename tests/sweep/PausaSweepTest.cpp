@@ -18,8 +18,11 @@ struct VistaPausa : prova::VistaNota {
     bool cmbPausa = false;
     bool cePausa = false; ///< the control was there at some time
     std::function<void()> inPausa;
+    std::function<void()> inRiga;
 
     void MostraFase(FaseCorsa fase) override {
+        if (fase == FaseCorsa::Riga && inRiga)
+            inRiga();
         if (fase == FaseCorsa::Pausa)
             inPausa();
     }
@@ -147,6 +150,102 @@ TEST(PausaSweep, AnAdapterPulledInAPauseEndsTheRun) {
     EXPECT_LT(banco.ambiente.ora - banco.chiesta, 20);
     EXPECT_EQ(banco.File(PercorsoRS("M", "M", 0)).size(), banco.pausa.passi * kByteCampione);
     EXPECT_EQ(banco.File(PercorsoKSH("M")).size(), 17770u);
+}
+
+TEST(PausaSweep, FilterAndAttenuatorGoOutFromThePause) {
+    Banco senza;
+    senza.pausa.alPasso = {};
+    ASSERT_EQ(senza.Esegui(), EsitoCorsa::Compiuta);
+    using Cambi = std::vector<CambioInPausa>;
+    const auto an = Modalita::Analyzer;
+    const auto ma = Modalita::Manual;
+    struct {
+        const char* nome;
+        Cambi cambi;
+        double resumeS; ///< behind the changes; 0 in the same moment
+        std::vector<std::string> comandi;
+    } const casi[] = {
+        {"filter", {{ParComune::BWIF, an}}, 5, {"#SRBW2*", "#?RBW *"}},
+        {"its other list", {{ParComune::BWIF, ma}}, 5, {"#SRBW1*", "#?RBW *"}},
+        {"both, with a resume at once",
+         {{ParComune::Attenuatore, an}, {ParComune::BWIF, an}},
+         0,
+         {"#SAAT20*", "#SRBW2*", "#?RBW *"}},
+        {"once for two changes",
+         {{ParComune::Attenuatore, an}, {ParComune::Attenuatore, ma}},
+         5,
+         {"#SMAT20*"}},
+        {"nothing else", {{ParComune::MinAtt, an}, {ParComune::Dinamica, an}}, 5, {}},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.nome);
+        Banco banco;
+        const auto cambia = [&] {
+            banco.scrivania.setup.BWIFId = 1;
+            banco.scrivania.setup.Attenuator = 20;
+            for (const CambioInPausa& cambio : caso.cambi)
+                ChiediCambio(banco.statoCorsa, cambio);
+        };
+        banco.pausa.inPausa = [&] {
+            banco.ambiente.Fra(7, cambia);
+            banco.ambiente.Fra(7 + caso.resumeS, [&] { ChiediPausa(banco.statoCorsa); });
+        };
+        EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);
+        auto attesi = caso.comandi;
+        attesi.insert(attesi.begin(), "#ASPA*");
+        attesi.insert(attesi.end(), {"#ASRE*", "#?UHT*"});
+        EXPECT_EQ(banco.Dietro(), attesi);
+        EXPECT_EQ(banco.File(PercorsoRS("M", "M", 0)), senza.File(PercorsoRS("M", "M", 0)));
+    }
+}
+
+TEST(PausaSweep, ASettingThatIsRefusedDoesNotHoldUpAStop) {
+    Banco banco;
+    banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::Muto, .comando = "SAAT"});
+    double fermata = 0;
+    banco.pausa.inPausa = [&] {
+        banco.ambiente.Fra(7, [&] {
+            ChiediCambio(banco.statoCorsa, {ParComune::Attenuatore, Modalita::Analyzer});
+        });
+        banco.ambiente.Fra(20.3, [&] {
+            fermata = banco.ambiente.ora;
+            ChiediStop(banco.statoCorsa);
+        });
+    };
+    EXPECT_EQ(banco.Esegui(), EsitoCorsa::Fermata);
+    EXPECT_EQ(banco.vista.strisce, std::vector<std::string>{"Error set Attenuator"});
+    EXPECT_FALSE(banco.vista.strisciaVisibile);
+    EXPECT_EQ(banco.Dietro().back(), "#ASBK*");
+    EXPECT_LE(banco.ambiente.ora - fermata, 0.5);
+    EXPECT_FALSE(ChiediCambio(banco.statoCorsa, {})) << "no run is paused";
+}
+
+TEST(PausaSweep, APressBetweenTwoPassesHoldsTheNextOne) {
+    for (const double riscontroS : {0.0, 2.0}) { // a receiver still at it is no paused one
+        SCOPED_TRACE(riscontroS);
+        Banco banco;
+        banco.simulato.Aggiungi(
+            {.tipo = Capriccio::Tipo::Tardi, .comando = "SSFD", .secondi = riscontroS});
+        banco.pausa.alPasso = {};
+        banco.scrivania.setup.AncillaryKind = 1;
+        banco.scan.Righe[0].LineSwitch = {0, 1, 1, 0};
+        banco.pausa.inRiga = [&] {
+            const auto& comandi = banco.simulato.Comandi();
+            const auto sweep = std::ranges::count_if(
+                comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
+            if (sweep == 1)
+                ChiediPausa(banco.statoCorsa);
+        };
+        EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);
+        std::vector<std::string> comandi = banco.Dietro();
+        std::erase_if(comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
+        EXPECT_EQ(comandi,
+                  (std::vector<std::string>{"#?UHT*", "#SUPP4*", "#ASPA*", "#ASRE*", "#?UHT*"}));
+        for (const char* base : {"M-L1", "M-L2"})
+            EXPECT_EQ(banco.File(PercorsoRS("M", std::string("Sub_Measure\\") + base, 0)).size(),
+                      5971 * kByteCampione);
+        EXPECT_EQ(banco.statoCorsa.PausaRichiesta, 0);
+    }
 }
 
 TEST(PausaSweep, IsOfferedFromTheFirmwareOnThatHasIt) {

@@ -32,6 +32,10 @@ TEST(Progresso, MeasuresTheTimeLeftAndWeighsSlowLines) {
     EXPECT_NEAR(meta.restanoS, 10.4, 0.3);
     EXPECT_EQ(meta.passiRiga, 50);
     EXPECT_EQ(meta.totaleRiga, 101);
+    ambiente.ora += 1000;
+    progresso.AggiungiPausa(1000);
+    EXPECT_EQ(progresso.Adesso().trascorsiS, 1010);
+    EXPECT_NEAR(progresso.Adesso().restanoS, meta.restanoS, 1e-6) << "a pause is no slowness";
     progresso.FineRiga();
     EXPECT_NEAR(progresso.Adesso().frazione, 0.99, 0.001);
     progresso.IniziaRiga(1);

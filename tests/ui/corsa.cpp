@@ -22,6 +22,7 @@ private Q_SLOTS:
     void UscitaAnnullataLasciaCorrere();
     void UscitaDuranteLaCorsa();
     void PausaERipresa();
+    void FiltroEAttenuatoreInPausa();
     void StopInPausa();
     void UscitaInPausa();
     void ConPiuPassate();
@@ -184,6 +185,26 @@ void CorsaUi::PausaERipresa() {
     QVERIFY(banco.difetti.empty());
 }
 
+void CorsaUi::FiltroEAttenuatoreInPausa() {
+    Banco banco;
+    auto* att = banco.Trova<QComboBox>("CBXAttenuator");
+    auto* minAtt = banco.Trova<QComboBox>("CBXMinAtt");
+    bool vivi = false;
+    PausaPoi(banco, [&] {
+        vivi = att->isEnabled() && banco.Trova<QComboBox>("CBXBWIF")->isEnabled() &&
+               !minAtt->isEnabled();
+        att->setCurrentIndex(att->findText(QStringLiteral("20 dB")));
+        Q_EMIT att->activated(att->currentIndex());
+        banco.Quando([&] { return Mandato(banco, "#SAAT20*"); },
+                     [&] { banco.Trova<QPushButton>("CMBPauseSweep")->click(); });
+    });
+    QVERIFY(vivi && minAtt->isEnabled());
+    QCOMPARE(banco.posto->scrivania.setup.Attenuator, int16_t{20});
+    QCOMPARE(LeggiTraccia(banco.posto->scrivania, PercorsoRS("Untitled", "Untitled", 0)).size(),
+             size_t{101});
+    QVERIFY(banco.difetti.empty());
+}
+
 void CorsaUi::StopInPausa() {
     Banco banco;
     PausaPoi(banco, [&] { banco.Trova<QPushButton>("CMBExecuteSweep")->click(); });
@@ -286,7 +307,9 @@ void CorsaUi::ControlliDiOgniFase() {
         const ControlliFase c = ControlliDiFase(fase, true);
         QCOMPARE(c.fase, fase);
         QCOMPARE(c.fermi, fase == FaseCorsa::Ferma);
-        QCOMPARE(c.pausaViva, fase == FaseCorsa::Misura || fase == FaseCorsa::Pausa);
+        QCOMPARE(c.pausaViva,
+                 fase == FaseCorsa::Riga || fase == FaseCorsa::Misura || fase == FaseCorsa::Pausa);
+        QCOMPARE(c.filtroEAtt, c.fermi || fase == FaseCorsa::Pausa);
         QCOMPARE(c.eseguiVivo, fase != FaseCorsa::Arresto && fase != FaseCorsa::Guasto);
         QVERIFY(!ControlliDiFase(fase, false).eseguiVivo &&
                 !ControlliDiFase(fase, false).pausaViva);
