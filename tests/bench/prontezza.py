@@ -46,10 +46,12 @@ FASI = {
     "pause refused": ({"ASPA": "SERR"}, LENTO, ["--pause-after", "0", "--pause-for", "60"],
                       Arrivato("#ASPA")),
     "in pause": ({}, LENTO, ["--pause-after", "0", "--pause-for", "60"],
-                 lambda p: Arrivato("#?BAT")(p) and p.comandi.index("#ASPA*") < len(p.comandi) - 1),
+                 lambda p: p.fermo and p.comandi[-1] == "#?BAT*"),
     "in pause, battery silent": (
         {"?BAT": ["BAT=FULL,12,4;0", None]}, LENTO, ["--pause-after", "0", "--pause-for", "60"],
         lambda p: p.comandi.count("#?BAT*") > 1),
+    "sweep, then mute": ({"ASBK": ["SBK=OK", None], "?BAT": ["BAT=FULL,12,4;0", None]}, LENTO, [],
+                         Campioni),
     "end of the line, silent": ({"?UHT": None}, {}, [], Arrivato("#?UHT")),
 }  # fmt: skip
 
