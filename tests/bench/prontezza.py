@@ -76,6 +76,7 @@ def Lancia(dati, peer, *altre):
 def DopoStop(fase, ritardo):
     """Seconds to the first #ASBK* behind the signal, None without one, and to the end."""
     regole, flusso, parole, arrivata = FASI[fase]
+    regole = {k: list(v) if isinstance(v, list) else v for k, v in regole.items()}  # worked off
     with tempfile.TemporaryDirectory() as dati:
         Tabella(dati)
         with Peer(regole=regole, flussi=[Flusso(LivelloPlausibile, **flusso)]) as peer:
