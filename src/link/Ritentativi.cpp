@@ -25,10 +25,10 @@ bool Accettata(const std::string& risposta, const ReceiverCommand& comando) {
 }
 
 /// A try that takes no time, one refused at once or answered by the console itself, must not let
-/// the retries race.
+/// the retries race. Behind an abort there are none.
 void RallentaSeFermo(Ricevitore& r, double inizio) {
     const double resto = kDurataMinima - (r.ambiente.Adesso() - inizio);
-    if (resto > 0)
+    if (resto > 0 && !r.stato.AbbandonaComandi)
         Attendi(r.ambiente, resto);
 }
 

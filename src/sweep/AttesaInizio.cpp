@@ -7,17 +7,6 @@ namespace {
 
 constexpr double kPeriodoTriggerS = 0.2;
 
-bool VuoleUscire(const Corsa& c) {
-    return c.stato.StopRichiesto || c.ricevitore.stato.AbbandonaComandi;
-}
-
-/// False: the user wants out, and has not had to wait for the end of it.
-bool AttendiFinche(const Corsa& c, const Scadenza& fine) {
-    while (!fine.Passata() && !VuoleUscire(c))
-        c.ricevitore.ambiente.ElaboraEventi(fine.Rimane(), Veglia::Eventi);
-    return !VuoleUscire(c);
-}
-
 bool TriggerScattato(int16_t modo, int userPort) {
     return modo == 1 ? userPort == 0 : userPort != 0;
 }
@@ -31,7 +20,8 @@ bool AttendiTrigger(Corsa& c) {
         c.vista.MostraAttesaTrigger(modo, *userPort);
         if (TriggerScattato(modo, *userPort))
             return true;
-        if (!AttendiFinche(c, {c.ricevitore.ambiente, kPeriodoTriggerS}))
+        AttendiNellaCorsa(c, kPeriodoTriggerS);
+        if (VuoleUscire(c))
             return false;
     }
 }
@@ -43,7 +33,8 @@ bool AttendiTimer(Corsa& c) {
     for (int passati = 0; passati < secondi; ++passati) {
         c.vista.MostraAttesaTimer(secondi - passati, secondi);
         const double prossimo = inizio + passati + 1;
-        if (!AttendiFinche(c, {ambiente, prossimo - ambiente.Adesso()}))
+        AttendiNellaCorsa(c, prossimo - ambiente.Adesso());
+        if (VuoleUscire(c))
             return false;
     }
     return true;

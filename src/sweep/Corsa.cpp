@@ -47,18 +47,17 @@ bool Svolgimento::Controlli() {
     misura_ = volo.misura;
     scan_ = c_.scan;
     if (Interrotta())
-        return EsciInterrotta();
+        return ControllaInterruzioni();
     if (bene)
         return true;
     return Fallisci(r_.porta.Aperta() ? EsitoCorsa::Rifiutata : EsitoCorsa::GuastoLink,
                     volo.motivo);
 }
 
-/// Nothing has been sent yet that the receiver would have to be stopped for.
 bool Svolgimento::AttendiInizio() {
     ControllaVisCMBPausa(c_);
     Fase(FaseCorsa::Attesa);
-    return ControllaTTSweep(c_) || EsciInterrotta();
+    return ControllaTTSweep(c_) || ControllaInterruzioni();
 }
 
 void Svolgimento::Fase(FaseCorsa fase) {
@@ -108,6 +107,16 @@ void ChiediStop(StatoCorsa& stato) {
         return;
     stato.ComandoFermato = stato.ComandoFermato || !stato.protocollo->AbbandonaComandi;
     stato.protocollo->AbbandonaComandi = true;
+}
+
+bool VuoleUscire(const Corsa& corsa) {
+    return corsa.stato.StopRichiesto || corsa.ricevitore.stato.AbbandonaComandi;
+}
+
+void AttendiNellaCorsa(const Corsa& corsa, double secondi) {
+    const Scadenza fine(corsa.ricevitore.ambiente, secondi);
+    while (!fine.Passata() && !VuoleUscire(corsa))
+        corsa.ricevitore.ambiente.ElaboraEventi(fine.Rimane(), Veglia::Eventi);
 }
 
 void ChiediPausa(StatoCorsa& stato) {

@@ -127,6 +127,11 @@ EsitoCorsa ClickExecuteSweep(Corsa& corsa, const std::string& misura);
 /// is in flight.
 void ChiediStop(StatoCorsa& stato);
 
+/// Whether the user wants out of the run, by Stop or by the global abort.
+bool VuoleUscire(const Corsa& corsa);
+/// A wait that this ends.
+void AttendiNellaCorsa(const Corsa& corsa, double secondi);
+
 /// `CMBPauseSweep`: pause while a pass is measuring, resume while it is paused. Between two passes
 /// the pause is kept for the next one. Nothing in any other phase.
 void ChiediPausa(StatoCorsa& stato);

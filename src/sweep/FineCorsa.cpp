@@ -3,7 +3,7 @@
 #include "base/Numeri.h"
 #include "data/Incompiute.h"
 #include "data/Panels.h"
-#include "link/Comandi.h"
+#include "link/Protocollo.h"
 #include "sweep/Svolgimento.h"
 
 namespace orvane {
@@ -30,13 +30,15 @@ void Svolgimento::MostraDurata() {
              .icona = Icona::Informazione});
 }
 
-/// A Stop that had to break a command off leaves the abort flag up: one try must do then, for the
-/// receiver did not answer before.
+/// One try, and no longer than the receiver is given anyway: the user wants out, and the start of
+/// every run says the same again.
 void Svolgimento::AbortSweepCorsa() {
     if (!r_.porta.Aperta())
         return;
-    AbortSweep(r_);
-    Attendi(r_.ambiente, kAttesaComandoS);
+    const Scadenza fine(r_.ambiente, kAttesaComandoS);
+    linkVivo_ = InviaComando(r_, kAttesaComandoS, "#ASBK*", true) != kErrore && linkVivo_;
+    MostraErrore(r_, "Abort Sweep", false);
+    Attendi(r_.ambiente, fine.Rimane());
 }
 
 /// The order is fixed. The files of the pass have been closed by their owner.

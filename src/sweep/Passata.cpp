@@ -51,7 +51,7 @@ bool Passata::Avvia() {
     r_.log.InizioSweep(comando_.testo);
     if (!InviaGrezzo(r_, comando_.testo))
         return LetturaFallita();
-    Attendi(r_.ambiente, kAttesaComandoS);
+    AttendiNellaCorsa(c_, kAttesaComandoS);
     return true;
 }
 
@@ -63,7 +63,8 @@ bool Passata::Ricevi() {
     Scadenza termine(r_.ambiente, TempoMassimo());
     Scadenza intestazione(r_.ambiente, kIntestazioneS);
     while (true) {
-        const bool subito = r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta() || PausaMatura();
+        const bool subito =
+            Interrotta() || r_.porta.ByteInCoda() > 0 || !r_.porta.Aperta() || PausaMatura();
         const double attesa = AttendeIntestazione()
                                   ? std::min(termine.Rimane(), intestazione.Rimane())
                                   : termine.Rimane();

@@ -83,11 +83,11 @@ private:
     bool ProvaSospensione();
     bool ProvaRipresa();
     void TimerAggiornaControlli();
-    void Attendi(double secondi);
+    void Attendi(double secondi) { AttendiNellaCorsa(c_, secondi); }
     bool Raccogli();
     bool TogliRifiuto();
     bool SweepGiaFinito() const { return CercaSequenza(r_.porta.accumulo.Dati(), kFineSweep) > 0; }
-    bool VuoleUscire() const { return c_.stato.StopRichiesto || r_.stato.AbbandonaComandi; }
+    bool VuoleUscire() const { return orvane::VuoleUscire(c_); }
     void Fase(FaseCorsa fase) {
         c_.stato.fase = fase;
         c_.vista.MostraFase(fase);
@@ -96,13 +96,6 @@ private:
     const Corsa& c_;
     Ricevitore& r_;
 };
-
-/// A wait that the user's way out ends.
-void Pausa::Attendi(double secondi) {
-    const Scadenza fine(r_.ambiente, secondi);
-    while (!fine.Passata() && !VuoleUscire())
-        r_.ambiente.ElaboraEventi(fine.Rimane(), Veglia::Eventi);
-}
 
 bool Pausa::Raccogli() {
     if (r_.porta.ByteInCoda() == 0)

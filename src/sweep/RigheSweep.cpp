@@ -175,7 +175,7 @@ std::optional<ComandoSweep> Svolgimento::PreparaComando(size_t indice) {
 bool Svolgimento::PreparaIngresso(const ScanLine& riga) {
     if (HaGeneratore(r_.modello) && s_.setup.TGOn != 0)
         ImpostaTracking(r_, true);
-    Attendi(r_.ambiente, kAttesaComandoS);
+    AttendiNellaCorsa(c_, kAttesaComandoS);
     if (!Interrotta())
         SettaRadCondK3XSweep(riga);
     return !Interrotta();

@@ -32,7 +32,11 @@ bool TracciaRiga::IniziaPassata(std::string_view testo) {
 bool TracciaRiga::Accoda(ScrittoreTraccia& scrittore, const std::string& percorso,
                          std::span<const SampleRecord> passi) {
     percorso_ = percorso;
-    return scrittore.Scrivi(passi);
+    if (scrittore.Scrivi(passi))
+        return true;
+    scrittore.Apri(s_, percorso); // which cuts off the part of a step that still found room
+    scrittore.Chiudi();
+    return false;
 }
 
 bool TracciaRiga::Scrivi(std::span<const SampleRecord> passi) {

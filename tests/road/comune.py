@@ -32,13 +32,15 @@ class Esito:
 class Corsa:
     """A program under way, its outputs going to files."""
 
-    def __init__(self, argomenti, cartella=None, uscita=None, senza_segnali=False):
-        """senza_segnali: a file over its limit is an error of the write, as a full disk is."""
+    def __init__(self, argomenti, cartella=None, uscita=None, senza_segnali=False, davanti=(),
+                 utente=None):  # fmt: skip
+        """senza_segnali: a file over its limit is an error of the write, as a full disk is. davanti:
+        words of a program that starts this one."""
         self._out, self._err = uscita or tempfile.TemporaryFile(), tempfile.TemporaryFile()
         self._inizio = time.monotonic()
         self.processo = subprocess.Popen(
-            [PROGRAMMI / "orvane", *argomenti], stdin=subprocess.DEVNULL, stdout=self._out,
-            stderr=self._err, cwd=cartella, restore_signals=not senza_segnali,
+            [*davanti, PROGRAMMI / "orvane", *argomenti], stdin=subprocess.DEVNULL, stdout=self._out,
+            stderr=self._err, cwd=cartella, restore_signals=not senza_segnali, user=utente,
         )  # fmt: skip
 
     def Segnala(self, segnale=signal.SIGINT):
