@@ -213,14 +213,14 @@ void Colonna::BloccataInCorsa() {
     Banco banco;
     banco.Scheda(Modalita::Sweep);
     auto* colonna = banco.Finestra().findChild<ColonnaComuni*>();
-    colonna->Abilita(false);
+    colonna->Abilita(false, false);
     for (const char* nome : {"CBXBWIF", "OptPreamp", "CBXLisn", "TBLevel"}) {
         auto* controllo = banco.Trova<QWidget>(nome);
         QVERIFY2(!controllo->isEnabled(), nome);
         QVERIFY(controllo->toolTip().contains(QStringLiteral("while a sweep runs")));
     }
     QVERIFY(banco.Trova<QComboBox>("CBXDinamica")->isEnabled());
-    colonna->Abilita(true);
+    colonna->Abilita(true, true);
     QVERIFY(banco.Trova<QComboBox>("CBXBWIF")->isEnabled());
 }
 
