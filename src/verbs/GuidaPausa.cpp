@@ -4,6 +4,9 @@ namespace orvane {
 
 void GuidaPausa::Chiedi() {
     piano_.dopoS.reset();
+    // Only an Enter from here on ends the pause, and none that comes behind the word of it is lost.
+    if (tastiera_)
+        tastiera_.dimentica();
     if (vista_.PuoPausare())
         ChiediPausa(stato_);
     else
@@ -18,11 +21,8 @@ void GuidaPausa::Gira() {
         inPausaDa_.reset();
         return;
     }
-    if (!inPausaDa_) {
+    if (!inPausaDa_)
         inPausaDa_ = ambiente_.Adesso();
-        if (tastiera_)
-            tastiera_.dimentica();
-    }
     const bool tempo = piano_.perS && ambiente_.Adesso() - *inPausaDa_ >= *piano_.perS;
     if (tempo || (tastiera_ && tastiera_.invio()))
         ChiediPausa(stato_);
