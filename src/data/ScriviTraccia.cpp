@@ -19,6 +19,15 @@ struct PosatoreCampi {
     }
 };
 
+constexpr size_t kPagina = 4096;
+
+/// How many of `restano` bytes go out as one write at a place of the file. A process that is killed
+/// leaves a write cut off between pages: whole records up to there, or the one that lies across.
+size_t Porzione(long dove, size_t restano, size_t byteRecord) {
+    const size_t allaFine = kPagina - static_cast<size_t>(dove) % kPagina;
+    return std::min(restano, std::max(allaFine / byteRecord, size_t{1}) * byteRecord);
+}
+
 uintmax_t Interi(const fs::path& file, size_t byteRecord) {
     std::error_code errore;
     const auto lunghezza = fs::file_size(file, errore);
@@ -49,17 +58,25 @@ bool ScrittoreRecord<Record>::Apri(const Scrivania& s, std::string_view percorso
     Taglia(host, Interi(host, kByteRecord<Record>) * kByteRecord<Record>);
     file_.reset(std::fopen(host.string().c_str(), "ab"));
     // Without a buffer of its own the file hands each call over as one write.
-    return file_ && std::setvbuf(file_.get(), nullptr, _IONBF, 0) == 0;
+    return file_ && std::setvbuf(file_.get(), nullptr, _IONBF, 0) == 0 &&
+           std::fseek(file_.get(), 0, SEEK_END) == 0;
 }
 
 template <class Record> bool ScrittoreRecord<Record>::Scrivi(std::span<const Record> record) {
     if (!file_ || record.empty())
         return file_ != nullptr;
     Componi(record, byte_);
-    if (std::fwrite(byte_.data(), 1, byte_.size(), file_.get()) == byte_.size())
-        return true;
-    Chiudi(); // whatever came behind a torn record would be read shifted
-    return false;
+    long dove = std::ftell(file_.get());
+    for (std::span<const uint8_t> resto = byte_; !resto.empty();) {
+        const size_t quanti = Porzione(dove, resto.size(), kByteRecord<Record>);
+        if (std::fwrite(resto.data(), 1, quanti, file_.get()) != quanti) {
+            Chiudi(); // whatever came behind a torn record would be read shifted
+            return false;
+        }
+        dove += static_cast<long>(quanti);
+        resto = resto.subspan(quanti);
+    }
+    return true;
 }
 
 bool SalvaTraccia(const Scrivania& s, std::string_view percorso,

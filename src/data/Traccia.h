@@ -15,8 +15,8 @@
 
 namespace orvane {
 
-/// Appends whole records to a file; each call is one write, so that the file is a whole number of
-/// records at every moment.
+/// Appends whole records to a file, by writes that a kill does not tear: the file is a whole number
+/// of records at every moment.
 template <class Record> class ScrittoreRecord {
 public:
     /// False when the file cannot be made. What a crash left of a record is cut off.
