@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 #include "aiuto/BancoLink.h"
@@ -34,7 +34,7 @@ const ModelCaps kCaps = ImpostaModelCaps(k5520)[0];
 
 void Metti(Accumulo& dati, std::string_view byte) {
     const auto dove = dati.Spazio(byte.size());
-    std::memcpy(dove.data(), byte.data(), byte.size());
+    std::ranges::copy(byte, dove.begin());
     dati.Aggiunti(byte.size());
 }
 
