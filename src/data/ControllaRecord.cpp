@@ -104,6 +104,10 @@ void ControllaIndici(Correttore& c, SetupRecord& setup) {
     c.Limita<int16_t>(setup.MinAtt, 0, 5);
     c.Limita<int16_t>(setup.Mode, 0, 5);
     c.Limita<int16_t>(setup.BWIFId, 0, 99);
+    c.Limita<int16_t>(setup.AutoReportMode, 0, 3);
+    c.FinitoIn(setup.MeasUncertainty, 0.0f, 99.0f);
+    for (int16_t& x : setup.VerdictDetector)
+        c.Limita<int16_t>(x, 0, 6);
     for (int16_t& x : setup.DetectorAn)
         c.Limita<int16_t>(x, -1, 5);
 }

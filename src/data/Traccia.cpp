@@ -197,6 +197,20 @@ SweepTrace Fondi(std::vector<RigaLetta>& righe, size_t detector, bool fondi) {
     }
 }
 
+/// Marks where a trace begins anew: between samples of two lines that do not adjoin.
+void SegnaStacchi(SweepTrace& traccia, const ScanTable& tabella) {
+    for (size_t i = 0; i < traccia.size(); ++i) {
+        CampioneTraccia& c = traccia[i];
+        if (i > 0 && c.riga == traccia[i - 1].riga)
+            continue;
+        const double passo =
+            i == 0 ? 0
+                   : std::max(tabella[static_cast<size_t>(c.riga)].Step,
+                              tabella[static_cast<size_t>(traccia[i - 1].riga)].Step);
+        c.stacco = i == 0 || c.freqMhz - traccia[i - 1].freqMhz > 2 * passo;
+    }
+}
+
 } // namespace
 
 std::vector<SampleRecord> LeggiTraccia(const Scrivania& s, std::string_view percorso) {
@@ -222,7 +236,9 @@ SweepTrace CreaTracciaSweep(const Scrivania& s, std::string_view misura, std::st
                             const OpzioniTraccia& opzioni) {
     const bool MergeTrace = !Acceso(s.ambiente.RigaComando(), interruttore::kRsComp);
     std::vector<RigaLetta> righe = LeggiRighe(s.albero, misura, base, tabella, opzioni);
-    return Fondi(righe, static_cast<size_t>(detector), MergeTrace);
+    SweepTrace traccia = Fondi(righe, static_cast<size_t>(detector), MergeTrace);
+    SegnaStacchi(traccia, tabella);
+    return traccia;
 }
 
 } // namespace orvane

@@ -65,6 +65,7 @@ struct CampioneTraccia {
     int16_t riga = 0;                            ///< scan line, 0 to 9
     int16_t mast = kNessunaPosizione;            ///< cm
     int16_t table = kNessunaPosizione;           ///< degrees
+    bool stacco = false; ///< a gap before it: the first, or of a line that adjoins no other
 };
 using SweepTrace = std::vector<CampioneTraccia>;
 

@@ -71,7 +71,10 @@ struct SetupRecord {
     int16_t CheckSweepArchiveSize = 0;
     int16_t ZoomModeA = 0;
     int16_t ZoomModeB = 0;
-    std::array<uint8_t, 38> Riserva3626{};
+    int16_t AutoReportMode = 0;              ///< 0 none, 1 text, 2 PDF, 3 RTF, after each sweep
+    float MeasUncertainty = 0;               ///< dB, of the verdict; 0 and more
+    std::array<int16_t, 2> VerdictDetector{}; ///< of each limit: 0 by its title, 1 to 6 a detector
+    std::array<uint8_t, 28> Riserva3636{};
     std::string AntennaName;
     std::array<uint8_t, 98> Riserva3724{};
     float InsLossRef = 0;
@@ -151,7 +154,11 @@ template <class Visita> constexpr void Campi(Visita& v, SetupRecord& r) {
     v.I16(r.CheckSweepArchiveSize, "CheckSweepArchiveSize");
     v.I16(r.ZoomModeA, "ZoomModeA");
     v.I16(r.ZoomModeB, "ZoomModeB");
-    v.Riserva(r.Riserva3626);
+    v.I16(r.AutoReportMode, "AutoReportMode");
+    v.F32(r.MeasUncertainty, "MeasUncertainty");
+    for (auto& x : r.VerdictDetector)
+        v.I16(x, "VerdictDetector");
+    v.Riserva(r.Riserva3636);
     v.Testo(r.AntennaName, 60, "AntennaName");
     v.Riserva(r.Riserva3724);
     v.F32(r.InsLossRef, "InsLossRef");

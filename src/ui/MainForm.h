@@ -7,7 +7,7 @@
 #include <QTabBar>
 #include <QTimer>
 
-#include "console/Archivio.h"
+#include "graph/MisuraAperta.h"
 #include "console/Console.h"
 #include "data/CaricaSalva.h"
 #include "records/Aspetto.h"

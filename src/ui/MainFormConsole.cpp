@@ -4,7 +4,6 @@
 
 #include "base/Percorsi.h"
 #include "graph/Scala.h"
-#include "setup/ListaFrequenze.h"
 #include "ui/MainForm.h"
 #include "ui/Testi.h"
 
@@ -17,14 +16,6 @@ SampleRecord Campione(const CampioneTraccia& c, int detector) {
         if (detector < 0 || static_cast<size_t>(detector) == d)
             campione.Livello[d] = c.livello[d];
     return campione;
-}
-
-/// Whether a gap lies between two samples of a merged trace: other lines, that do not adjoin.
-bool Staccati(const CampioneTraccia& a, const CampioneTraccia& b, const ScanTable& righe) {
-    if (a.riga == b.riga)
-        return false;
-    const ScanLine& prima = righe[static_cast<size_t>(a.riga)];
-    return b.freqMhz - a.freqMhz > 2 * std::max(prima.Step, righe[size_t(b.riga)].Step);
 }
 
 } // namespace
@@ -115,7 +106,7 @@ void MainForm::ApriMisuraScelta(const QString& nome) {
     titoloMisura_->setText(nome.isEmpty() ? QString() : tr("Scan lines of %1").arg(nome));
     quadro_->ImpostaInvito(nome.isEmpty()            ? tr("No measure is open")
                            : !misura_.leggibile      ? tr("%1 cannot be read").arg(nome)
-                           : misura_.traccia.empty() ? tr("%1 holds no samples").arg(nome)
+                           : misura_.traccia->empty() ? tr("%1 holds no samples").arg(nome)
                                                      : QString());
     stato_->MostraMessaggio(misura_.leggibile && !misura_.header.Setup.ModelText.empty()
                                 ? QStringLiteral("%1 · %2 FW %3")
@@ -129,17 +120,14 @@ void MainForm::ApriMisuraScelta(const QString& nome) {
 void MainForm::DisegnaMisura(int detector) {
     quadro_->IniziaTraccia(misura_.startMhz, misura_.stopMhz);
     quadro_->MostraDetector({true, true, true, true, true, true});
-    const ScanTable& righe = misura_.header.Scan.Righe;
-    SweepTrace unita;
+    std::optional<DetectorKind> scelto;
     if (detector >= 0)
-        unita = CreaTracciaSweep(scrivania_, misura_.nome, misura_.nome, righe,
-                                 static_cast<DetectorKind>(detector),
-                                 {.frequenza = FrequenzeDaTabella(scrivania_.albero)});
-    const SweepTrace& traccia = detector >= 0 ? unita : misura_.traccia;
-    for (size_t i = 0; i < traccia.size(); ++i) {
-        if (i > 0 && Staccati(traccia[i - 1], traccia[i], righe))
+        scelto = static_cast<DetectorKind>(detector);
+    CaricaTracciaMisura(scrivania_, misura_, misura_.header.Setup, scelto);
+    for (const CampioneTraccia& c : *misura_.traccia) {
+        if (c.stacco)
             quadro_->InterrompiTraccia();
-        quadro_->Aggiungi(traccia[i].freqMhz, Campione(traccia[i], detector));
+        quadro_->Aggiungi(c.freqMhz, Campione(c, detector));
     }
 }
 

@@ -197,7 +197,7 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
     if (incompiuta)
         righe << tr("Incomplete: its run was cut off");
     const size_t linee = RigheInUso(misura.header.Scan.Righe);
-    const QString campioni = QString::number(misura.traccia.size());
+    const QString campioni = QString::number(misura.traccia->size());
     righe << (linee == 1 ? tr("%1 samples in one line").arg(campioni)
                          : tr("%1 samples in %2 lines").arg(campioni).arg(linee));
     if (misura.stopMhz > 0)

@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "console/Archivio.h"
+#include "graph/MisuraAperta.h"
 #include "data/Scrivania.h"
 
 namespace orvane {

@@ -1,0 +1,64 @@
+// Markers: two samples of the trace, and what is read at them.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "data/Traccia.h"
+#include "graph/Grafico.h"
+#include "graph/MisuraAperta.h"
+
+namespace orvane {
+
+/// `Marker`: index 0, and index 1 the delta marker, as indices into the trace.
+struct Marcatori {
+    std::array<std::optional<size_t>, 2> indice{};
+    bool operator==(const Marcatori&) const = default;
+};
+
+/// The sample nearest to a frequency; of two equally near the lower. Empty for an empty trace.
+std::optional<size_t> CampioneVicino(const SweepTrace& traccia, double freqMhz);
+/// `MoveMarker`: the sample nearest to a place of the picture, x in pixels from the grid's left
+/// edge, clamped to the axis.
+std::optional<size_t> MoveMarker(const SweepTrace& traccia, const ScalaGrafico& scala, double x);
+
+/// `DetFormatoVal`: a frequency in MHz with as many decimals as the step of the trace needs, "0."
+/// kept in front; one digit more, up to three times, until it does not read as zero.
+std::string DetFormatoVal(double mhz, double passoMhz);
+
+/// What `LBMultiMK` shows: a row a detector in use, then factors and distances.
+struct LetturaMarker {
+    struct Livello {
+        DetectorKind detector = DetectorKind::Peak;
+        std::string testo; ///< in the display unit, "0.00"; "---" without a level
+    };
+    struct Distanza {
+        int slot = 0;                               ///< of the limit, 0 or 1
+        DetectorKind detector = DetectorKind::Peak; ///< the one held against it
+        std::string testo; ///< level less limit in dB, with its sign; "---" where either is missing
+    };
+    std::string frequenza; ///< "0.195 MHz"
+    std::vector<Livello> livelli;
+    std::vector<std::pair<std::string, std::string>> fattori; ///< name and dB of each factor on
+    std::optional<std::string> sommaFattori;                  ///< dB; while `SommaFact` is on
+    std::vector<Distanza> distanze;
+};
+/// `setup` says which limits and factors are on, and the unit.
+LetturaMarker LeggiMarker(const MisuraAperta& misura, const SetupRecord& setup, size_t indice);
+
+/// From marker 0 to marker 1: difference of frequency and, detector by detector, of level.
+struct LetturaDelta {
+    std::string frequenza; ///< "0.065 MHz"
+    std::vector<LetturaMarker::Livello> livelli;
+};
+LetturaDelta LeggiDelta(const MisuraAperta& misura, size_t da, size_t a);
+
+/// `DisegnaMarkerSweep`: a vertical line at the sample, dashed for the delta marker, with its
+/// number at the top and a ring at each level. Nothing outside the axis.
+void DisegnaMarkerSweep(Superficie& superficie, const ScalaGrafico& scala,
+                        const RiquadroGriglia& dove, const MisuraAperta& misura,
+                        const std::array<bool, kNumDetector>& mostrati, size_t indice, int numero,
+                        const Penna& penna);
+
+} // namespace orvane
