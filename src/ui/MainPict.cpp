@@ -68,6 +68,102 @@ void MainPict::ImpostaInvito(const QString& testo) {
     update();
 }
 
+void MainPict::MostraQuadro(ContenutoQuadro contenuto, bool tieni) {
+    const Marcatori prima = contenuto_.marcatori;
+    contenuto_ = std::move(contenuto);
+    haMisura_ = true;
+    if (tieni)
+        contenuto_.marcatori = prima;
+    else if (!contenuto_.marcatori.indice[0])
+        contenuto_.marcatori.indice[0] = 0;
+    if (!tieni)
+        vista_ = contenuto_.intero;
+    RiempiTracce();
+}
+
+void MainPict::RiempiTracce() {
+    IniziaTraccia(vista_.start, vista_.stop);
+    for (size_t i = 0; i < contenuto_.strati.size(); ++i) {
+        const StratoQuadro& strato = contenuto_.strati[i];
+        ScegliPassata(static_cast<int>(i), Q(strato.nome));
+        for (const CampioneTraccia& c : *strato.traccia) {
+            if (c.stacco)
+                InterrompiTraccia();
+            SampleRecord campione;
+            for (size_t d = 0; d < kNumDetector; ++d)
+                campione.Livello[d] = strato.detector[d] ? c.livello[d] : kNessunLivello;
+            Aggiungi(c.freqMhz, campione);
+        }
+    }
+}
+
+void MainPict::LasciaQuadro() {
+    contenuto_ = {};
+    haMisura_ = false;
+    IniziaTraccia(0, 0);
+}
+
+CampoMhz MainPict::CampoMostrato() const {
+    return haMisura_ ? vista_ : CampoMhz{Deposito().Start(), Deposito().Stop()};
+}
+
+void MainPict::MuoviMarker(int quale, size_t indice) {
+    if (indice >= contenuto_.misura.traccia->size())
+        return;
+    contenuto_.marcatori.indice[static_cast<size_t>(quale)] = indice;
+    update();
+    Q_EMIT MarkerMosso(quale, indice);
+}
+
+void MainPict::TogliMarker(int quale) {
+    contenuto_.marcatori.indice[static_cast<size_t>(quale)].reset();
+    update();
+}
+
+void MainPict::ImpostaPicchi(PicchiMisura picchi) {
+    contenuto_.picchi = std::move(picchi);
+    update();
+}
+
+void MainPict::ImpostaLimiti(std::vector<LimiteQuadro> limiti) {
+    contenuto_.limiti = std::move(limiti);
+    DrawGrid();
+}
+
+void MainPict::ImpostaVerdetto(Verdetto verdetto) {
+    contenuto_.verdetto = std::move(verdetto);
+    update();
+}
+
+void MainPict::Ingrandisci(CampoMhz vista) {
+    if (!haMisura_ || vista == vista_ || !(vista.start < vista.stop))
+        return;
+    vista_ = vista;
+    RiempiTracce();
+    Q_EMIT ZoomCambiato();
+}
+
+void MainPict::OKZoomMK() {
+    const auto [primo, secondo] = contenuto_.marcatori.indice;
+    if (!primo || !secondo)
+        return;
+    const SweepTrace& traccia = *contenuto_.misura.traccia;
+    const auto [start, stop] = std::minmax({traccia[*primo].freqMhz, traccia[*secondo].freqMhz});
+    Ingrandisci({start, stop});
+}
+
+void MainPict::CancelZoomMK() {
+    Ingrandisci(contenuto_.intero);
+}
+
+void MainPict::ZoomIndietro() {
+    CancelZoomMK();
+}
+
+void MainPict::ZoomAvanti() {
+    OKZoomMK();
+}
+
 double MainPict::LivelloA(double y) const {
     const double parte = (y * Rapporto() - griglia_.alto) / std::max(1.0, griglia_.altezza);
     return (scala_.alto - parte * (scala_.alto - scala_.basso)) / 100;

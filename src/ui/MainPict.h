@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "graph/Grafico.h"
+#include "graph/Quadro.h"
 #include "graph/Scala.h"
 #include "records/EnvRecord.h"
 #include "records/SetupRecord.h"
@@ -37,6 +38,35 @@ public:
     void DrawGrid();
     /// What stands in the middle while there is no trace.
     void ImpostaInvito(const QString& testo);
+
+    /// A stored measure takes the place of a run's traces. `tieni`: the same measure, changed;
+    /// zoom and markers stay. Otherwise the whole is on show, with the markers of `contenuto`, or
+    /// else marker 0 at the first sample.
+    void MostraQuadro(ContenutoQuadro contenuto, bool tieni);
+    /// Back to the traces of a run; there are none yet.
+    void LasciaQuadro();
+    bool HaMisura() const { return haMisura_; }
+    /// Of the measure on show, with the markers where they are.
+    const ContenutoQuadro& Quadro() const { return contenuto_; }
+    /// The span on show, of a measure or a run.
+    CampoMhz CampoMostrato() const;
+    /// To a sample of the trace; one that it does not have is ignored.
+    void MuoviMarker(int quale, size_t indice);
+    void TogliMarker(int quale);
+    /// Symbols on the trace; empty lists for none.
+    void ImpostaPicchi(PicchiMisura picchi);
+    /// Under the traces of a run too.
+    void ImpostaLimiti(std::vector<LimiteQuadro> limiti);
+    void ImpostaVerdetto(Verdetto verdetto);
+    /// Zooms between the two markers.
+    void OKZoomMK();
+    /// The whole span.
+    void CancelZoomMK();
+    void ZoomIndietro();
+    void ZoomAvanti();
+    /// The wheel does nothing over the picture.
+    void SpegniRotella() { rotella_ = false; }
+
     /// Of the pass under way.
     const DepositoTracce& Deposito() const { return tracce_.Corrente(); }
     const TraccePassate& Tracce() const { return tracce_; }
@@ -50,6 +80,14 @@ Q_SIGNALS:
     /// The pointer stands over this frequency (MHz) and level (dB, display unit).
     void Puntata(double mhz, double livello);
     void PuntataPersa();
+    void MarkerMosso(int quale, qulonglong indice);
+    /// "Tune Manual @" of the context menu.
+    void SintonizzaManuale(double mhz);
+    void ZoomCambiato();
+    /// A symbol was clicked; its marker has moved.
+    void PiccoScelto(int detector, qulonglong indice);
+    /// `InterceptMousewheelSelMeas`: the next measure of the archive (1) or the one before (-1).
+    void MisuraSuccessiva(int verso);
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -65,6 +103,8 @@ private:
     };
     ModoQuadro Modo() const;
     QFont CarattereLettura() const;
+    void RiempiTracce();
+    void Ingrandisci(CampoMhz vista);
     void PreparaScala();
     void DisegnaSfondo();
     void DisegnaTracce(QPainter& p);
@@ -80,6 +120,10 @@ private:
     const EnvRecord& env_;
     const SetupRecord& setup_;
     TraccePassate tracce_;
+    ContenutoQuadro contenuto_;
+    CampoMhz vista_; ///< of the measure on show
+    bool haMisura_ = false;
+    bool rotella_ = true;
     std::array<bool, kNumDetector> mostrati_{};
     ScalaGrafico scala_;
     RiquadroGriglia griglia_; ///< in device pixels
