@@ -1,7 +1,5 @@
 #include "ui/ModelloArchivio.h"
 
-#include <algorithm>
-
 #include <QElapsedTimer>
 
 #include "base/Testo.h"
@@ -11,7 +9,7 @@
 namespace orvane {
 namespace {
 
-/// How long the reading of rows may hold the window up: at once, and then portion by portion.
+/// How long a search may hold the window up: at once, and then portion by portion.
 constexpr int kSubitoMs = 40;
 constexpr int kPorzioneMs = 8;
 
@@ -19,67 +17,61 @@ constexpr int kPorzioneMs = 8;
 
 ModelloArchivio::ModelloArchivio(const Scrivania& scrivania, QObject* padre)
     : QAbstractListModel(padre), scrivania_(scrivania) {
-    lettura_.setInterval(0);
-    connect(&lettura_, &QTimer::timeout, this, &ModelloArchivio::LeggiAncora);
+    ricerca_.setInterval(0);
+    connect(&ricerca_, &QTimer::timeout, this, [this] { Cerca(kPorzioneMs); });
 }
 
 void ModelloArchivio::Elenca(const std::vector<std::string>& nomi) {
-    lettura_.stop();
     voci_.clear();
     for (const std::string& nome : nomi)
         voci_.emplace_back().dati.nome = nome;
-    prossima_ = 0;
-    QElapsedTimer orologio;
-    orologio.start();
-    while (prossima_ < voci_.size() && orologio.elapsed() < kSubitoMs)
-        Letta(prossima_++);
-    if (prossima_ < voci_.size())
-        lettura_.start();
-    Mostra();
-}
-
-/// The search needs every row; the list is there meanwhile.
-void ModelloArchivio::LeggiAncora() {
-    QElapsedTimer orologio;
-    orologio.start();
-    while (prossima_ < voci_.size() && orologio.elapsed() < kPorzioneMs)
-        Letta(prossima_++);
-    if (prossima_ < voci_.size())
-        return;
-    lettura_.stop();
-    if (!cercato_.isEmpty())
-        Mostra();
-}
-
-const ModelloArchivio::Voce& ModelloArchivio::Letta(size_t quale) const {
-    Voce& voce = voci_[quale];
-    if (voce.letta)
-        return voce;
-    voce.dati = LeggiVoce(scrivania_, voce.dati.nome);
-    voce.cercabile = TestoCercabile(voce.dati);
-    voce.letta = true;
-    return voce;
-}
-
-bool ModelloArchivio::Trovata(size_t quale) const {
-    if (cercato_.isEmpty() || Q(voci_[quale].dati.nome).contains(cercato_, Qt::CaseInsensitive))
-        return true;
-    return voci_[quale].letta && voci_[quale].cercabile.contains(cercato_, Qt::CaseInsensitive);
-}
-
-void ModelloArchivio::Mostra() {
-    beginResetModel();
-    visibili_.clear();
-    for (size_t i = 0; i < voci_.size(); ++i)
-        if (Trovata(i))
-            visibili_.push_back(i);
-    endResetModel();
-    Q_EMIT Rinnovata();
+    Filtra(cercato_);
 }
 
 void ModelloArchivio::Filtra(const QString& cercato) {
     cercato_ = cercato;
+    for (Voce& voce : voci_)
+        voce.trovata = cercato_.isEmpty();
+    prossima_ = cercato_.isEmpty() ? voci_.size() : 0;
+    Cerca(kSubitoMs);
+}
+
+/// Goes on where it was, and shows what it has found.
+void ModelloArchivio::Cerca(int ms) {
+    QElapsedTimer orologio;
+    orologio.start();
+    for (; prossima_ < voci_.size() && orologio.elapsed() < ms; ++prossima_)
+        voci_[prossima_].trovata = Contiene(prossima_);
+    if (prossima_ < voci_.size())
+        ricerca_.start();
+    else
+        ricerca_.stop();
     Mostra();
+}
+
+const ModelloArchivio::Voce& ModelloArchivio::Letta(size_t quale) const {
+    Voce& voce = voci_[quale];
+    if (!voce.letta)
+        voce.dati = LeggiVoce(scrivania_, voce.dati.nome);
+    voce.letta = true;
+    return voce;
+}
+
+bool ModelloArchivio::Contiene(size_t quale) const {
+    return Q(voci_[quale].dati.nome).contains(cercato_, Qt::CaseInsensitive) ||
+           TestoCercabile(Letta(quale).dati).contains(cercato_, Qt::CaseInsensitive) ||
+           MisuraContiene(scrivania_, voci_[quale].dati.nome, S(cercato_));
+}
+
+void ModelloArchivio::Mostra() {
+    std::vector<size_t> ora;
+    for (size_t i = 0; i < voci_.size(); ++i)
+        if (voci_[i].trovata)
+            ora.push_back(i);
+    beginResetModel();
+    visibili_ = std::move(ora);
+    endResetModel();
+    Q_EMIT Rinnovata();
 }
 
 int ModelloArchivio::Riga(const std::string& nome) const {

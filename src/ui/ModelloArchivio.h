@@ -36,19 +36,19 @@ private:
     struct Voce {
         VoceArchivio dati;
         bool letta = false;
-        QString cercabile;
+        bool trovata = true;
     };
     const Voce& Letta(size_t quale) const;
-    void LeggiAncora();
+    bool Contiene(size_t quale) const;
+    void Cerca(int ms);
     void Mostra();
-    bool Trovata(size_t quale) const;
 
     const Scrivania& scrivania_;
     mutable std::vector<Voce> voci_; ///< a row is read by whoever asks first
     std::vector<size_t> visibili_;
     QString cercato_;
-    size_t prossima_ = 0; ///< the first that may not have been read
-    QTimer lettura_;
+    size_t prossima_ = 0; ///< the first that the search has not looked at
+    QTimer ricerca_;
 };
 
 } // namespace orvane

@@ -11,6 +11,8 @@
 #include "base/Numeri.h"
 #include "data/Cartelle.h"
 #include "data/Incompiute.h"
+#include "graph/Confronto.h"
+#include "records/ColoriGrafico.h"
 #include "setup/TabellaScan.h"
 #include "ui/IconeScan.h"
 #include "ui/Moduli.h"
@@ -219,7 +221,8 @@ void PannelloArchivio::ApriMenu(const QModelIndex& riga, const QPoint& dove) {
     const QString ancora = altra ? QString() : QStringLiteral("…");
     const VoceMenu voci[] = {
         {AzioneMisura::Redo, tr("Open in Sweep")},
-        {AzioneMisura::Confronta, altra ? tr("Compare with %1").arg(Q(mostrata_)) : tr("Compare With…")},
+        {AzioneMisura::Confronta,
+         altra ? tr("Compare with %1").arg(Q(mostrata_)) : tr("Compare With…")},
         {AzioneMisura::Sovrapponi, tr("Overlay") + ancora},
         {AzioneMisura::Cancella, tr("Delete…")},
     };
@@ -233,14 +236,14 @@ void PannelloArchivio::ApriMenu(const QModelIndex& riga, const QPoint& dove) {
     menu.exec(dove);
 }
 
-void PannelloArchivio::MostraMisura(const StatoArchivio& archivio) {
+void PannelloArchivio::MostraMisura(const StatoArchivio& archivio, const RegiaMisura& regia) {
     mostrata_ = archivio.misura.nome;
     const AbilitazioniArchivio abilita = ControllaAbilitazioniArchivio(archivio);
     albero_->Mostra(archivio.albero, archivio.nodo);
     albero_->setVisible(!archivio.albero.empty());
     MostraDetector(archivio);
     detector_->setEnabled(abilita.CBXDetectorMeasSweep && detector_->count() > 2);
-    MostraSovrapposte(archivio);
+    MostraSovrapposte(archivio, regia);
     verdetto_->Carica(scrivania_.setup);
     verdetto_->setVisible(archivio.Mostrata());
     ScriviDettagli(archivio.misura);
@@ -254,6 +257,30 @@ void PannelloArchivio::MostraDetector(const StatoArchivio& archivio) {
         if (archivio.misura.detector[d])
             detector_->addItem(QLatin1String(kNomiDetector[d]), static_cast<int>(d));
     detector_->setCurrentIndex(std::max(0, detector_->findData(archivio.detector)));
+}
+
+void PannelloArchivio::MostraSovrapposte(const StatoArchivio& archivio, const RegiaMisura& regia) {
+    using Genere = Sovrapposte::Genere;
+    std::vector<Sovrapposte::Voce> voci;
+    const auto aggiungi = [&](Genere genere, const std::string& nome, const QString& testo,
+                              int32_t colore) {
+        voci.push_back({genere, Q(nome), testo, ColoreQt(colore), regia.Accesa(genere, nome)});
+    };
+    if (archivio.riferimento) {
+        const std::string& nome = archivio.riferimento->nome;
+        const EnvRecord& env = scrivania_.env;
+        aggiungi(Genere::Riferimento, nome, tr("Reference: %1").arg(Q(nome)),
+                 env.GraphColors[colore::kDetRefMeas]);
+        aggiungi(Genere::Differenza, nome, tr("Difference"), env.GraphColors[colore::kPicchi]);
+    }
+    for (size_t i = 0; i < archivio.sovrapposte.size(); ++i) {
+        const MisuraAperta& altra = archivio.sovrapposte[i];
+        const StratoQuadro strato = StratoSovrapposto(altra, i, archivio.detector, scrivania_.env);
+        aggiungi(Genere::Misura, altra.nome, Q(altra.nome), strato.colori[0]);
+    }
+    sovrapposte_->Mostra(voci);
+    sovrapposte_->setVisible(!voci.empty());
+    titoloSovrapposte_->setVisible(!voci.empty());
 }
 
 int PannelloArchivio::DetectorScelto() const {

@@ -14,6 +14,7 @@
 #include "ui/ElencoMisure.h"
 #include "ui/ModelloArchivio.h"
 #include "ui/PannelloVerdetto.h"
+#include "ui/RegiaMisura.h"
 #include "ui/Sovrapposte.h"
 
 namespace orvane {
@@ -34,7 +35,7 @@ public:
     /// One row on, or back.
     void Passo(int verso);
     /// Tree, detectors, overlays and facts of the measure on show.
-    void MostraMisura(const StatoArchivio& archivio);
+    void MostraMisura(const StatoArchivio& archivio, const RegiaMisura& regia);
     /// -1: all.
     int DetectorScelto() const;
     PannelloVerdetto& Verdetto() { return *verdetto_; }
@@ -59,7 +60,7 @@ private:
     void Accetta();
     void ApriMenu(const QModelIndex& riga, const QPoint& dove);
     void MostraDetector(const StatoArchivio& archivio);
-    void MostraSovrapposte(const StatoArchivio& archivio);
+    void MostraSovrapposte(const StatoArchivio& archivio, const RegiaMisura& regia);
     void ScriviDettagli(const MisuraAperta& misura);
 
     const Scrivania& scrivania_;

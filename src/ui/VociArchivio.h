@@ -13,7 +13,7 @@ enum Ruolo { Nome = Qt::UserRole, Data, Guasta, Incompiuta };
 
 /// What a list shows of a measure, by role.
 QVariant DatoVoce(const VoceArchivio& misura, int ruolo);
-/// Everything that a search looks through.
+/// Name and dates, as a search looks through them.
 QString TestoCercabile(const VoceArchivio& misura);
 
 class DelegatoMisura : public QStyledItemDelegate {
