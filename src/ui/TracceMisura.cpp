@@ -1,40 +1,42 @@
 #include "ui/TracceMisura.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 void TracceMisura::Imposta(const std::vector<StratoQuadro>& strati) {
-    strati_ = strati;
-    ridotte_.clear();
+    std::vector<Strato> nuovi;
+    for (const StratoQuadro& strato : strati) {
+        Strato& nuovo = nuovi.emplace_back(Strato{strato.traccia, strato.detector});
+        const auto stesso = std::ranges::find(strati_, strato.traccia, &Strato::traccia);
+        if (stesso != strati_.end())
+            nuovo.piramidi = stesso->piramidi;
+    }
+    strati_ = std::move(nuovi);
+    ridotte_ = false;
 }
 
 void TracceMisura::Vista(CampoMhz campo, int colonne) {
-    if (campo == campo_ && colonne == colonne_ && ridotte_.size() == strati_.size())
+    if (ridotte_ && campo == campo_ && colonne == colonne_)
         return;
     campo_ = campo;
     colonne_ = colonne;
-    ridotte_.clear();
-    for (const StratoQuadro& strato : strati_)
-        ridotte_.push_back(Riduci(strato));
-}
-
-TracceMisura::Colonne TracceMisura::Riduci(const StratoQuadro& strato) const {
-    Colonne colonne;
-    for (size_t d = 0; d < kNumDetector; ++d) {
-        if (!strato.detector[d])
-            continue;
-        ColonneTraccia& traccia = colonne[d].emplace(campo_.start, campo_.stop, colonne_, true);
-        for (const CampioneTraccia& c : *strato.traccia) {
-            if (c.stacco)
-                traccia.Interrompi();
-            traccia.Aggiungi(c.freqMhz, c.livello[d]);
+    ridotte_ = true;
+    for (Strato& strato : strati_)
+        for (size_t d = 0; d < kNumDetector; ++d) {
+            if (!strato.detector[d])
+                continue;
+            auto& piramide = strato.piramidi[d];
+            if (!piramide)
+                piramide = std::make_shared<const PiramideTraccia>(*strato.traccia,
+                                                                   static_cast<DetectorKind>(d));
+            strato.colonne[d] = piramide->Colonne(campo.start, campo.stop, colonne, true);
         }
-    }
-    return colonne;
 }
 
 const ColonneTraccia* TracceMisura::Traccia(size_t strato, size_t detector) const {
-    const auto& traccia = ridotte_[strato][detector];
-    return traccia ? &*traccia : nullptr;
+    const auto& colonne = strati_[strato].colonne[detector];
+    return colonne ? &*colonne : nullptr;
 }
 
 } // namespace orvane
