@@ -29,7 +29,7 @@ double Luminanza(const QColor& c) {
 }
 
 double Contrasto(const QColor& a, const QColor& b) {
-    const auto [bassa, alta] = std::minmax(Luminanza(a), Luminanza(b));
+    const auto [bassa, alta] = std::minmax({Luminanza(a), Luminanza(b)});
     return (alta + 0.05) / (bassa + 0.05);
 }
 

@@ -225,8 +225,9 @@ void MainPict::DisegnaMarker(QPainter& p) {
         const QColor c = ColoreLeggibile(ColoreQt(env_.GraphColors[colore::kMarcatori + i]), fondo);
         DisegnaMarkerSweep(
             superficie, scala_, GrigliaLogica(), contenuto_.misura, DetectorMisura(), *indice,
-            static_cast<int>(i),
-            {.colore = Rgb(c.red(), c.green(), c.blue()), .larghezza = i == attivo_ ? 1.5 : 1});
+            static_cast<int>(i) + 1,
+            {.colore = Rgb(c.red(), c.green(), c.blue()), .larghezza = i == attivo_ ? 1.5 : 1},
+            TinteQuadro(Modo(), font()).altezzaTesto / Rapporto());
     }
 }
 
@@ -308,7 +309,8 @@ void MainPict::DisegnaFuoco(QPainter& p) {
     p.setRenderHint(QPainter::Antialiasing, false);
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(Tinta(palette(), Ruolo::Accento), 2));
-    p.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    const double alto = sfondo_.height() / Rapporto();
+    p.drawRect(QRectF(0, 0, width(), alto).adjusted(1, 1, -1, -1));
 }
 
 void MainPict::paintEvent(QPaintEvent* evento) {
