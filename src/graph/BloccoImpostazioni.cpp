@@ -6,6 +6,7 @@
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "data/FileTesto.h"
+#include "data/NomiTabelle.h"
 #include "data/SubMisure.h"
 #include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
@@ -125,7 +126,7 @@ std::vector<std::string> NomiLimiti(const ContenutoQuadro& quadro) {
 std::vector<std::string> NomiFattori(const SetupRecord& setup) {
     std::vector<std::string> nomi;
     for (size_t i = 0; i < kNumFattori; ++i)
-        if (setup.FactorOn[i] == 1 && Nominata(setup.FactorName[i]))
+        if (setup.FactorOn[i] == 1 && NominaTabella(setup.FactorName[i]))
             nomi.push_back(Rifila(setup.FactorName[i]));
     return nomi;
 }

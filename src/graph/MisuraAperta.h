@@ -46,8 +46,6 @@ void CaricaTabelleMisura(Scrivania& s, const std::string& misura, const SetupRec
 /// A table by its path, such as `PercorsoLimite` gives it: the measure's copy, or else the one in
 /// the data tree. Empty, and nothing told, where there is none.
 LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura, const std::string& locale);
-/// Whether a field names a table: neither blank nor "NONE".
-bool Nominata(const std::string& nome);
 
 /// Reads the trace of `base` again, merged by `detector` (the first that was measured without one),
 /// and adds the factors that `setup` has on.

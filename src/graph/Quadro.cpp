@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/Testo.h"
+#include "data/NomiTabelle.h"
 #include "graph/Limiti.h"
 #include "graph/PiedeQuadro.h"
 #include "graph/TestataQuadro.h"
@@ -157,7 +158,7 @@ void AggiungiLimitiRighe(const Scrivania& s, ContenutoQuadro& contenuto) {
         nomi.push_back(Maiuscolo(l.nome));
     const size_t interi = nomi.size();
     for (const ScanLine& riga : contenuto.misura.header.Scan.Righe) {
-        if (riga.Start == 0 || riga.LimitOn != 1 || !Nominata(riga.Limit))
+        if (riga.Start == 0 || riga.LimitOn != 1 || !NominaTabella(riga.Limit))
             continue;
         const std::string nome = Rifila(riga.Limit);
         const auto noto = std::find(nomi.begin(), nomi.end(), Maiuscolo(nome));
