@@ -6,7 +6,6 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "data/Misure.h"
 #include "data/NomiDisco.h"
 
 namespace orvane {
@@ -82,20 +81,29 @@ void AppendiTraccia(Nodi& nodi, const ContestoNodi& c, NodoSubMisura nodo) {
     AppendiWorst(nodi, c, file, sotto);
 }
 
-/// "L1" of "<measure>-L1".
-std::string TitoloPassata(const ContestoNodi& c, const std::string& file) {
-    for (const std::string& nome : {c.misura, c.base})
-        if (file.size() > nome.size() + 1 && file[nome.size()] == '-' &&
-            StessoFile(file.substr(0, nome.size()), nome))
-            return file.substr(nome.size() + 1);
-    return file;
+/// What the names of all passes have in front of their last "-". It is the name that the measure
+/// had when it ran, which a rename leaves in them; empty where they differ.
+std::string TestaComune(const std::vector<std::string>& passate) {
+    std::optional<std::string> testa;
+    for (const std::string& file : passate) {
+        const auto trattino = file.rfind('-');
+        const std::string questa = trattino == std::string::npos ? "" : file.substr(0, trattino);
+        if (testa && !StessoFile(*testa, questa))
+            return {};
+        testa = questa;
+    }
+    return testa.value_or("");
 }
 
-std::string TitoloInsLoss(const std::string& file) {
-    for (const SuffissoInsLoss& s : kSuffissiInsLoss)
-        if (Maiuscolo(file).ends_with(s.suffisso))
-            return std::string(s.titolo);
-    return {};
+/// "L1" of "<measure>-L1".
+std::string TitoloPassata(const std::string& testa, const std::string& file) {
+    return testa.empty() ? file : file.substr(testa.size() + 1);
+}
+
+bool DiInsLoss(const std::string& file) {
+    return std::ranges::any_of(kSuffissiInsLoss, [&](const SuffissoInsLoss& s) {
+        return Maiuscolo(file).ends_with(s.suffisso);
+    });
 }
 
 void AppendiInsLoss(Nodi& nodi, const ContestoNodi& c) {
@@ -111,15 +119,12 @@ Nodi AlberoSemplice(const ContestoNodi& c) {
     if (c.insertionLoss)
         AppendiInsLoss(nodi, c);
     const size_t prima = nodi.size();
-    size_t passate = 0;
-    for (const std::string& file : c.file) {
-        if (SpezzaWorst(file) || StessoFile(file, kBaseInviluppo) ||
-            (c.insertionLoss && !TitoloInsLoss(file).empty()))
-            continue;
-        ++passate;
-        AppendiTraccia(nodi, c, {.testo = TitoloPassata(c, file), .profondita = 1, .file = file});
-    }
-    if (passate > 1 || c.Ha(kBaseInviluppo))
+    const std::vector<std::string> passate = PassateDellaMisura(c);
+    const std::string testa = TestaComune(passate);
+    for (const std::string& file : passate)
+        AppendiTraccia(nodi, c,
+                       {.testo = TitoloPassata(testa, file), .profondita = 1, .file = file});
+    if (passate.size() > 1 || c.Ha(kBaseInviluppo))
         nodi.insert(nodi.begin() + static_cast<long>(prima),
                     {.testo = std::string(kBaseInviluppo), .profondita = 1});
     return nodi;
@@ -191,7 +196,6 @@ bool ContestoNodi::Ha(std::string_view base_) const {
 
 ContestoNodi LeggiContestoNodi(const Scrivania& s, const std::string& misura, bool insertionLoss) {
     ContestoNodi c{.misura = misura,
-                   .base = BaseMisura(s.albero, misura),
                    .file = ElencaSubMisure(s, false, misura),
                    .insertionLoss = insertionLoss};
     if (c.file.size() == 1 && c.file[0].empty())
@@ -214,8 +218,9 @@ std::vector<std::string> PosizioniMastTable(const ContestoNodi& c) {
 
 std::vector<std::string> PassateDellaMisura(const ContestoNodi& c) {
     std::vector<std::string> passate;
-    std::ranges::copy_if(c.file, std::back_inserter(passate), [](const std::string& f) {
-        return !SpezzaWorst(f) && !StessoFile(f, kBaseInviluppo);
+    std::ranges::copy_if(c.file, std::back_inserter(passate), [&](const std::string& f) {
+        return !SpezzaWorst(f) && !StessoFile(f, kBaseInviluppo) &&
+               !(c.insertionLoss && DiInsLoss(f));
     });
     return passate;
 }
@@ -236,14 +241,19 @@ FileDaNodo NomeFileDaNodo(const ContestoNodi& c, const NodoSubMisura& nodo) {
         return {std::string(submisura::kMisura), ViewMode::MastTable};
     if (nodo.testo == kBaseInviluppo)
         return {std::string(kBaseInviluppo)};
-    if (nodo.testo.starts_with(kWorst))
-        return {BaseWorst(nodo.prefisso,
-                          static_cast<int>(ValoreIniziale(nodo.testo.substr(kWorst.size()))))};
+    if (const auto numero = NumeroWorst(nodo))
+        return {BaseWorst(nodo.prefisso, *numero)};
     if (TestoPosizione(nodo.testo))
         return FilePosizione(c, nodo);
     const std::string& nome = nodo.file.empty() ? nodo.testo : nodo.file;
     const std::string peggiore = BaseWorst(nome, 1);
     return {c.Ha(peggiore) ? peggiore : nome};
+}
+
+std::optional<int> NumeroWorst(const NodoSubMisura& nodo) {
+    if (!nodo.testo.starts_with(kWorst))
+        return std::nullopt;
+    return static_cast<int>(ValoreIniziale(nodo.testo.substr(kWorst.size())));
 }
 
 std::string TitoloWorst(int viewWorstMode, int numero) {

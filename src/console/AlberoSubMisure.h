@@ -1,6 +1,7 @@
 // `TreeViewFileSweep` as data: the sub-measures of a measure, and which files a node stands for.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,7 +39,8 @@ ContestoNodi LeggiContestoNodi(const Scrivania& s, const std::string& misura,
 
 /// The positions that an envelope is made over: those of the pre-scan, or else of the measure.
 std::vector<std::string> PosizioniMastTable(const ContestoNodi& contesto);
-/// The traces beside the measure's own, without worst lists and envelope.
+/// The traces beside the measure's own, without worst lists, envelope and
+/// those of an Insertion Loss measure.
 std::vector<std::string> PassateDellaMisura(const ContestoNodi& contesto);
 
 /// Plain measures: the measure itself, then its passes ("L1" of "<measure>-L1"), the envelope where
@@ -58,6 +60,8 @@ FileDaNodo NomeFileDaNodo(const ContestoNodi& contesto, const NodoSubMisura& nod
 /// Base of an envelope of passes, which is made in memory.
 inline constexpr std::string_view kBaseInviluppo = "Envelope";
 
+/// N of a node "Worst: N"; empty for any other.
+std::optional<int> NumeroWorst(const NodoSubMisura& nodo);
 /// " Worst: N" behind a title with `WorstMode` 1 and 2; empty with 0.
 std::string TitoloWorst(int viewWorstMode, int numero);
 

@@ -6,7 +6,6 @@
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
 #include "console/CambioUnita.h"
-#include "data/Inviluppo.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
 #include "graph/Confronto.h"
@@ -70,49 +69,6 @@ size_t PrimoNodo(const std::vector<NodoSubMisura>& albero) {
     return primo == albero.end() ? 0 : static_cast<size_t>(primo - albero.begin());
 }
 
-DetectorKind DetectorInviluppo(const StatoArchivio& a) {
-    const auto primo = std::ranges::find(a.misura.detector, true);
-    const auto indice = primo == a.misura.detector.end() ? 0 : primo - a.misura.detector.begin();
-    return a.DetectorScelto().value_or(static_cast<DetectorKind>(indice));
-}
-
-/// An envelope that no file holds.
-void ComponiInviluppo(Scrivania& s, StatoArchivio& a, const std::vector<std::string>& basi) {
-    std::vector<std::shared_ptr<const SweepTrace>> tracce;
-    MisuraAperta una = a.misura;
-    una.vista = ViewMode::Normale;
-    for (const std::string& base : basi) {
-        una.base = base;
-        CaricaTracciaMisura(s, una, s.setup, a.DetectorScelto());
-        tracce.push_back(una.traccia);
-    }
-    a.misura.traccia = std::make_shared<SweepTrace>(InviluppoTracce(tracce, DetectorInviluppo(a)));
-}
-
-/// The envelope of the positions is kept in the measure; where it cannot be, it is shown all the
-/// same.
-bool InviluppoPosizioniPronto(Scrivania& s, StatoArchivio& a) {
-    if (a.contesto.Ha(submisura::kInviluppo))
-        return true;
-    const auto posizioni = PosizioniMastTable(a.contesto);
-    if (!SalvaInviluppoPosizioni(s, a.misura.nome, posizioni, DetectorInviluppo(a)))
-        return false;
-    a.contesto = LeggiContestoNodi(s, a.misura.nome, a.contesto.insertionLoss);
-    return true;
-}
-
-void CaricaTracciaVista(Scrivania& s, StatoArchivio& a) {
-    const bool inMemoria = a.misura.base == kBaseInviluppo && !a.contesto.Ha(kBaseInviluppo);
-    if (inMemoria)
-        ComponiInviluppo(s, a, PassateDellaMisura(a.contesto));
-    else if (a.misura.vista == ViewMode::Inviluppo && !InviluppoPosizioniPronto(s, a))
-        ComponiInviluppo(s, a, PosizioniMastTable(a.contesto));
-    else
-        CaricaTracciaMisura(s, a.misura, s.setup, a.DetectorScelto());
-    a.differenza =
-        a.riferimento ? DifferenzaTracce(*a.misura.traccia, *a.riferimento->traccia) : SweepTrace{};
-}
-
 /// The node's files become the ones on show; the trace is not read.
 void ScegliNodo(StatoArchivio& a, size_t nodo) {
     a.nodo = nodo;
@@ -135,7 +91,7 @@ void ApriLeggibile(Scrivania& s, StatoArchivio& a) {
     if (a.albero.empty())
         return;
     ScegliNodo(a, PrimoNodo(a.albero));
-    CaricaTracciaVista(s, a);
+    CaricaTracceArchivio(s, a);
 }
 
 void Apri(Scrivania& s, StatoArchivio& a, const std::string& nome) {
@@ -223,18 +179,7 @@ bool ClickTreeViewFileSweep(Scrivania& s, StatoArchivio& a, size_t nodo) {
     if (!a.Mostrata() || nodo >= a.albero.size() || a.albero[nodo].gruppo)
         return false;
     ScegliNodo(a, nodo);
-    CaricaTracciaVista(s, a);
-    return true;
-}
-
-bool ScegliDetectorArchivio(Scrivania& s, StatoArchivio& a, int detector) {
-    const bool noto = detector == kTuttiDetector ||
-                      (detector >= 0 && static_cast<size_t>(detector) < kNumDetector &&
-                       a.misura.detector[static_cast<size_t>(detector)]);
-    if (!a.Mostrata() || !noto)
-        return false;
-    a.detector = detector;
-    CaricaTracciaVista(s, a);
+    CaricaTracceArchivio(s, a);
     return true;
 }
 
@@ -242,7 +187,7 @@ bool CambiaUnitaArchivio(Scrivania& s, StatoArchivio& a, int unitId) {
     if (!CambiaUnita(s, unitId))
         return false;
     if (a.Mostrata())
-        CaricaTracciaVista(s, a);
+        CaricaTracceArchivio(s, a);
     return true;
 }
 
@@ -250,7 +195,7 @@ void RinnovaTabelle(Scrivania& s, StatoArchivio& a) {
     if (!a.Mostrata())
         return;
     CaricaTabelleMisura(s, a.misura.nome, s.setup, a.misura.tabelle);
-    CaricaTracciaVista(s, a);
+    CaricaTracceArchivio(s, a);
 }
 
 std::string TitoloArchivio(const StatoArchivio& a) {
@@ -264,9 +209,13 @@ std::string TitoloArchivio(const StatoArchivio& a) {
                       : "  Insertion Loss";
     if (a.nodo >= a.albero.size() || a.albero[a.nodo].testo == a.misura.nome)
         return titolo;
-    const std::string worst = NomeSubMisuraEsteso(a.misura.base, a.contesto.priorita);
-    return titolo + "  " +
-           (a.albero[a.nodo].testo.starts_with("Worst: ") ? worst : a.albero[a.nodo].testo);
+    const NodoSubMisura& nodo = a.albero[a.nodo];
+    const auto worst = NumeroWorst(nodo);
+    if (!worst)
+        return titolo + "  " + nodo.testo;
+    const std::string prefisso = NomeSubMisuraEsteso(nodo.prefisso, a.contesto.priorita);
+    return titolo + (prefisso.empty() ? "" : "  " + prefisso) +
+           TitoloWorst(a.ViewWorstMode, *worst);
 }
 
 AbilitazioniArchivio ControllaAbilitazioniArchivio(const StatoArchivio& a) {
@@ -283,42 +232,6 @@ AbilitazioniArchivio ControllaAbilitazioniArchivio(const StatoArchivio& a) {
             .CMBFileTable = scelta,
             .CBXDetectorMeasSweep = scelta,
             .CHKLock = si};
-}
-
-bool ScegliRiferimento(Scrivania& s, StatoArchivio& a, const std::string& nome) {
-    if (!a.Mostrata())
-        return false;
-    MisuraAperta riferimento = ApriMisura(s, nome);
-    if (!riferimento.leggibile)
-        return false;
-    if (!Comparabili(a.misura.header.Scan, riferimento.header.Scan)) {
-        s.ambiente.Mostra({.testo = std::string(kNonComparabile), .icona = Icona::Esclamazione});
-        return false;
-    }
-    a.riferimento = std::move(riferimento);
-    a.differenza = DifferenzaTracce(*a.misura.traccia, *a.riferimento->traccia);
-    return true;
-}
-
-void TogliRiferimento(StatoArchivio& a) {
-    a.riferimento.reset();
-    a.differenza.clear();
-}
-
-bool SovrapponiMisura(Scrivania& s, StatoArchivio& a, const std::string& nome) {
-    if (!a.Mostrata() || ChiaveNome(nome) == ChiaveNome(a.misura.nome))
-        return false;
-    MisuraAperta misura = ApriMisura(s, nome);
-    if (!misura.leggibile)
-        return false;
-    TogliSovrapposta(a, nome);
-    a.sovrapposte.push_back(std::move(misura));
-    return true;
-}
-
-void TogliSovrapposta(StatoArchivio& a, const std::string& nome) {
-    std::erase_if(a.sovrapposte,
-                  [&](const MisuraAperta& m) { return ChiaveNome(m.nome) == ChiaveNome(nome); });
 }
 
 } // namespace orvane

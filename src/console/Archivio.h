@@ -2,7 +2,9 @@
 // way back to a scan table.
 #pragma once
 
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "console/Console.h"
@@ -75,6 +77,15 @@ struct AbilitazioniArchivio {
 };
 AbilitazioniArchivio ControllaAbilitazioniArchivio(const StatoArchivio& a);
 
+/// All traces on show again from their files: after a change of what is added to them.
+void CaricaTracceArchivio(Scrivania& s, StatoArchivio& a);
+/// The envelope of several of the measure's traces by one detector (the first that was measured
+/// without one), with the factors that `setup` has on; made in memory.
+std::shared_ptr<const SweepTrace> TracciaInviluppo(Scrivania& s, const MisuraAperta& misura,
+                                                   const SetupRecord& setup,
+                                                   std::span<const std::string> basi,
+                                                   std::optional<DetectorKind> detector);
+
 // --- Comparison.
 
 /// A second measure as reference. False, and nothing changed, after the box "Measure not
@@ -85,12 +96,17 @@ void TogliRiferimento(StatoArchivio& a);
 bool SovrapponiMisura(Scrivania& s, StatoArchivio& a, const std::string& nome);
 void TogliSovrapposta(StatoArchivio& a, const std::string& nome);
 
-// --- Delete and redo.
+// --- Delete, rename and redo.
 
 /// The Delete key: asks; on OK the measure goes, the list is read again and, where it was on show,
 /// its neighbour opened. Empty: the user's No, nothing changed. What could not be deleted stays in
 /// the list.
 std::optional<EsitoMostra> EliminaMisura(Scrivania& s, StatoArchivio& a, const std::string& nome);
+
+/// Directory, header and traces get another name, all of them or none; traces in "Sub_Measure\"
+/// keep theirs. False after a box: no valid name, one that exists, or a file that cannot be
+/// renamed.
+bool RinominaMisura(Scrivania& s, const std::string& da, const std::string& a);
 
 /// The scan table of a measure becomes the current one, stored under this name as `RedoProfiloB`
 /// decides. The path of the new EST; empty after a refusal, with nothing changed.

@@ -3,9 +3,11 @@
 
 #include "base/Percorsi.h"
 #include "console/Archivio.h"
+#include "data/Avvisi.h"
 #include "data/Cancellazioni.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
+#include "data/Rinomine.h"
 
 namespace orvane {
 namespace {
@@ -52,8 +54,7 @@ std::string MisuraAccanto(const StatoArchivio& a, int passi) {
         std::clamp<long>(static_cast<long>(*posto) + passi, 0, ultimo))];
 }
 
-std::optional<EsitoMostra> EliminaMisura(Scrivania& s, StatoArchivio& a,
-                                           const std::string& nome) {
+std::optional<EsitoMostra> EliminaMisura(Scrivania& s, StatoArchivio& a, const std::string& nome) {
     const std::string vicina = MisuraVicina(a, nome);
     const bool aveva = s.albero.Esiste(TrovaKSH(s.albero, nome));
     const bool andata = CancellaMisura(s, nome);
@@ -65,6 +66,26 @@ std::optional<EsitoMostra> EliminaMisura(Scrivania& s, StatoArchivio& a,
     if (a.misura.nome.empty() || ChiaveNome(a.misura.nome) == ChiaveNome(nome))
         esito.mostrata = VisualizzaDatiSweepata(s, a, vicina).mostrata;
     return esito;
+}
+
+bool RinominaMisura(Scrivania& s, const std::string& da, const std::string& a) {
+    const auto rifiuta = [&](std::string testo) {
+        s.ambiente.Mostra({.testo = std::move(testo), .icona = Icona::Esclamazione});
+        return false;
+    };
+    if (!NomeMisuraAmmesso(a))
+        return rifiuta("Not valid name\r" + a);
+    if (s.albero.EsisteCartella(CartellaMisura(a)))
+        return rifiuta("Sweep " + a + " already exists.");
+    CatenaRinomine catena(s.albero);
+    if (!catena.RinominaMisura(da, a))
+        return AvvisaScrittura(s, catena.Guasto());
+    catena.Conferma();
+    if (ChiaveNome(EstraiNomeFile(s.env.SweepPath)) == ChiaveNome(da)) {
+        s.env.SweepPath = PercorsoKSH(a);
+        SalvaPanelEPN(s, kPannelloEPN);
+    }
+    return true;
 }
 
 std::optional<std::string> RedoTabella(Scrivania& s, const ScanRecord& dellaMisura,
