@@ -12,6 +12,7 @@
 #include "data/Interpolazione.h"
 #include "data/LibreriaLimiti.h"
 #include "data/NomiDisco.h"
+#include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "records/Unita.h"
 #include "verbs/Json.h"
@@ -34,8 +35,7 @@ std::string PercorsoTabella(TableKind kind, const std::string& nome) {
 /// False after saying why there is no file to load.
 bool TabellaPresente(Banco& banco, TableKind kind, const std::string& nome) {
     const std::string percorso = PercorsoTabella(kind, nome);
-    if (NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, "NONE") &&
-        banco.scrivania.albero.Esiste(percorso))
+    if (NomeTabellaAmmesso(nome) && NominaTabella(nome) && banco.scrivania.albero.Esiste(percorso))
         return true;
     Guasto(banco, kGuastoFile, "there is no table " + percorso);
     return false;
@@ -54,7 +54,7 @@ EsitoVerbo Elenca(Banco& banco, TableKind kind) {
     Json json;
     json.Lista();
     for (const std::string& nome :
-         NomiTabelle(banco.scrivania, richiesta.cartella, richiesta.estensione)) {
+         NomiTabelle(banco.scrivania.albero, richiesta.cartella, richiesta.estensione)) {
         json.Testo(nome);
         if (!banco.json)
             banco.dati << nome << "\n";
@@ -145,16 +145,6 @@ EsitoVerbo StampaValori(Banco& banco, TableKind kind, const std::string& nome,
     if (banco.json)
         banco.dati << json.Chiudi().Documento() << "\n";
     return kFatto;
-}
-
-/// A unit by its text, with "u" for the micro sign, or by its number.
-std::optional<int16_t> LeggiUnita(const std::string& testo) {
-    const std::string chiesta = Maiuscolo(Sostituisci(testo, "µ", "u"));
-    for (size_t i = 0; i < TabellaUnitaGrafico().size(); ++i)
-        if (Maiuscolo(Sostituisci(TabellaUnitaGrafico()[i].testo, "µ", "u")) == chiesta ||
-            TestoIntero(static_cast<long long>(i)) == chiesta)
-            return static_cast<int16_t>(i);
-    return std::nullopt;
 }
 
 /// The empty table that an import fills; what is wrong with the options in `errore`.
@@ -255,6 +245,15 @@ std::string_view VerboDiKind(TableKind kind) {
     if (!LimiteOFattore(kind))
         return "table";
     return kind == TableKind::Limite ? "limit" : "factor";
+}
+
+std::optional<int16_t> LeggiUnita(const std::string& testo) {
+    const std::string chiesta = Maiuscolo(Sostituisci(testo, "µ", "u"));
+    for (size_t i = 0; i < TabellaUnitaGrafico().size(); ++i)
+        if (Maiuscolo(Sostituisci(TabellaUnitaGrafico()[i].testo, "µ", "u")) == chiesta ||
+            TestoIntero(static_cast<long long>(i)) == chiesta)
+            return static_cast<int16_t>(i);
+    return std::nullopt;
 }
 
 std::optional<ContenutoTabella> CaricaContenuto(Banco& banco, TableKind kind,
