@@ -78,16 +78,15 @@ void Pagine::StampaRiga(std::string_view riga) {
 void Pagine::StampaImmagine(double ratio) {
     const double destra = m_.Right;
     double larghezza = destra - 2.5, altezza = larghezza * ratio;
-    int righe = 2 * static_cast<int>(altezza) + 2;
     if (ratio > 1) {
         altezza = destra - 5.0;
         larghezza = altezza / ratio;
-        righe = 2 * static_cast<int>(altezza);
     }
     if (altezza > m_.ImageHeightLimit) {
         larghezza *= m_.ImageHeightLimit / altezza;
         altezza = m_.ImageHeightLimit;
     }
+    const int righe = 2 * static_cast<int>(altezza) + (ratio > 1 ? 0 : 2);
     // A picture covers two and a half lines a cm: never fewer, or it would lie on the header.
     const int coperte = static_cast<int>(std::ceil(altezza * kRighePerCm));
     if (Altezza(++n_ + std::max(m_.righeImmagine, coperte)) < kPiedeImmagine)
