@@ -40,16 +40,21 @@ bool Riuscito(EsitoDocumento esito) {
     return esito == EsitoDocumento::Fatto || esito == EsitoDocumento::SenzaImmagine;
 }
 
-EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool pdf) {
-    const fs::path provvisorio = s.albero.Radice() / (pdf ? "Untitled.pdf" : "Untitled.rtf");
+/// Where the document is made first: never the target itself, which a failure would tear.
+fs::path Provvisorio(const Scrivania& s, const fs::path& scelto, bool pdf) {
+    const std::string nome = pdf ? "Untitled.pdf" : "Untitled.rtf";
     std::error_code errore;
-    const bool proprioQuello =
-        fs::weakly_canonical(r.OutPath, errore) == fs::weakly_canonical(provvisorio, errore);
-    const CancellaAllaFine resto{proprioQuello ? fs::path() : provvisorio};
-    const EsitoDocumento esito = pdf ? CreaFilePDF(s, r, provvisorio) : CreaFileRTF(r, provvisorio);
-    if (!Riuscito(esito) || proprioQuello)
+    const bool proprioQuello = fs::equivalent(scelto, s.albero.Radice() / nome, errore);
+    return s.albero.Radice() / (proprioQuello ? "~" + nome : nome);
+}
+
+EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool pdf) {
+    const CancellaAllaFine resto{Provvisorio(s, r.OutPath, pdf)};
+    const EsitoDocumento esito =
+        pdf ? CreaFilePDF(s, r, resto.percorso) : CreaFileRTF(r, resto.percorso);
+    if (!Riuscito(esito))
         return esito;
-    return CopiaSopra(provvisorio, r.OutPath) ? esito : EsitoDocumento::NonScritto;
+    return CopiaSopra(resto.percorso, r.OutPath) ? esito : EsitoDocumento::NonScritto;
 }
 
 } // namespace

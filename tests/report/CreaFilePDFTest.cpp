@@ -136,6 +136,11 @@ TEST_F(CreaFilePDFTest, TheOldFileStaysWhenTheNewOneFails) {
     r = Chiedi(1, 1, 0, "no such directory/r.pdf");
     EXPECT_EQ(Converti(r), EsitoDocumento::Occupato);
     EXPECT_EQ(ambiente.riquadri.back().testo, r.OutPath.string() + " Is already open");
+    r = Chiedi(1, 1, 0, "Untitled.pdf");
+    Metti("Untitled.pdf", std::string("old"));
+    std::filesystem::remove(r.TablePath);
+    EXPECT_EQ(Converti(r), EsitoDocumento::TabellaIllegibile);
+    EXPECT_EQ(Prendi("Untitled.pdf"), "old");
     r = Chiedi(1, 1, 0, "r.txt");
     EXPECT_EQ(Converti(r), EsitoDocumento::AltraEstensione);
     EXPECT_TRUE(s.albero.Esiste("r.TPT"));
