@@ -6,6 +6,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "data/NomiDisco.h"
 #include "report/LeggiBMP.h"
 #include "report/LogoReport.h"
 #include "report/RigheFile.h"
@@ -184,7 +185,7 @@ EsitoDocumento CreaFilePDF(const Scrivania& s, const RichiestaDocumento& r, fs::
     pdf.PaperSize(static_cast<uint8_t>(r.carattere.ReportPaper));
     pdf.Margin(0);
     pdf.EncodeASCII85(false);
-    pdf.Title(r.Name.empty() ? r.OutPath.filename().string() : r.Name);
+    pdf.Title(r.Name.empty() ? Utf8DaPath(r.OutPath.filename()) : r.Name);
     if (!pdf.InitPDFFile(percorso))
         return EsitoDocumento::NonScritto;
     return ScriviDocumento(pdf, s, r, tabella);
