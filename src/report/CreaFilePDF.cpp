@@ -21,6 +21,8 @@ constexpr int kCentimetri = 3;
 constexpr double kRighePerCm = 2.5;
 constexpr double kUltimaRiga = 1.5;    ///< cm: a line at this height goes to the next page
 constexpr double kPiedeImmagine = 2.0; ///< cm: a picture stays above
+constexpr double kBordoImmagine = 2.5; ///< cm: a wide picture ends so far from `Right`
+constexpr double kBordoAlta = 5.0;     ///< and a high one is so much lower than `Right`
 constexpr float kLogoLargo = 2.0f, kLogoAlto = 1.0f, kLogoDaDestra = 2.5f;
 constexpr float kCorpoPagina = 12.0f, kCorpoTitolo = 15.0f; ///< points
 
@@ -78,9 +80,9 @@ void Pagine::StampaRiga(std::string_view riga) {
 
 void Pagine::StampaImmagine(double ratio) {
     const double destra = m_.Right;
-    double larghezza = destra - 2.5, altezza = larghezza * ratio;
+    double larghezza = destra - kBordoImmagine, altezza = larghezza * ratio;
     if (ratio > 1) {
-        altezza = destra - 5.0;
+        altezza = destra - kBordoAlta;
         larghezza = altezza / ratio;
     }
     if (altezza > m_.ImageHeightLimit) {

@@ -285,6 +285,10 @@ TEST_F(PDFCreatorTest, FailuresReachTheCaller) {
     std::filesystem::path pieno = "/dev/full";
     ASSERT_TRUE(pdf.InitPDFFile(pieno));
     EXPECT_FALSE(pdf.ClosePDFFile());
+    std::filesystem::path primo = Host("first.pdf"), secondo = Host("second.pdf");
+    ASSERT_TRUE(pdf.InitPDFFile(primo));
+    ASSERT_TRUE(pdf.InitPDFFile(secondo)); // which finishes the first
+    EXPECT_TRUE(Prendi("first.pdf").ends_with("%%EOF\r\r\n"));
     // The day's time with a further digit, in hexadecimal: 221200000.
     EXPECT_EQ(NomeInventatoPdf(ambiente), "~D2F3E80.pdf");
 }
