@@ -202,8 +202,10 @@ bool TestoPosizione(std::string_view testo) {
 
 FileDaNodo FilePosizione(const ContestoNodi& c, const NodoSubMisura& nodo) {
     const FaseMastTable fase = nodo.testo.starts_with(kMisura) ? FaseMastTable::Measure : nodo.fase;
-    return {BasePosizione(fase, NumeroDietro(nodo.testo, "Mast: ", "M. "),
-                          NumeroDietro(nodo.testo, "Table: ", "T. "), c.priorita)};
+    const std::string base = BasePosizione(fase, NumeroDietro(nodo.testo, "Mast: ", "M. "),
+                                           NumeroDietro(nodo.testo, "Table: ", "T. "), c.priorita);
+    // A file may name its axes the other way round than its neighbours.
+    return {nodo.file.empty() || c.Ha(base) ? base : nodo.file};
 }
 
 } // namespace

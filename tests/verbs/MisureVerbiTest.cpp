@@ -213,5 +213,42 @@ TEST_F(MisureVerbiTest, TellTheSameAsJson) {
                           "\"verdict\":\"---\"}\n");
 }
 
+TEST_F(MisureVerbiTest, TheArchiveTellsByItsStatusWhatCameOfIt) {
+    struct Caso {
+        std::vector<std::string> parole;
+        EsitoVerbo esito;
+        std::string dati; ///< what must stand in it
+        Risposta risposta{};
+    };
+    const Caso casi[] = {
+        {{"list", "--search", "m"}, kFatto, "M\t"},
+        {{"list", "--search", "nowhere"}, kFatto, ""},
+        {{"show", "M"}, kFatto, "limit: Wide QP\nfactor: Loop\nsub: L1\n"},
+        {{"show", "N"}, kGuastoFile, ""},
+        {{"show", ".."}, kUsoErrato, ""},
+        {{"what"}, kUsoErrato, ""},
+        {{"difference", "M", "m"}, kFatto, "frequency_mhz,delta_db,line\n1,0.00,1\n"},
+        {{"difference", "M", "M", "--detector", "A"}, kUsoErrato, ""},
+        {{"envelope", "M", "--detector", "Q"}, kFatto, "level_db,line\n1,10.34,1\n"},
+        {{"envelope", "M", "--factors"}, kFatto, "level_db,line\n1,22.34,1\n"},
+        {{"redo", "M", "--name", "T"}, kFatto, "Panels\\T.EST"},
+        {{"redo", "M", "--name", "T"}, kRifiutato, "", Risposta::No},
+        {{"delete", "M", "N"}, kGuastoFile, ""},
+        {{"delete", "M"}, kRifiutato, "", Risposta::Annulla},
+        {{"rename", "M", "m"}, kRifiutato, ""},
+        {{"rename", "M", "N"}, kFatto, ""},
+        {{"delete", "N"}, kFatto, "", Risposta::Ok},
+        {{"show", "N"}, kGuastoFile, ""},
+    };
+    for (const Caso& caso : casi) {
+        b.ambiente.risposte.clear();
+        if (caso.risposta != Risposta::Ok || caso.parole[0] == "delete")
+            b.ambiente.risposte = {caso.risposta, caso.risposta};
+        EXPECT_EQ(Esegui("archive", caso.parole), caso.esito) << caso.parole[0] << messaggi.str();
+        EXPECT_TRUE(Contiene(dati.str(), caso.dati)) << caso.parole[0] << ": " << dati.str();
+    }
+    EXPECT_EQ(s.env.SweepPath, "Untitled.EST");
+}
+
 } // namespace
 } // namespace orvane::prova
