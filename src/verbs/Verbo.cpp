@@ -34,11 +34,27 @@ constexpr std::array kVerbi = {
               VerboSweep},
     VoceVerbo{"command", "--scan NAME",
               "what a scan table makes the console send, without sending it", VerboCommand},
-    VoceVerbo{"archive", "[accept MEASURE]",
-              "the measures, with date and lines; accept takes the mark of a run that was cut off",
+    VoceVerbo{"archive",
+              "[list] [--search TEXT] | show MEASURE | accept MEASURE | delete MEASURE ...\n"
+              "        | rename MEASURE NAME | redo MEASURE [--name EST]\n"
+              "        | difference MEASURE REFERENCE [--detector D]\n"
+              "        | envelope MEASURE [--detector D] [--factors]",
+              "the measures; accept takes the mark of a run that was cut off, redo makes a scan\n"
+              "      table of a measure, difference and envelope print CSV",
               VerboArchive},
-    VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
+    VoceVerbo{"trace",
+              "MEASURE [--detector D] [--sub NAME] [--unit U] [--factors | --factor F ...]\n"
+              "        [--limit A ...]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{"peaks",
+              "MEASURE [--detector D] [--sub NAME] [--count N] [--excursion DB] [--from MHZ]\n"
+              "        [--to MHZ] [--unit U] [--factor F ...] [--limit A ...] [--save-table NAME]",
+              "the highest peaks of a stored trace as CSV", VerboPeaks},
+    VoceVerbo{"verdict",
+              "MEASURE [--sub NAME] [--limit A[:D] ...] [--factor F ...] [--uncertainty DB]\n"
+              "        [--unit U]",
+              "PASS, FAIL or INCONCLUSIVE for each limit, and for all of them; status 0 for PASS",
+              VerboVerdict},
     VoceVerbo{
         "panel", "list | show [NAME|PATH]",
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"

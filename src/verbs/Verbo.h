@@ -74,6 +74,8 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole);
 EsitoVerbo VerboCheck(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
+EsitoVerbo VerboPeaks(Banco& banco, Parole parole);
+EsitoVerbo VerboVerdict(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
 EsitoVerbo VerboLimit(Banco& banco, Parole parole);
