@@ -24,8 +24,8 @@ bool LeggiHeader(Scrivania& s, const std::string& nome, SweepHeader& header) {
     return false;
 }
 
-/// A table by its name: the measure's copy of it, or else the one in the data tree. Empty, and
-/// nothing told, where there is none.
+} // namespace
+
 LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
                           const std::string& locale) {
     LimFacRecord tabella;
@@ -41,8 +41,6 @@ LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
     }
     return tabella;
 }
-
-} // namespace
 
 void CampoDellaTabella(const ScanTable& tabella, double& startMhz, double& stopMhz) {
     startMhz = stopMhz = 0;

@@ -55,6 +55,13 @@ constexpr std::array kVerbi = {
               "        [--unit U]",
               "PASS, FAIL or INCONCLUSIVE for each limit, and for all of them; status 0 for PASS",
               VerboVerdict},
+    VoceVerbo{"picture",
+              "MEASURE --out FILE [--size WxH] [--sub NAME] [--detector D] ... [--unit U]\n"
+              "        [--limit NAME[:D]] ... [--factor NAME] ... [--from MHZ] [--to MHZ]\n"
+              "        [--reference DB] [--dynamics N|DB] [--peaks N] [--print|--dark|--light]\n"
+              "        [--no-settings]",
+              "a stored measure as a picture: BMP, PNG, JPG or SVG by the file's extension",
+              VerboPicture},
     VoceVerbo{
         "panel", "list | show [NAME|PATH]",
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"

@@ -1,6 +1,8 @@
 // Markers: where they stand, what is read there, and how they are drawn.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "aiuto/SuperficieRegistra.h"
 #include "graph/Marcatori.h"
 
@@ -35,22 +37,12 @@ MisuraAperta Misura() {
 }
 
 TEST(Marcatori, AFrequencyHasTheDecimalsOfItsStep) {
-    struct Caso {
-        double mhz, passo;
-        const char* testo;
-    };
-    for (const Caso& c : std::initializer_list<Caso>{{0.195, 0.005, "0.195"},
-                                                     {30, 0.005, "30.000"},
-                                                     {0.1525, 0.0025, "0.1525"},
-                                                     {100, 1, "100"},
-                                                     {100, 0.1 + 0.2, "100.0"},
-                                                     {0.01, 1, "0.01"},
-                                                     {0.0001, 1, "0.000"},
-                                                     {0.00004, 0.01, "0.00004"},
-                                                     {-0.065, 0.005, "-0.065"},
-                                                     {1.25, 0, "1.250000"},
-                                                     {0.0000005, 0.0000001, "0.0000005"}})
-        EXPECT_EQ(DetFormatoVal(c.mhz, c.passo), c.testo) << c.mhz << " by " << c.passo;
+    using Caso = std::tuple<double, double, const char*>;
+    for (const auto& [mhz, passo, testo] :
+         {Caso{0.195, 0.005, "0.195"}, Caso{30, 0.005, "30.000"}, Caso{0.1525, 0.0025, "0.1525"},
+          Caso{100, 1, "100"}, Caso{100, 0.1 + 0.2, "100.0"}, Caso{0.01, 1, "0.01"},
+          Caso{0.0001, 1, "0.000"}, Caso{-0.065, 0.005, "-0.065"}, Caso{1.25, 0, "1.250000"}})
+        EXPECT_EQ(DetFormatoVal(mhz, passo), testo);
     MisuraAperta misura = Misura();
     misura.header.Scan.Righe[0].Step = 0.1;
     EXPECT_EQ(PassoTraccia(misura, 0), 0.15) << "a start off the grid";
@@ -60,13 +52,9 @@ TEST(Marcatori, AFrequencyHasTheDecimalsOfItsStep) {
 
 TEST(Marcatori, TheNearestSampleIsTaken) {
     const MisuraAperta misura = Misura();
-    struct Caso {
-        double mhz;
-        size_t indice;
-    };
-    for (const Caso& c :
-         std::initializer_list<Caso>{{0, 0}, {0.152, 0}, {0.153, 1}, {0.16, 2}, {9, 3}})
-        EXPECT_EQ(CampioneVicino(*misura.traccia, c.mhz), c.indice) << c.mhz;
+    for (const auto& [mhz, indice] :
+         {std::pair(0.0, 0u), std::pair(0.152, 0u), std::pair(0.153, 1u), std::pair(9.0, 3u)})
+        EXPECT_EQ(CampioneVicino(*misura.traccia, mhz), indice) << mhz;
     EXPECT_EQ(CampioneVicino({{.freqMhz = 1}, {.freqMhz = 2}}, 1.5), 0u);
     EXPECT_FALSE(CampioneVicino({}, 1));
     const auto scala = SetScaleGraph({}, 0.1549, 0.1599, true, 1000, 0);
@@ -108,6 +96,9 @@ TEST(Marcatori, ReadLevelsFactorsAndDistances) {
     EXPECT_EQ(delta.frequenza, "-0.015 MHz");
     EXPECT_EQ(delta.livelli[0].testo, "-3.75");
     EXPECT_EQ(LeggiDelta(misura, 0, 2).livelli[1].testo, "---");
+    EXPECT_TRUE(LeggiMarker(misura, setup, 4).livelli.empty() &&
+                LeggiDelta(misura, 4, 0).frequenza.empty())
+        << "of a longer trace";
 }
 
 TEST(Marcatori, AreDrawnWithinTheAxis) {

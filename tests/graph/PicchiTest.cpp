@@ -1,6 +1,8 @@
 // Peaks: what is one, in which order, where the keys and the mouse find it, and its symbol.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "aiuto/SuperficieRegistra.h"
 #include "graph/Picchi.h"
 
@@ -78,24 +80,12 @@ TEST(Picchi, KeysGoFromOneToTheNext) {
     using enum VersoPicco;
     const auto picchi =
         TrovaPicchi(Traccia({40, 60, 40, 70, 40, 65, 40}), DetectorKind::Avg, 9); // 3, 5, 1
-    struct Caso {
-        size_t da;
-        VersoPicco verso;
-        std::optional<size_t> a;
-    };
-    for (const Caso& c : std::initializer_list<Caso>{{1, PiuAlto, 3},
-                                                     {3, PiuAlto, 3},
-                                                     {3, Prossimo, 5},
-                                                     {5, Prossimo, 1},
-                                                     {1, Prossimo, {}},
-                                                     {0, Prossimo, 3},
-                                                     {5, Sinistra, 3},
-                                                     {4, Sinistra, 3},
-                                                     {1, Sinistra, {}},
-                                                     {1, Destra, 3},
-                                                     {99, Destra, {}}})
-        EXPECT_EQ(PiccoDaTastiera(picchi, c.da, c.verso), c.a)
-            << c.da << " " << static_cast<int>(c.verso);
+    using Da = std::tuple<size_t, VersoPicco, std::optional<size_t>>;
+    for (const auto& [da, verso, a] :
+         {Da{1, PiuAlto, 3}, Da{3, PiuAlto, 3}, Da{3, Prossimo, 5}, Da{5, Prossimo, 1},
+          Da{1, Prossimo, {}}, Da{0, Prossimo, 3}, Da{4, Sinistra, 3}, Da{5, Sinistra, 3},
+          Da{1, Sinistra, {}}, Da{1, Destra, 3}, Da{99, Destra, {}}})
+        EXPECT_EQ(PiccoDaTastiera(picchi, da, verso), a) << da << " " << static_cast<int>(verso);
     EXPECT_FALSE(PiccoDaTastiera({}, 0, PiuAlto));
 }
 

@@ -69,148 +69,117 @@ struct MisureVerbiTest : ::testing::Test {
         t.Value = {valore, valore};
         ASSERT_TRUE(SalvaLimFac(s, tabelle, percorso, 1));
     }
-    EsitoVerbo Esegui(const std::string& verbo, const std::vector<std::string>& parole) {
+    /// Words parted by "|", the verb first.
+    EsitoVerbo Esegui(const std::string& riga) {
         dati.str("");
         messaggi.str("");
-        return TrovaVerbo(verbo)->esegui(banco, parole);
+        const auto parole = Dividi(riga, '|');
+        return TrovaVerbo(parole[0])->esegui(banco, std::span(parole).subspan(1));
     }
 };
 
 TEST_F(MisureVerbiTest, PrintWhatTheOptionsPutOnShow) {
+    const std::string traccia = "frequency_mhz,level_db,line";
+    const std::string picchi = "number,frequency_mhz,level_db";
     struct Caso {
-        std::vector<std::string> parole;
+        std::string riga;
         EsitoVerbo esito;
         std::string dati;
     };
     const std::vector<Caso> casi = {
-        {{"trace", "M"},
-         kFatto,
-         "frequency_mhz,level_db,line\n1,30.00,1\n2,49.90,1\n3,30.00,1\n4,53.00,1\n5,30.00,1\n"},
-        {{"trace", "M", "--sub", "L1", "--detector", "q"},
-         kFatto,
-         "frequency_mhz,level_db,line\n1,10.34,1\n"},
-        {{"trace", "M", "--sub", "L1", "--factors", "--unit", "DBUA/M"},
-         kFatto,
-         "frequency_mhz,level_db,line\n1,-29.16,1\n"},
-        {{"trace", "M", "--sub", "L1", "--factor", "loop", "--limit", "wide qp", "--limit",
-          "Above, all"},
-         kFatto,
-         "frequency_mhz,level_db,line,wide qp,delta_wide qp,\"Above, all\",\"delta_Above, all\"\n"
-         "1,22.34,1,60.00,-37.66,,\n"},
-        {{"peaks", "M"},
-         kFatto,
-         "number,frequency_mhz,level_db,Wide QP,delta_Wide QP\n"
-         "1,4,63.00,60.00,3.00\n2,2,59.90,60.00,-0.10\n"},
-        {{"peaks", "M", "--detector", "Q", "--count", "1", "--limit", "none", "--factor", "NONE"},
-         kFatto,
-         "number,frequency_mhz,level_db\n1,4,51.00\n"},
-        {{"peaks", "M", "--to", "3,5", "--limit", "none", "--unit", "dBm"},
-         kFatto,
-         "number,frequency_mhz,level_db\n1,2,-47.10\n"},
-        {{"peaks", "M", "--excursion", "99", "--limit", "none"},
-         kFatto,
-         "number,frequency_mhz,level_db\n"},
-        {{"verdict", "M", "--factor", "none"},
-         kFatto,
+        {"trace|M", kFatto, traccia + "\n1,30.00,1\n2,49.90,1\n3,30.00,1\n4,53.00,1\n5,30.00,1\n"},
+        {"trace|M|--sub|L1|--factors|--unit|DBUA/M|--detector|q", kFatto,
+         traccia + "\n1,-31.16,1\n"},
+        {"trace|M|--sub|L1|--factor|loop|--limit|wide qp|--limit|Above, all", kFatto,
+         traccia + ",wide qp,delta_wide qp,\"Above, all\",\"delta_Above, all\"\n"
+                   "1,22.34,1,60.00,-37.66,,\n"},
+        {"peaks|M", kFatto,
+         picchi + ",Wide QP,delta_Wide QP\n1,4,63.00,60.00,3.00\n2,2,59.90,60.00,-0.10\n"},
+        {"peaks|M|--detector|Q|--count|1|--limit|none|--factor|NONE", kFatto,
+         picchi + "\n1,4,51.00\n"},
+        {"peaks|M|--to|3,5|--limit|none|--unit|dBm", kFatto, picchi + "\n1,2,-47.10\n"},
+        {"peaks|M|--excursion|99|--limit|none", kFatto, picchi + "\n"},
+        {"verdict|M|--factor|none", kFatto,
          "Wide QP\tQPeak\t-9.00 dB\t4 MHz\t51.00 dBµV\t60.00 dBµV\t0 above\tPASS\nPASS\n"},
-        {{"verdict", "M"},
-         kRifiutato,
-         "Wide QP\tQPeak\t+1.00 dB\t4 MHz\t61.00 dBµV/m\t60.00 dBµV/m\t1 above\tFAIL\nFAIL\n"},
-        {{"verdict", "M", "--uncertainty", "1,5", "--limit", "Wide QP:Q"},
-         kRifiutato,
+        {"verdict|M|--uncertainty|1,5|--limit|Wide QP:Q", kRifiutato,
          "Wide QP\tQPeak\t+1.00 dB\t4 MHz\t61.00 dBµV/m\t60.00 dBµV/m\t1 above\tINCONCLUSIVE\n"
          "INCONCLUSIVE\n"},
-        {{"verdict", "M", "--limit", "Wide QP:Peak", "--limit", "Above, all", "--unit", "dBm"},
-         kRifiutato,
+        {"verdict|M|--limit|Wide QP:Peak|--limit|Above, all|--unit|dBm", kRifiutato,
          "Wide QP\tPeak\t+3.00 dB\t4 MHz\t-44.00 dBm\t-47.00 dBm\t1 above\tFAIL\n"
          "Above, all\tPeak\t---\t---\t---\t---\t0 above\t---\nFAIL\n"},
-        {{"verdict", "M", "--limit", "NONE"}, kRifiutato, "---\n"},
+        {"verdict|M|--limit|NONE", kRifiutato, "---\n"},
     };
     for (const Caso& caso : casi) {
-        const std::vector<std::string> resto(caso.parole.begin() + 1, caso.parole.end());
-        EXPECT_EQ(Esegui(caso.parole[0], resto), caso.esito) << Unisci(caso.parole, " ");
-        EXPECT_EQ(dati.str(), caso.dati) << Unisci(caso.parole, " ") << messaggi.str();
+        EXPECT_EQ(Esegui(caso.riga), caso.esito) << caso.riga;
+        EXPECT_EQ(dati.str(), caso.dati) << caso.riga << messaggi.str();
     }
     EXPECT_TRUE(Contiene(messaggi.str(), "nothing to compare: no limit is on"));
 }
 
 TEST_F(MisureVerbiTest, NameWhatIsWrong) {
     struct Caso {
-        std::vector<std::string> parole;
+        std::string riga;
         EsitoVerbo esito;
         std::string perche;
     };
     const std::vector<Caso> casi = {
-        {{"trace"}, kUsoErrato, "wants one MEASURE"},
-        {{"peaks", "M", "M"}, kUsoErrato, "wants one MEASURE"},
-        {{"verdict", "../M"}, kUsoErrato, "is no valid name"},
-        {{"peaks", "X"}, kGuastoFile, "there is no measure Sweep\\X\\X.KSH"},
-        {{"trace", "M", "--sub", "L2"}, kGuastoFile, "there is no sub-measure L2"},
-        {{"peaks", "M", "--detector", "Z"}, kUsoErrato, "unknown detector"},
-        {{"verdict", "M", "--detector", "Q"}, kUsoErrato, "unknown option --detector"},
-        {{"verdict", "M", "--limit", "Wide QP:Z"}, kUsoErrato, "unknown detector"},
-        {{"trace", "M", "--unit", "volt"}, kUsoErrato, "unknown unit \"volt\""},
-        {{"trace", "M", "--unit", "dB"}, kUsoErrato, "unknown unit \"dB\""},
-        {{"trace", "M", "--factors", "--factor", "Loop"}, kUsoErrato, "either"},
-        {{"verdict", "M", "--limit", "..\\X"}, kUsoErrato, "\"..\\X\" is no valid name"},
-        {{"verdict", "M", "--limit", "A", "--limit", "B", "--limit", "C"}, kUsoErrato, "two"},
-        {{"verdict", "M", "--limit", "A"}, kGuastoFile, "there is no table Limits\\A.5SL"},
-        {{"peaks", "M", "--factor", "A"}, kGuastoFile, "there is no table Factors\\A.5SC"},
-        {{"verdict", "M", "--uncertainty", "-1"}, kUsoErrato, "0 to 99"},
-        {{"peaks", "M", "--count", "1.5"}, kUsoErrato, "whole number"},
-        {{"peaks", "M", "--count", "0"}, kUsoErrato, "--count"},
-        {{"peaks", "M", "--from", "2", "--to", "1"}, kUsoErrato, "--from lies above"},
+        {"peaks|M|M", kUsoErrato, "wants one MEASURE"},
+        {"peaks|X", kGuastoFile, "there is no measure Sweep\\X\\X.KSH"},
+        {"trace|M|--sub|L2", kGuastoFile, "there is no sub-measure L2"},
+        {"verdict|M|--limit|Wide QP:Z", kUsoErrato, "unknown detector"},
+        {"trace|M|--unit|dB", kUsoErrato, "unknown unit \"dB\""},
+        {"verdict|M|--limit|..\\X", kUsoErrato, "\"..\\X\" is no valid name"},
+        {"verdict|M|--limit|A|--limit|B|--limit|C", kUsoErrato, "two"},
+        {"verdict|M|--limit|A", kGuastoFile, "there is no table Limits\\A.5SL"},
+        {"peaks|M|--factor|A", kGuastoFile, "there is no table Factors\\A.5SC"},
+        {"verdict|M|--uncertainty|-1", kUsoErrato, "0 to 99"},
+        {"peaks|M|--count|1.5", kUsoErrato, "whole number"},
+        {"peaks|M|--from|2|--to|1", kUsoErrato, "--from lies above"},
     };
     for (const Caso& caso : casi) {
-        const std::vector<std::string> resto(caso.parole.begin() + 1, caso.parole.end());
-        EXPECT_EQ(Esegui(caso.parole[0], resto), caso.esito) << Unisci(caso.parole, " ");
+        EXPECT_EQ(Esegui(caso.riga), caso.esito) << caso.riga;
         EXPECT_TRUE(Contiene(messaggi.str(), caso.perche)) << messaggi.str();
         EXPECT_EQ(dati.str(), "");
     }
-    EXPECT_EQ(Esegui("trace", {"M", "--unit", "dBuV/m"}), kRifiutato);
+    EXPECT_EQ(Esegui("trace|M|--unit|dBuV/m"), kRifiutato);
     EXPECT_TRUE(
         Contiene(b.ambiente.riquadri.back().testo, "Should have an active Conversion Factor"));
 }
 
 TEST_F(MisureVerbiTest, ALimitOfTheMeasureThatIsGoneIsNoSilentPass) {
     s.albero.Cancella(PercorsoLimite("Wide QP"));
-    EXPECT_EQ(Esegui("verdict", {"M"}), kGuastoFile);
+    EXPECT_EQ(Esegui("verdict|M"), kGuastoFile);
     EXPECT_TRUE(Contiene(messaggi.str(), "no verdict without Wide QP"));
     EXPECT_EQ(dati.str(), "");
-    EXPECT_EQ(Esegui("peaks", {"M", "--count", "1"}), kFatto);
+    EXPECT_EQ(Esegui("peaks|M|--count|1"), kFatto);
     EXPECT_EQ(dati.str(), "number,frequency_mhz,level_db\n1,4,63.00\n");
     s.albero.Cancella(PercorsoFattore("Loop"));
-    EXPECT_EQ(Esegui("peaks", {"M"}), kGuastoFile) << "levels would be wrong";
-    EXPECT_EQ(Esegui("trace", {"M"}), kFatto);
+    EXPECT_EQ(Esegui("peaks|M"), kGuastoFile) << "levels would be wrong";
+    EXPECT_EQ(Esegui("trace|M"), kFatto);
 }
 
 TEST_F(MisureVerbiTest, PeaksBecomeAFrequencyTable) {
-    EXPECT_EQ(Esegui("peaks", {"M", "--save-table", "Found"}), kFatto);
-    EXPECT_EQ(Esegui("table", {"show", "Found"}), kFatto);
+    EXPECT_EQ(Esegui("peaks|M|--save-table|Found"), kFatto);
+    EXPECT_EQ(Esegui("table|show|Found"), kFatto);
     EXPECT_EQ(dati.str(), "2\t59.90\n4\t63.00\n");
     b.ambiente.risposte = {Risposta::No};
-    EXPECT_EQ(Esegui("peaks", {"M", "--count", "1", "--save-table", "Found"}), kRifiutato);
-    EXPECT_EQ(Esegui("peaks", {"M", "--excursion", "99", "--save-table", "Other"}), kRifiutato);
-    EXPECT_EQ(Esegui("table", {"show", "Other"}), kGuastoFile);
+    EXPECT_EQ(Esegui("peaks|M|--count|1|--save-table|Found"), kRifiutato);
+    EXPECT_EQ(Esegui("peaks|M|--excursion|99|--save-table|Other"), kRifiutato);
+    EXPECT_EQ(Esegui("table|show|Other"), kGuastoFile);
 }
 
 TEST_F(MisureVerbiTest, TellTheSameAsJson) {
     banco.json = true;
-    Esegui("trace", {"M", "--sub", "L1"});
+    Esegui("trace|M|--sub|L1");
     EXPECT_EQ(dati.str(), "{\"detector\":\"Peak\",\"samples\":[[1,12.34,1]]}\n");
-    Esegui("trace", {"M", "--sub", "L1", "--unit", "dBm", "--limit", "Above, all"});
-    EXPECT_EQ(dati.str(), "{\"detector\":\"Peak\",\"unit\":\"dBm\",\"limits\":[\"Above, all\"],"
-                          "\"samples\":[[1,-94.66,1,null,null]]}\n");
-    Esegui("peaks", {"M", "--count", "1"});
-    EXPECT_EQ(dati.str(),
-              "{\"detector\":\"Peak\",\"unit\":\"dBµV/m\",\"peaks\":[{\"number\":1,"
-              "\"frequency_mhz\":4,\"level\":63,\"limits\":[{\"name\":\"Wide QP\",\"level\":60,"
-              "\"delta\":3}]}]}\n");
-    Esegui("verdict", {"M", "--limit", "Above, all"});
-    EXPECT_EQ(dati.str(), "{\"unit\":\"dBµV/m\",\"uncertainty\":0,\"limits\":[{\"name\":\"Above, "
-                          "all\",\"detector\":\"Peak\",\"delta\":null,\"frequency_mhz\":null,"
-                          "\"level\":null,\"limit\":null,\"above\":0,\"verdict\":\"---\"}],"
-                          "\"verdict\":\"---\"}\n");
+    Esegui("trace|M|--sub|L1|--unit|dBm|--limit|Above, all");
+    EXPECT_TRUE(Contiene(dati.str(), "\"samples\":[[1,-94.66,1,null,null]]}"));
+    Esegui("peaks|M|--count|1");
+    EXPECT_TRUE(Contiene(dati.str(), "\"peaks\":[{\"number\":1,\"frequency_mhz\":4,\"level\":63,"
+                                     "\"limits\":[{\"name\":\"Wide QP\",\"level\":60,"));
+    Esegui("verdict|M|--limit|Above, all");
+    EXPECT_TRUE(Contiene(dati.str(), "\"limit\":null,\"above\":0,\"verdict\":\"---\"}],"
+                                     "\"verdict\":\"---\"}\n"));
 }
 
 TEST_F(MisureVerbiTest, TheArchiveTellsByItsStatusWhatCameOfIt) {
