@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 
 #include "Banco.h"
@@ -16,7 +17,7 @@ class ImmagineUi : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void DialogoScriveERicorda();
-    void GuastoLasciaIlFile();
+    void GuastoSiDice();
     void AppuntiPortanoLImmagine();
 
 private:
@@ -46,7 +47,7 @@ void ImmagineUi::DialogoScriveERicorda() {
     QCOMPARE(Q(riletta.path.Percorsi[3]), file);
 }
 
-void ImmagineUi::GuastoLasciaIlFile() {
+void ImmagineUi::GuastoSiDice() {
     Banco banco;
     Scrivania& s = banco.posto->scrivania;
     const ContenutoQuadro quadro;
