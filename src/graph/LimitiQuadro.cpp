@@ -88,13 +88,15 @@ void ScriviNomiLimiti(Superficie& superficie, const ScalaGrafico& scala,
         std::vector<RettangoloTesto> occupati = nomi;
         occupati.insert(occupati.end(), ingombri.begin(), ingombri.end());
         size_t prima = occupati.size();
-        ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore, tinta.altezzaTesto,
-                         occupati, l.soloFra);
+        const auto scrivi = [&] {
+            ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore,
+                             tinta.altezzaTesto, occupati, l.soloFra, tinta.sfondo);
+        };
+        scrivi();
         if (occupati.size() == prima) {
             occupati = nomi;
             prima = nomi.size();
-            ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore,
-                             tinta.altezzaTesto, occupati, l.soloFra, tinta.sfondo);
+            scrivi();
         }
         nomi.insert(nomi.end(), occupati.begin() + static_cast<std::ptrdiff_t>(prima),
                     occupati.end());

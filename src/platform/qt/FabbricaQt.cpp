@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
+#include "base/Versione.h"
 #include "platform/qt/SuperficieQt.h"
 
 namespace orvane {
@@ -43,6 +44,8 @@ bool InLinee(QIODevice& file, int larghezza, int altezza,
              const std::function<void(Superficie&)>& disegna) {
     QSvgGenerator disegno;
     disegno.setOutputDevice(&file);
+    disegno.setTitle(QLatin1String(kNomeProgramma));
+    disegno.setDescription(QString());
     disegno.setSize({larghezza, altezza});
     disegno.setViewBox(QRect(0, 0, larghezza, altezza));
     disegno.setResolution(kPuntiPollice);
@@ -54,7 +57,7 @@ bool InLinee(QIODevice& file, int larghezza, int altezza,
 
 QImage DipingiImmagine(int larghezza, int altezza,
                        const std::function<void(Superficie&)>& disegna) {
-    QImage immagine(larghezza, altezza, QImage::Format_RGB888);
+    QImage immagine(larghezza, altezza, QImage::Format_RGB32);
     if (immagine.isNull())
         return immagine;
     immagine.fill(Qt::white);

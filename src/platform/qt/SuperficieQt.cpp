@@ -4,10 +4,14 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPaintEngine>
 #include <QPen>
 #include <algorithm>
 #include <cmath>
 #include <vector>
+
+#include "platform/qt/ColonneImmagine.h"
+#include "platform/qt/RitaglioLinee.h"
 
 #if defined(__x86_64__) || defined(__i386__)
 #include <immintrin.h>
@@ -113,7 +117,7 @@ QColor ColoreQt(int32_t colore) {
 
 SuperficieQt::SuperficieQt(QPainter& painter, double larghezza, double altezza)
     : painter_(painter), larghezza_(larghezza), altezza_(altezza),
-      dispositivo_(painter.deviceTransform()) {
+      dispositivo_(painter.deviceTransform()), ritaglioAltrui_(painter.hasClipping()) {
     // A mirrored or turned painter has no such pixels; it draws as it comes.
     if (dispositivo_.m11() > 0 && dispositivo_.m22() > 0) {
         orizzontale_ = {.scala = dispositivo_.m11(), .inizio = dispositivo_.dx()};
@@ -124,7 +128,7 @@ SuperficieQt::SuperficieQt(QPainter& painter, double larghezza, double altezza)
 }
 
 SuperficieQt::~SuperficieQt() {
-    while (ritagli_ > 0)
+    while (!ritagli_.empty())
         FineRitaglio();
     LiberaRegistri();
 }
@@ -184,6 +188,15 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
         pixel.push_back(Pixel(p));
     painter_.setPen(PennaQt(penna));
     painter_.setBrush(Qt::NoBrush);
+    // A drawing of lines is written without its clip.
+    if (!ritagli_.empty() && painter_.paintEngine()->type() == QPaintEngine::SVG)
+        for (const auto& pezzo : RitagliaSpezzata(pixel, QRectF(ritagli_.back())))
+            Traccia(pezzo, penna);
+    else
+        Traccia(pixel, penna);
+}
+
+void SuperficieQt::Traccia(std::span<const QPointF> pixel, const Penna& penna) {
     // Qt strokes a wide line as one shape, at a cost that grows with the square of its points. The
     // pieces share a segment, so that the joint between them is round too.
     const bool larga = penna.larghezza * orizzontale_.scala > 1 && penna.tratto == Tratto::Pieno;
@@ -191,6 +204,56 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
     for (size_t i = 0; i + 1 < pixel.size(); i += pezzo)
         painter_.drawPolyline(pixel.data() + i,
                               static_cast<int>(std::min(pezzo + 2, pixel.size() - i)));
+}
+
+/// The image under the painter, where its pixels lie open and nothing comes between.
+const QImage* SuperficieQt::ImmagineDiretta() const {
+    const QPaintEngine* motore = painter_.paintEngine();
+    if (!motore || motore->type() != QPaintEngine::Raster || !motore->paintDevice() ||
+        motore->paintDevice()->devType() != QInternal::Image ||
+        dispositivo_.type() > QTransform::TxScale || ritaglioAltrui_ || painter_.opacity() != 1 ||
+        painter_.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return nullptr;
+    const auto* immagine = static_cast<const QImage*>(motore->paintDevice());
+    return AccettaColonne(*immagine) ? immagine : nullptr;
+}
+
+/// What may be written of it; empty where that is not a rectangle.
+std::optional<QRect> SuperficieQt::RitaglioDiretto(const QImage& immagine) const {
+    const QRegion sistema = painter_.paintEngine()->systemClip();
+    if (sistema.rectCount() > 1)
+        return std::nullopt;
+    QRect aperto = immagine.rect();
+    if (!sistema.isEmpty())
+        aperto &= sistema.boundingRect();
+    return ritagli_.empty() ? aperto : aperto & ritagli_.back();
+}
+
+bool SuperficieQt::Colonne(double sinistra, double passo, std::span<const TrattoColonna> colonne,
+                           const Penna& penna) {
+    constexpr double kScarto = 1e-6;
+    const QImage* immagine = ImmagineDiretta();
+    const double largo = passo * scalaX_ * orizzontale_.scala;
+    if (!immagine || penna.tratto != Tratto::Pieno || std::abs(largo - 1) > kScarto)
+        return false;
+    const auto ritaglio = RitaglioDiretto(*immagine);
+    if (!ritaglio)
+        return false;
+    std::vector<ColonnaPixel> pixel;
+    pixel.reserve(colonne.size());
+    const auto y = [&](double v) {
+        return (v - origine_.y) * scalaY_ * verticale_.scala + verticale_.inizio;
+    };
+    for (const TrattoColonna& c : colonne) {
+        const auto [alto, basso] = std::minmax({y(c.minimo), y(c.massimo)});
+        pixel.push_back({.alto = alto, .basso = basso, .entra = y(c.entra), .esce = y(c.esce)});
+    }
+    const double x = (sinistra - origine_.x) * scalaX_ * orizzontale_.scala + orizzontale_.inizio;
+    LiberaRegistri();
+    DipingiColonne(*immagine, *ritaglio, static_cast<int>(std::lround(x)), pixel,
+                   ColoreQt(penna.colore).rgb(), penna.larghezza * verticale_.scala,
+                   painter_.testRenderHint(QPainter::Antialiasing));
+    return true;
 }
 
 QRectF SuperficieQt::RettangoloPixel(Punto angolo, Punto opposto) const {
@@ -256,16 +319,18 @@ Punto SuperficieQt::DimensionePassoFisso(const std::string& testo, double altezz
 }
 
 void SuperficieQt::Ritaglio(Punto angolo, Punto opposto) {
+    const QRectF dove = RettangoloPixel(angolo, opposto);
     painter_.save();
-    painter_.setClipRect(RettangoloPixel(angolo, opposto), Qt::IntersectClip);
-    ++ritagli_;
+    painter_.setClipRect(dove, Qt::IntersectClip);
+    const QRect pixel = dispositivo_.mapRect(dove).toRect();
+    ritagli_.push_back(ritagli_.empty() ? pixel : pixel & ritagli_.back());
 }
 
 void SuperficieQt::FineRitaglio() {
-    if (ritagli_ == 0)
+    if (ritagli_.empty())
         return;
     painter_.restore();
-    --ritagli_;
+    ritagli_.pop_back();
 }
 
 } // namespace orvane
