@@ -11,6 +11,7 @@ namespace orvane {
 namespace {
 
 // In heights of the letters.
+constexpr double kSopra = 0.5;
 constexpr double kAltezzaRiga = 1.9;
 constexpr double kMargineInsegna = 0.6;
 constexpr double kStaccoInsegna = 0.35; ///< above and below the ground of a badge, together
@@ -32,11 +33,11 @@ std::vector<PezzoTestata> Legenda(const ContenutoQuadro& contenuto, const StileQ
         return pezzi;
     for (const StratoQuadro& strato : strati) {
         if (!strato.nome.empty())
-            pezzi.push_back({.testo = strato.nome, .colore = stile.tinta.scritte});
+            pezzi.push_back({.testo = strato.nome, .colore = stile.inchiostro});
         for (size_t d = 0; d < kNumDetector; ++d)
             if (strato.detector[d])
                 pezzi.push_back({.testo = kNomiDetector[d],
-                                 .colore = stile.tinta.scritte,
+                                 .colore = stile.inchiostro,
                                  .tratto = strato.colori[d]});
     }
     return pezzi;
@@ -48,15 +49,14 @@ PezzoTestata Insegna(Giudizio giudizio, const std::string& testo) {
 }
 
 /// The verdict in one word, then each limit.
-std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const SetupRecord& setup,
-                                  const StileQuadro& stile) {
+std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const StileQuadro& stile) {
     const Verdetto& verdetto = contenuto.verdetto;
     if (!stile.verdetto || verdetto.insieme == Giudizio::Nessuno)
         return {};
     std::vector<PezzoTestata> pezzi = {Insegna(verdetto.insieme, TestoGiudizio(verdetto.insieme))};
     for (const VerdettoLimite& v : verdetto.limiti)
         if (v.giudizio != Giudizio::Nessuno)
-            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura, setup)));
+            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
     return pezzi;
 }
 
@@ -105,13 +105,13 @@ void SpingiADestra(std::span<PezzoTestata> pezzi, double destra) {
     }
 }
 
-void Disegna(Superficie& superficie, const PezzoTestata& p, double altezzaRiga,
+void Disegna(Superficie& superficie, const PezzoTestata& p, const TestataQuadro& testata,
              const StileQuadro& stile) {
     const double lettera = stile.tinta.altezzaTesto;
-    const double y = (static_cast<double>(p.riga) + 0.5) * altezzaRiga;
+    const double y = testata.sopra + (static_cast<double>(p.riga) + 0.5) * testata.altezzaRiga;
     double x = p.x;
     if (p.fondo) {
-        const double mezza = (altezzaRiga - kStaccoInsegna * lettera) / 2;
+        const double mezza = (testata.altezzaRiga - kStaccoInsegna * lettera) / 2;
         superficie.Rettangolo({p.x, y - mezza}, {p.x + p.larghezza, y + mezza}, *p.fondo, 1);
         x += kMargineInsegna * lettera;
     }
@@ -126,21 +126,20 @@ void Disegna(Superficie& superficie, const PezzoTestata& p, double altezzaRiga,
 
 } // namespace
 
-std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura,
-                         const SetupRecord& setup) {
+std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura) {
     const double delta = verdetto.Delta();
+    const double passo = PassoTraccia(misura, verdetto.indice);
     return std::string(kSigle[static_cast<size_t>(verdetto.detector)]) + (delta > 0 ? " +" : " ") +
-           TestoFisso(delta, 1) + " dB at " + LeggiMarker(misura, setup, verdetto.indice).frequenza;
+           TestoFisso(delta, 1) + " dB at " + DetFormatoVal(verdetto.freqMhz, passo) + " MHz";
 }
 
 TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro& contenuto,
-                             const SetupRecord& setup, const StileQuadro& stile, double sinistra,
-                             double destra) {
+                             const StileQuadro& stile, double sinistra, double destra) {
     const double lettera = stile.tinta.altezzaTesto;
     const double aria = kFraPezzi * lettera;
     TestataQuadro testata{.altezzaRiga = std::ceil(kAltezzaRiga * lettera)};
     testata.pezzi = Legenda(contenuto, stile);
-    std::vector<PezzoTestata> insegne = Insegne(contenuto, setup, stile);
+    std::vector<PezzoTestata> insegne = Insegne(contenuto, stile);
     Misura(superficie, testata.pezzi, lettera);
     Misura(superficie, insegne, lettera);
     const bool insieme = Somma(testata.pezzi, aria) + Somma(insegne, aria) <= destra - sinistra;
@@ -148,7 +147,9 @@ TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro
     const size_t fine = VaiACapo(insegne, insieme ? 0 : dopo, sinistra, destra, aria / 2);
     SpingiADestra(insegne, destra);
     testata.pezzi.insert(testata.pezzi.end(), insegne.begin(), insegne.end());
-    testata.altezza = static_cast<double>(std::max(dopo, fine)) * testata.altezzaRiga;
+    const double righe = static_cast<double>(std::max(dopo, fine));
+    testata.sopra = std::ceil(kSopra * lettera);
+    testata.altezza = righe > 0 ? righe * testata.altezzaRiga + testata.sopra : 0;
     return testata;
 }
 
@@ -156,7 +157,7 @@ void DisegnaTestata(Superficie& superficie, const TestataQuadro& testata,
                     const StileQuadro& stile) {
     superficie.Scala(0, 0, superficie.LarghezzaPixel(), superficie.AltezzaPixel());
     for (const PezzoTestata& p : testata.pezzi)
-        Disegna(superficie, p, testata.altezzaRiga, stile);
+        Disegna(superficie, p, testata, stile);
 }
 
 } // namespace orvane
