@@ -1,4 +1,5 @@
 #include "data/CaricaSalva.h"
+#include "data/NomiTabelle.h"
 
 #include <algorithm>
 
@@ -14,7 +15,6 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view kNessuno = "NONE";
 constexpr size_t kPercorsoComune = 2;
 
 Risposta Chiedi(const Scrivania& s, const std::string& testo) {
@@ -37,7 +37,7 @@ std::string NomeNudo(const RichiestaFile& richiesta, std::string_view nome) {
 bool NomeDaSalvare(const std::string& nome) {
     const auto controllo = [](char c) { return static_cast<unsigned char>(c) < 0x20; };
     // A record could not name a file with letters from outside the code page.
-    return NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, kNessuno) && NellaPagina(nome) &&
+    return NomeTabellaAmmesso(nome) && NominaTabella(nome) && NellaPagina(nome) &&
            ControllaNomeMisura(nome) == nome && std::none_of(nome.begin(), nome.end(), controllo);
 }
 

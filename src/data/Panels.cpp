@@ -1,4 +1,5 @@
 #include "data/Panels.h"
+#include "data/NomiTabelle.h"
 
 #include <vector>
 
@@ -12,7 +13,6 @@ namespace orvane {
 namespace {
 
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
-constexpr std::string_view kNessuno = "NONE";
 
 void ImpostaEnvDefault(EnvRecord& env) {
     env.LinkKind = 1;
@@ -156,8 +156,8 @@ SetupRecord SetupDefault() {
     setup.GX2207FFTSwept = 0;
     setup.CheckSweepArchiveSize = -1;
     setup.InsLossRef = 2.0f;
-    setup.LimitName.fill(std::string(kNessuno));
-    setup.FactorName.fill(std::string(kNessuno));
+    setup.LimitName.fill(std::string(kNessunaTabella));
+    setup.FactorName.fill(std::string(kNessunaTabella));
     return setup;
 }
 

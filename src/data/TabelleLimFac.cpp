@@ -1,4 +1,5 @@
 #include "data/TabelleLimFac.h"
+#include "data/NomiTabelle.h"
 
 #include "base/Percorsi.h"
 #include "base/Testo.h"
@@ -10,8 +11,6 @@
 
 namespace orvane {
 namespace {
-
-constexpr std::string_view kNessuno = "NONE";
 
 std::string_view CartellaSlot(int slot) {
     return slot < kPrimoFattore ? cartella::kLimits : cartella::kFactors;
@@ -53,7 +52,7 @@ bool CaricaLimFac(Scrivania& s, TabelleLimFac& tabelle, std::string_view nome, i
     dove = {};
     const std::string percorso = ConCartella(nome, slot);
     s.albero.AssicuraCartella(CartellaSlot(slot));
-    if (UgualiSenzaMaiuscole(EstraiNomeFile(percorso), kNessuno) || !s.albero.Esiste(percorso))
+    if (!NominaTabella(EstraiNomeFile(percorso)) || !s.albero.Esiste(percorso))
         return false;
     auto dati = s.albero.Leggi(percorso, kByteLimFac + 1);
     if (!dati)
@@ -81,18 +80,8 @@ bool SalvaLimFac(const Scrivania& s, const TabelleLimFac& tabelle, std::string_v
     return SalvaFileRecord(s, ConCartella(nome, slot), tabelle.slot.at(static_cast<size_t>(slot)));
 }
 
-std::vector<std::string> NomiTabelle(const Scrivania& s, std::string_view cartella,
-                                     std::string_view estensione) {
-    std::vector<std::string> nomi;
-    for (const std::string& file : s.albero.ElencaFile(cartella, estensione))
-        nomi.push_back(RimuoviEstensione(file));
-    return nomi;
-}
-
-std::vector<std::string> CompilaCBXLimits(const Scrivania& s) {
-    std::vector<std::string> voci = NomiTabelle(s, cartella::kLimits, "5SL");
-    voci.insert(voci.begin(), std::string(kNessuno));
-    return voci;
+std::vector<std::string> CompilaCBXLimits(const AlberoDati& albero) {
+    return VociTabelle(albero, cartella::kLimits, "5SL");
 }
 
 } // namespace orvane

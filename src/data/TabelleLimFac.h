@@ -44,9 +44,6 @@ bool SalvaLimFac(const Scrivania& s, const TabelleLimFac& tabelle, std::string_v
                  int slot);
 
 /// "NONE", then the base names of "Limits\*.5SL".
-std::vector<std::string> CompilaCBXLimits(const Scrivania& s);
-/// Base names of the files of a directory, without "NONE".
-std::vector<std::string> NomiTabelle(const Scrivania& s, std::string_view cartella,
-                                     std::string_view estensione);
+std::vector<std::string> CompilaCBXLimits(const AlberoDati& albero);
 
 } // namespace orvane

@@ -6,6 +6,7 @@
 #include "data/ControllaRecord.h"
 #include "data/ControllaTabelle.h"
 #include "data/Interpolazione.h"
+#include "data/NomiTabelle.h"
 #include "setup/ListaFrequenze.h"
 
 namespace orvane {
@@ -23,8 +24,8 @@ bool LeggiHeader(Scrivania& s, const std::string& nome, SweepHeader& header) {
     return false;
 }
 
-/// A table by its name: the measure's copy of it, or else the one in the data tree. Empty, and
-/// nothing told, where there is none.
+} // namespace
+
 LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
                           const std::string& locale) {
     LimFacRecord tabella;
@@ -41,12 +42,6 @@ LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
     return tabella;
 }
 
-bool Nominata(const std::string& nome) {
-    return !Rifila(nome).empty() && !UgualiSenzaMaiuscole(Rifila(nome), "NONE");
-}
-
-} // namespace
-
 void CampoDellaTabella(const ScanTable& tabella, double& startMhz, double& stopMhz) {
     startMhz = stopMhz = 0;
     for (const ScanLine& riga : tabella) {
@@ -61,11 +56,11 @@ void CaricaTabelleMisura(Scrivania& s, const std::string& misura, const SetupRec
                          TabelleLimFac& tabelle) {
     tabelle = {};
     for (size_t i = 0; i < kLimitiMostrati; ++i)
-        if (Nominata(setup.LimitName[i]))
+        if (NominaTabella(setup.LimitName[i]))
             tabelle.slot[kPrimoLimite + i] =
                 CercaTabella(s, misura, PercorsoLimite(Rifila(setup.LimitName[i])));
     for (size_t i = 0; i < kNumFattori; ++i)
-        if (Nominata(setup.FactorName[i]))
+        if (NominaTabella(setup.FactorName[i]))
             tabelle.slot[kPrimoFattore + i] =
                 CercaTabella(s, misura, PercorsoFattore(Rifila(setup.FactorName[i])));
 }

@@ -40,6 +40,10 @@ MisuraAperta ApriMisura(Scrivania& s, const std::string& nome);
 void CaricaTabelleMisura(Scrivania& s, const std::string& misura, const SetupRecord& setup,
                          TabelleLimFac& tabelle);
 
+/// A table by its path, such as `PercorsoLimite` gives it: the measure's copy, or else the one in
+/// the data tree. Empty, and nothing told, where there is none.
+LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura, const std::string& locale);
+
 /// Reads the trace of `base` again, merged by `detector` (the first that was measured without one),
 /// and adds the factors that `setup` has on.
 void CaricaTracciaMisura(Scrivania& s, MisuraAperta& misura, const SetupRecord& setup,

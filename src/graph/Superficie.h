@@ -52,6 +52,15 @@ struct Superficie {
                        double altezza) = 0;
     /// Width and height of a text, in pixels.
     virtual Punto DimensioneTesto(const std::string& testo, double altezza) const = 0;
+    /// The same in the fixed-pitch face, each letter as wide as the next; a surface that has none
+    /// writes in the face of `Testo`.
+    virtual void TestoPassoFisso(Punto dove, Ancora ancora, const std::string& testo,
+                                 int32_t colore, double altezza) {
+        Testo(dove, ancora, testo, colore, altezza);
+    }
+    virtual Punto DimensionePassoFisso(const std::string& testo, double altezza) const {
+        return DimensioneTesto(testo, altezza);
+    }
     /// What is drawn from here on shows only inside this rectangle; `FineRitaglio` ends it.
     virtual void Ritaglio(Punto angolo, Punto opposto) = 0;
     virtual void FineRitaglio() = 0;

@@ -241,18 +241,6 @@ void ImpostaRadiato(Ricevitore& r) {
     ImpostaGamma(r, true, Radiato, RadiatoOem);
 }
 
-void ImpostaQDSW3(Ricevitore& r, int codice) {
-    Imposta(r, QDSW3, TestoIntero(codice));
-}
-
-void ImpostaLisn(Ricevitore& r, int codice) {
-    Imposta(r, Lisn, TestoIntero(codice));
-}
-
-void ImpostaLisn3360(Ricevitore& r, int codice) {
-    Imposta(r, Lisn3360, TestoIntero(codice));
-}
-
 void DisabilitaCF(Ricevitore& r) {
     Imposta(r, Impostazione::DisabilitaCF);
 }

@@ -117,9 +117,6 @@ void ImpostaIngressoGX2207(Ricevitore& r, bool altaImpedenza);
 void ImpostaTrackingGX2207(Ricevitore& r, int modo); ///< 0, 1 or 2
 void ImpostaCondotto(Ricevitore& r); ///< by model: #S3PRC*, or #SCO6C* where it is not set yet
 void ImpostaRadiato(Ricevitore& r);
-void ImpostaQDSW3(Ricevitore& r, int codice);
-void ImpostaLisn(Ricevitore& r, int codice);
-void ImpostaLisn3360(Ricevitore& r, int codice);
 void DisabilitaCF(Ricevitore& r);
 void ImpostaBreak(Ricevitore& r);
 void StopSweep(Ricevitore& r);

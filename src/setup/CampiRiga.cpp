@@ -6,6 +6,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "data/NomiTabelle.h"
 #include "setup/ModificaTabella.h"
 #include "setup/RegoleRiga.h"
 #include "setup/TabellaScan.h"
@@ -13,12 +14,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view kNessuno = "NONE";
 constexpr std::string_view kNessunaVoce = "-";
-
-bool Nessuno(std::string_view testo) {
-    return Rifila(testo).empty() || UgualiSenzaMaiuscole(Rifila(testo), kNessuno);
-}
 
 std::optional<bool> OnOff(std::string_view testo) {
     const std::string parola = Rifila(testo);
@@ -80,8 +76,8 @@ std::string TestoTabella(const ScanLine& riga) {
     return riga.FreqTable;
 }
 bool LeggiTabella(ScanLine& riga, std::string_view testo, int) {
-    riga.FreqTable = Nessuno(testo) ? kNessuno : Rifila(testo);
-    ModificaStepMode(riga, Nessuno(testo) ? 0 : 1);
+    riga.FreqTable = NominaTabella(testo) ? Rifila(testo) : std::string(kNessunaTabella);
+    ModificaStepMode(riga, NominaTabella(testo) ? 1 : 0);
     return true;
 }
 
@@ -137,8 +133,8 @@ template <CoppiaLimite Coppia> std::string TestoLimite(const ScanLine& riga) {
     return Coppia == CoppiaLimite::Prima ? riga.Limit : riga.LimitDSD;
 }
 template <CoppiaLimite Coppia> bool LeggiLimite(ScanLine& riga, std::string_view testo, int) {
-    NomeLimite(riga, Coppia) = Nessuno(testo) ? kNessuno : Rifila(testo);
-    LimiteAcceso(riga, Coppia) = Nessuno(testo) ? 0 : 1;
+    NomeLimite(riga, Coppia) = NominaTabella(testo) ? Rifila(testo) : std::string(kNessunaTabella);
+    LimiteAcceso(riga, Coppia) = NominaTabella(testo) ? 1 : 0;
     return true;
 }
 
@@ -163,8 +159,9 @@ std::string NomiAccesi(std::span<const int16_t> flag, std::span<const std::strin
 bool LeggiNomi(std::span<int16_t> flag, std::string_view testo,
                std::span<const std::string_view> nomi, std::span<const std::string_view> altri) {
     std::vector<int16_t> letti(flag.size());
-    const auto voci = Nessuno(testo) || Rifila(testo) == kNessunaVoce ? std::vector<std::string>{}
-                                                                      : Dividi(testo, ',');
+    const auto voci = !NominaTabella(testo) || Rifila(testo) == kNessunaVoce
+                          ? std::vector<std::string>{}
+                          : Dividi(testo, ',');
     for (const std::string& voce : voci) {
         const auto suo = [&](std::string_view nome) {
             return UgualiSenzaMaiuscole(nome, Rifila(voce));

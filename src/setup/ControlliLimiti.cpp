@@ -5,6 +5,7 @@
 #include "base/Testo.h"
 #include "data/Interpolazione.h"
 #include "data/LimitiSmart.h"
+#include "data/NomiTabelle.h"
 #include "records/Unita.h"
 #include "setup/ElencoControlli.h"
 #include "setup/FattoriSweep.h"
@@ -17,8 +18,7 @@ constexpr size_t kMaxLimiti = 5;
 
 /// Name of a limit that is switched on; empty for "NONE".
 std::string NomeAttivo(int16_t acceso, const std::string& nome) {
-    const std::string pulito = Rifila(nome);
-    return acceso == 1 && !UgualiSenzaMaiuscole(pulito, "NONE") ? pulito : std::string();
+    return acceso == 1 && NominaTabella(nome) ? Rifila(nome) : std::string();
 }
 
 struct LimitiDellaRiga {

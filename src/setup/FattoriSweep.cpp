@@ -7,6 +7,7 @@
 #include "base/Testo.h"
 #include "data/CaricamentoTabelle.h"
 #include "data/Interpolazione.h"
+#include "data/NomiTabelle.h"
 
 namespace orvane {
 namespace {
@@ -53,9 +54,8 @@ bool InviaConAttesa(Ricevitore& r, std::span<const ComandoPronto> comandi) {
 std::vector<FactorTable> FattoriInUso(const AlberoDati& albero, const SetupRecord& setup) {
     std::vector<FactorTable> fattori;
     for (size_t i = 0; i < setup.FactorOn.size(); ++i) {
-        const std::string nome = Rifila(setup.FactorName[i]);
-        if (setup.FactorOn[i] == 1 && !nome.empty() && nome != "NONE")
-            fattori.push_back(FattoreDaNome(albero, nome));
+        if (setup.FactorOn[i] == 1 && NominaTabella(setup.FactorName[i]))
+            fattori.push_back(FattoreDaNome(albero, Rifila(setup.FactorName[i])));
     }
     return fattori;
 }

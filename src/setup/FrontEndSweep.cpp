@@ -80,7 +80,7 @@ bool ControllaGX2207FFTSwept(Ricevitore& r, const ScanTable& tabella) {
     if (!modo)
         return true;
     // No query tells in which of the two the unit is: it is told each time.
-    if (!Setta(r, *modo))
+    if (!(*modo == Impostazione::FFT ? SettaGX2207FFT(r) : SettaGX2207Swept(r)))
         return false;
     LeggiModello(r, Modalita::Sweep, 1);
     return !r.stato.AbbandonaComandi;

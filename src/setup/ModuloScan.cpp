@@ -4,24 +4,15 @@
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/Cartelle.h"
+#include "data/NomiTabelle.h"
 #include "setup/Controlli.h"
 #include "setup/ModificaTabella.h"
 
 namespace orvane {
 namespace {
 
-constexpr std::string_view kNessuno = "NONE";
-
 bool EsisteFreqTable(const AlberoDati& albero, std::string_view nome) {
     return albero.Esiste(std::string(cartella::kTable) + std::string(nome) + ".5SF");
-}
-
-std::vector<std::string> NessunoENomi(const AlberoDati& albero, std::string_view dove,
-                                      std::string_view estensione) {
-    std::vector<std::string> voci = {std::string(kNessuno)};
-    for (const std::string& file : albero.ElencaFile(dove, estensione))
-        voci.push_back(RimuoviEstensione(file));
-    return voci;
 }
 
 /// A Smart line takes no linear limit: the pair returns to what is stored, and goes off.
@@ -38,8 +29,7 @@ std::optional<Riquadro> ControllaLimLin(ModuloScan& modulo, CoppiaLimite coppia)
 bool LimiteLineareScelto(const ModuloScan& modulo, CoppiaLimite coppia) {
     const std::string& nome =
         coppia == CoppiaLimite::Prima ? modulo.riga.Limit : modulo.riga.LimitDSD;
-    return !nome.empty() && !UgualiSenzaMaiuscole(nome, kNessuno) &&
-           LimiteLineare(LimiteDaNome(modulo.albero, nome));
+    return NominaTabella(nome) && LimiteLineare(LimiteDaNome(modulo.albero, nome));
 }
 
 bool LimiteVietaSmart(const ModuloScan& modulo) {
@@ -74,7 +64,7 @@ std::optional<Riquadro> ScegliSmart(ModuloScan& modulo, bool acceso) {
 
 std::optional<Riquadro> ScegliLimite(ModuloScan& modulo, CoppiaLimite coppia,
                                      std::string_view nome) {
-    NomeLimite(modulo.riga, coppia) = nome.empty() ? kNessuno : nome;
+    NomeLimite(modulo.riga, coppia) = nome.empty() ? kNessunaTabella : nome;
     return ControllaLimLin(modulo, coppia);
 }
 
@@ -85,9 +75,9 @@ std::optional<Riquadro> AccendiLimite(ModuloScan& modulo, CoppiaLimite coppia, b
 
 std::optional<Riquadro> ScegliFreqTable(ModuloScan& modulo, std::string_view nome) {
     const std::string chiesta(nome);
-    const bool nessuna = nome.empty() || UgualiSenzaMaiuscole(nome, kNessuno);
+    const bool nessuna = !NominaTabella(nome);
     const bool trovata = !nessuna && EsisteFreqTable(modulo.albero, nome);
-    modulo.riga.FreqTable = trovata ? chiesta : std::string(kNessuno);
+    modulo.riga.FreqTable = trovata ? chiesta : std::string(kNessunaTabella);
     if (nessuna || trovata)
         return std::nullopt;
     return Riquadro{.testo = "Frequency table " + chiesta + "  not found",
@@ -111,11 +101,11 @@ void ScriviPrompt(ModuloScan& modulo, std::string_view testo) {
 }
 
 std::vector<std::string> ElencoFreqTable(const AlberoDati& albero) {
-    return NessunoENomi(albero, cartella::kTable, "5SF");
+    return VociTabelle(albero, cartella::kTable, "5SF");
 }
 
 std::vector<std::string> CompilaCBXLimiti(const AlberoDati& albero) {
-    return NessunoENomi(albero, cartella::kLimits, "5SL");
+    return VociTabelle(albero, cartella::kLimits, "5SL");
 }
 
 std::optional<Riquadro> ChiudiModulo(const ModuloScan& modulo, ScanLine& destinazione) {

@@ -5,14 +5,13 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "data/NomiTabelle.h"
 #include "setup/ModificaTabella.h"
 #include "setup/NumeroScalato.h"
 #include "setup/TabellaScan.h"
 
 namespace orvane {
 namespace {
-
-constexpr std::string_view kNessunLimite = "NONE";
 
 const VoceUnitaPasso& Voce(UnitaPasso unita) {
     return kUnitaPasso[static_cast<size_t>(unita)];
@@ -129,8 +128,7 @@ std::string& NomeLimite(ScanLine& riga, CoppiaLimite coppia) {
 bool LimiteScelto(const ScanLine& riga, CoppiaLimite coppia) {
     const bool prima = coppia == CoppiaLimite::Prima;
     const std::string& nome = prima ? riga.Limit : riga.LimitDSD;
-    return (prima ? riga.LimitOn : riga.LimitDSDOn) == 1 && !nome.empty() &&
-           !UgualiSenzaMaiuscole(nome, kNessunLimite);
+    return (prima ? riga.LimitOn : riga.LimitDSDOn) == 1 && NominaTabella(nome);
 }
 
 bool ControllaSelLimSD(const ScanLine& riga) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "data/Misure.h"
+#include "data/NomiTabelle.h"
 
 namespace orvane {
 namespace {
@@ -44,20 +45,20 @@ void ImpostaLineaDefault(ScanLine& riga, int ancillaryKind) {
     riga.PreAmp = 0;
     riga.StepMode = 0;
     riga.AutoStep = 1;
-    riga.FreqTable = "NONE";
+    riga.FreqTable = kNessunaTabella;
     riga.MinAtt = 1;
     riga.HoldTime = 0;
     riga.Margin = 0;
     riga.Smart = 0;
     riga.Detector = {1};
     riga.LimitOn = 0;
-    riga.Limit = "NONE";
+    riga.Limit = kNessunaTabella;
     riga.PromptOn = 0;
     riga.Prompt.clear();
     riga.NumStepFT = 0;
     riga.HoldTimeSD = 0;
     riga.LimitDSDOn = 0;
-    riga.LimitDSD = "NONE";
+    riga.LimitDSD = kNessunaTabella;
     ImpostaAncillaryDefault(riga, ancillaryKind);
 }
 

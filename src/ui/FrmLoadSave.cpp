@@ -9,6 +9,7 @@
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/FileTabelle.h"
+#include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "ui/Moduli.h"
 #include "ui/StileConsole.h"
@@ -198,7 +199,7 @@ void FrmLoadSave::Elenca() {
     const QSignalBlocker zitta(lista_);
     lista_->clear();
     for (const std::string& nome :
-         NomiTabelle(console_.scrivania, richiesta_.cartella, richiesta_.estensione))
+         NomiTabelle(console_.scrivania.albero, richiesta_.cartella, richiesta_.estensione))
         lista_->addItem(Q(nome));
     if (modo_ == Modo::Carica && lista_->count() > 0)
         lista_->setCurrentRow(0);

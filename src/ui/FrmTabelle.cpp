@@ -4,6 +4,7 @@
 
 #include "base/Testo.h"
 #include "data/Cartelle.h"
+#include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "ui/Moduli.h"
 #include "ui/Testi.h"
@@ -11,17 +12,12 @@
 namespace orvane {
 namespace {
 
-constexpr const char* kNessuno = "NONE";
 constexpr size_t kMinimoVisibili = 2;
 constexpr const char* kSenzaTabella = "Choose a table first";
 
-bool Vuoto(const std::string& nome) {
-    return nome.empty() || UgualiSenzaMaiuscole(nome, kNessuno);
-}
-
 /// The row of a name; a table that is gone keeps its name, at the end.
 size_t RigaDelNome(QStringList& nomi, const std::string& nome) {
-    if (Vuoto(nome))
+    if (!NominaTabella(nome))
         return 0;
     for (qsizetype i = 1; i < nomi.size(); ++i)
         if (nomi[i].compare(Q(nome), Qt::CaseInsensitive) == 0)
@@ -99,7 +95,7 @@ int16_t& FrmTabelle::Acceso(size_t slot) const {
 /// What is chosen is in use.
 void FrmTabelle::Scegli(size_t slot, const QString& nome) {
     Nome(slot) = S(nome);
-    Acceso(slot) = Vuoto(Nome(slot)) ? 0 : 1;
+    Acceso(slot) = !NominaTabella(Nome(slot)) ? 0 : 1;
     scrittura_.scritto(genere_.codice);
 }
 
@@ -120,14 +116,14 @@ void FrmTabelle::CaricaRiga(size_t slot, const QStringList& nomi) {
 }
 
 void FrmTabelle::Carica() {
-    QStringList nomi = {QLatin1String(kNessuno)};
+    QStringList nomi;
     for (const std::string& nome :
-         NomiTabelle(scrittura_.scrivania, genere_.cartella, genere_.estensione))
+         VociTabelle(scrittura_.scrivania.albero, genere_.cartella, genere_.estensione))
         nomi << Q(nome);
     size_t visibili = kMinimoVisibili;
     for (size_t slot = 0; slot < righe_.size(); ++slot) {
         CaricaRiga(slot, nomi);
-        if (!Vuoto(Nome(slot)))
+        if (NominaTabella(Nome(slot)))
             visibili = std::max(visibili, slot + 2);
     }
     for (size_t slot = 0; slot < righe_.size(); ++slot)

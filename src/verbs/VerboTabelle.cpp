@@ -12,6 +12,7 @@
 #include "data/Interpolazione.h"
 #include "data/LibreriaLimiti.h"
 #include "data/NomiDisco.h"
+#include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "records/Unita.h"
 #include "verbs/Json.h"
@@ -34,8 +35,7 @@ std::string PercorsoTabella(TableKind kind, const std::string& nome) {
 /// False after saying why there is no file to load.
 bool TabellaPresente(Banco& banco, TableKind kind, const std::string& nome) {
     const std::string percorso = PercorsoTabella(kind, nome);
-    if (NomeTabellaAmmesso(nome) && !UgualiSenzaMaiuscole(nome, "NONE") &&
-        banco.scrivania.albero.Esiste(percorso))
+    if (NomeTabellaAmmesso(nome) && NominaTabella(nome) && banco.scrivania.albero.Esiste(percorso))
         return true;
     Guasto(banco, kGuastoFile, "there is no table " + percorso);
     return false;
@@ -54,7 +54,7 @@ EsitoVerbo Elenca(Banco& banco, TableKind kind) {
     Json json;
     json.Lista();
     for (const std::string& nome :
-         NomiTabelle(banco.scrivania, richiesta.cartella, richiesta.estensione)) {
+         NomiTabelle(banco.scrivania.albero, richiesta.cartella, richiesta.estensione)) {
         json.Testo(nome);
         if (!banco.json)
             banco.dati << nome << "\n";

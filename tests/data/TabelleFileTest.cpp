@@ -169,10 +169,10 @@ TEST_F(TabelleFileTest, AnyBytesMakeAHarmlessTable) {
 }
 
 TEST_F(TabelleFileTest, TheListBeginsWithNone) {
-    EXPECT_EQ(CompilaCBXLimits(s), std::vector<std::string>{"NONE"});
+    EXPECT_EQ(CompilaCBXLimits(s.albero), std::vector<std::string>{"NONE"});
     for (const char* nome : {"b.5SL", "A.5sl", "c.5SC", "d.TXT"})
         Metti(std::string("Limits/") + nome, "");
-    EXPECT_EQ(CompilaCBXLimits(s), (std::vector<std::string>{"NONE", "A", "b"}));
+    EXPECT_EQ(CompilaCBXLimits(s.albero), (std::vector<std::string>{"NONE", "A", "b"}));
 }
 
 FrequencyTable Frequenze() {

@@ -40,10 +40,19 @@ QPen PennaQt(const Penna& penna) {
     return qt;
 }
 
-QFont Carattere(double altezza) {
-    QFont font = QGuiApplication::font();
+QFont DiAltezza(QFont font, double altezza) {
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(altezza))));
     return font;
+}
+
+QFont Carattere(double altezza) {
+    return DiAltezza(QGuiApplication::font(), altezza);
+}
+
+QFont CarattereFisso(double altezza) {
+    QFont font(QStringLiteral("Courier New"));
+    font.setStyleHint(QFont::Monospace);
+    return DiAltezza(font, altezza);
 }
 
 /// Where the left end of the text's baseline lies for an anchor, against the anchor.
@@ -212,9 +221,8 @@ void SuperficieQt::TriangoloSfumato(const Punto (&vertici)[3], const int32_t (&c
     painter_.drawImage(logico, DipingiTriangolo(t, riquadro));
 }
 
-void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
-                         double altezza) {
-    const QFont font = Carattere(altezza);
+void SuperficieQt::Scrivi(const QFont& font, Punto dove, Ancora ancora, const std::string& testo,
+                          int32_t colore) {
     const QFontMetricsF misure(font, painter_.device());
     const QString scritta = QString::fromStdString(testo);
     QPointF base = Pixel(dove) + InizioTesto(ancora, misure.horizontalAdvance(scritta), misure);
@@ -224,9 +232,27 @@ void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, in
     painter_.drawText(base, scritta);
 }
 
-Punto SuperficieQt::DimensioneTesto(const std::string& testo, double altezza) const {
-    const QFontMetricsF misure(Carattere(altezza), painter_.device());
+Punto SuperficieQt::Misura(const QFont& font, const std::string& testo) const {
+    const QFontMetricsF misure(font, painter_.device());
     return {misure.horizontalAdvance(QString::fromStdString(testo)), misure.height()};
+}
+
+void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
+                         double altezza) {
+    Scrivi(Carattere(altezza), dove, ancora, testo, colore);
+}
+
+Punto SuperficieQt::DimensioneTesto(const std::string& testo, double altezza) const {
+    return Misura(Carattere(altezza), testo);
+}
+
+void SuperficieQt::TestoPassoFisso(Punto dove, Ancora ancora, const std::string& testo,
+                                   int32_t colore, double altezza) {
+    Scrivi(CarattereFisso(altezza), dove, ancora, testo, colore);
+}
+
+Punto SuperficieQt::DimensionePassoFisso(const std::string& testo, double altezza) const {
+    return Misura(CarattereFisso(altezza), testo);
 }
 
 void SuperficieQt::Ritaglio(Punto angolo, Punto opposto) {

@@ -38,6 +38,10 @@ public:
     void Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
                double altezza) override;
     Punto DimensioneTesto(const std::string& testo, double altezza) const override;
+    /// "Courier New", or the machine's own fixed-pitch face.
+    void TestoPassoFisso(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
+                         double altezza) override;
+    Punto DimensionePassoFisso(const std::string& testo, double altezza) const override;
     void Ritaglio(Punto angolo, Punto opposto) override;
     void FineRitaglio() override;
 
@@ -54,6 +58,9 @@ private:
         double Spessore(double larghezza) const;
     };
 
+    void Scrivi(const QFont& font, Punto dove, Ancora ancora, const std::string& testo,
+                int32_t colore);
+    Punto Misura(const QFont& font, const std::string& testo) const;
     QPointF Pixel(Punto p) const;
     QRectF RettangoloPixel(Punto angolo, Punto opposto) const;
 
