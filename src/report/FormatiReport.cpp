@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "base/Numeri.h"
+#include "records/SampleRecord.h"
+#include "records/Unita.h"
 
 namespace orvane {
 namespace {
@@ -46,6 +48,16 @@ std::string FormattaLivelloRep(float livello) {
 
 std::string FormattaIntRep(int valore) {
     return "   " + TestoIntero(valore, valore < 0 ? 4 : 3);
+}
+
+std::string FormattaPosizioneRep(int16_t posizione) {
+    return posizione == kNessunaPosizione ? std::string(kCellaVuota) : FormattaIntRep(posizione);
+}
+
+std::string TestoUnita(int unitId) {
+    const auto& tabella = TabellaUnitaGrafico();
+    const bool nota = unitId >= 0 && unitId < static_cast<int>(tabella.size());
+    return tabella[static_cast<size_t>(nota ? unitId : 1)].testo;
 }
 
 std::string TagliaTestoWidth(const std::string& nome, double limite, const MisuraTesto& misura) {

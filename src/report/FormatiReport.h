@@ -1,6 +1,7 @@
 // Numbers and names as the cells of a report show them.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,11 @@ std::string FormattaFreqRep(double mhz, double massimaMhz);
 std::string FormattaLivelloRep(float livello);
 /// Three blanks and the number with at least three digits.
 std::string FormattaIntRep(int valore);
+
+/// "---" for no position.
+std::string FormattaPosizioneRep(int16_t posizione);
+/// The text of a display unit; an index outside the list counts as dBµV.
+std::string TestoUnita(int unitId);
 
 /// Width of a text in whatever measure columns have.
 using MisuraTesto = std::function<double(std::string_view)>;

@@ -5,7 +5,6 @@
 
 #include "base/Testo.h"
 #include "records/ColoriGrafico.h"
-#include "records/Unita.h"
 #include "report/RigheReport.h"
 
 namespace orvane {
@@ -34,12 +33,6 @@ constexpr int kMassimaLarghezzaNome = 2000;
 constexpr int kInizioBarra = 1300;
 constexpr size_t kLarghezzaUnita = 6;
 
-std::string UnitaInUso(const SetupRecord& setup) {
-    const auto& tabella = TabellaUnitaGrafico();
-    const bool nota = setup.UnitId >= 0 && setup.UnitId < static_cast<int>(tabella.size());
-    return tabella[static_cast<size_t>(nota ? setup.UnitId : 1)].testo;
-}
-
 /// Puts columns together, one after the other.
 struct Compositore {
     const FonteReport& fonte;
@@ -61,7 +54,7 @@ struct Compositore {
     void Livello(int16_t detector) {
         ColonnaReport& c = Colonna(GenereColonna::Livello, static_cast<size_t>(detector));
         c.titolo = kNomiDetector.at(c.quale);
-        c.unita = UnitaInUso(fonte.setup);
+        c.unita = TestoUnita(fonte.setup.UnitId);
         c.intestazione = c.titolo + "\r[" + c.unita + "]";
     }
     /// Name and width of a column that bears the name of a table.
@@ -82,7 +75,7 @@ struct Compositore {
                                     .sinistra = kInizioBarra + prima,
                                     .colore = fonte.env.GraphColors.at(colore::kLimiti + slot)};
         ColonnaReport& c = Colonna(GenereColonna::Limite, slot);
-        c.unita = UnitaInUso(fonte.setup);
+        c.unita = TestoUnita(fonte.setup.UnitId);
         Nomina(c, fonte.setup.LimitName[slot]);
         Colonna(GenereColonna::Delta, slot);
     }
@@ -100,7 +93,7 @@ struct Compositore {
             Nomina(Colonna(GenereColonna::Fattore, t), fonte.setup.FactorName[t]);
     }
     GrigliaReport Fine(const std::string& misurata) {
-        std::string unita = Riempi(UnitaInUso(fonte.setup), kLarghezzaUnita);
+        std::string unita = Riempi(TestoUnita(fonte.setup.UnitId), kLarghezzaUnita);
         if (!unita.ends_with(' '))
             unita += ' ';
         griglia.didascalia = (misurata.empty() ? "" : misurata + " ") + unita + "Report ";
@@ -113,6 +106,13 @@ int16_t DetectorDelloSlot(const ReportModel& model, size_t slot) {
 }
 
 } // namespace
+
+std::string NomeDelLimite(const GrigliaReport& griglia, size_t slot) {
+    for (const ColonnaReport& colonna : griglia.colonne)
+        if (colonna.genere == GenereColonna::Limite && colonna.quale == slot)
+            return colonna.nome;
+    return {};
+}
 
 GrigliaReport ImpostaGridReport1Det(const ReportModel& model, const FonteReport& fonte,
                                     const MisuraTesto& misura) {

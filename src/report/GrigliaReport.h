@@ -54,6 +54,9 @@ struct GrigliaReport {
     bool tagliata = false;  ///< by a cancel: red, and not to be saved
 };
 
+/// Name of the limit in a slot; empty where the grid has no column of it.
+std::string NomeDelLimite(const GrigliaReport& griglia, size_t slot);
+
 /// Column headings and bars for what `fonte` has on; no rows. `misura` gives widths of texts, 1440
 /// to the inch; without it names stay whole.
 GrigliaReport ImpostaGridReport1Det(const ReportModel& model, const FonteReport& fonte,

@@ -23,10 +23,6 @@ struct PuntoReport {
     std::array<size_t, kLimitiReport> detector;
 };
 
-std::string CellaPosizione(int16_t posizione) {
-    return posizione == kNessunaPosizione ? std::string(kCellaVuota) : FormattaIntRep(posizione);
-}
-
 std::string CellaLivello(float livello) {
     return livello <= kNessunLivelloRep ? std::string(kCellaVuota) : FormattaLivelloRep(livello);
 }
@@ -62,9 +58,9 @@ std::string Cella(const ColonnaReport& colonna, const PuntoReport& p, size_t num
     case GenereColonna::Delta:
         return CellaDelta(p, colonna.quale, offset);
     case GenereColonna::Mast:
-        return CellaPosizione(p.mast);
+        return FormattaPosizioneRep(p.mast);
     case GenereColonna::Table:
-        return CellaPosizione(p.table);
+        return FormattaPosizioneRep(p.table);
     case GenereColonna::Fattore:
         return CellaFattore(p.fattori[colonna.quale]);
     }
