@@ -94,7 +94,7 @@ void CaricaTracciaMisura(Scrivania& s, MisuraAperta& misura, const SetupRecord& 
     misura.traccia = std::move(traccia);
 }
 
-MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
+MisuraAperta ApriIntestazione(Scrivania& s, const std::string& nome) {
     MisuraAperta misura{.nome = nome, .base = nome};
     misura.leggibile = LeggiHeader(s, nome, misura.header);
     if (!misura.leggibile)
@@ -106,6 +106,13 @@ MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
         for (size_t d = 0; d < kNumDetector; ++d)
             misura.detector[d] |= riga.Start != 0 && riga.Detector[d] != 0;
     misura.date = DataMisura(s, nome);
+    return misura;
+}
+
+MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
+    MisuraAperta misura = ApriIntestazione(s, nome);
+    if (!misura.leggibile)
+        return misura;
     CaricaTabelleMisura(s, nome, misura.header.Setup, misura.tabelle);
     CaricaTracciaMisura(s, misura, misura.header.Setup);
     return misura;

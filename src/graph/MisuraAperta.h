@@ -34,6 +34,9 @@ struct MisuraAperta {
 /// path. Limits and factors are those that the header has in use.
 MisuraAperta ApriMisura(Scrivania& s, const std::string& nome);
 
+/// The same without tables and trace.
+MisuraAperta ApriIntestazione(Scrivania& s, const std::string& nome);
+
 /// The tables that `setup` names, into their slots, whether on or not: limits of slots 0 and 1, and
 /// the seven factors. The measure's own copy counts before the table of the same name that lies in
 /// the data tree; without a measure only the latter. Nothing is told of one that is absent.
