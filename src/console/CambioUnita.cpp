@@ -22,14 +22,18 @@ double CimaSenzaRiferimento(int unitId) {
 } // namespace
 
 bool ControlladBpTFC(Scrivania& s, int unitId) {
+    return ControlladBpTFC(s.ambiente, s.setup, unitId);
+}
+
+bool ControlladBpTFC(Ambiente& ambiente, const SetupRecord& setup, int unitId) {
     const auto& voce = TabellaUnitaGrafico()[static_cast<size_t>(unitId)];
-    const auto& accesi = s.setup.FactorOn;
+    const auto& accesi = setup.FactorOn;
     if (!voce.chiedeFattore ||
         std::any_of(accesi.begin(), accesi.end(), [](int16_t f) { return f == 1; }))
         return true;
-    s.ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
-                                "\rShould have an active Conversion Factor",
-                       .icona = Icona::Esclamazione});
+    ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
+                              "\rShould have an active Conversion Factor",
+                     .icona = Icona::Esclamazione});
     return false;
 }
 
