@@ -3,23 +3,20 @@
 
 #include <memory>
 
-#include "platform/qt/FabbricaQt.h"
-
-class QGuiApplication;
+#include "graph/FabbricaQuadri.h"
 
 namespace orvane {
 
-/// Qt starts with the first picture, without a display: what draws none does not wait for it.
+/// Loads the module `orvane-pictures` with the first picture, from beside the program or from
+/// "../lib/orvane": what draws none does not wait for the libraries of the windows. A module that
+/// cannot be loaded is told on standard error, and there are no pictures.
 class FabbricaDifferita : public FabbricaQuadri {
 public:
-    FabbricaDifferita();
-    ~FabbricaDifferita() override;
     std::vector<uint8_t> Dipingi(int larghezza, int altezza, FormatoImmagine formato,
                                  const std::function<void(Superficie&)>& disegna) override;
 
 private:
-    std::unique_ptr<QGuiApplication> applicazione_;
-    FabbricaQt fabbrica_;
+    std::unique_ptr<FabbricaQuadri> fabbrica_;
 };
 
 } // namespace orvane
