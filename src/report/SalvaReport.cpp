@@ -94,20 +94,19 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
                     FabbricaQuadri* fabbrica, VistaAttesa& vista, const fs::path& percorso) {
     const MisuraAperta& misura = report.fonte.misura;
     const auto colonne = static_cast<int>(report.griglia.colonne.size());
-    RichiestaDocumento r{
-        .TablePath = fs::path(percorso).replace_extension("TPT"),
-        .HeaderPath = PercorsoHeader(s.albero, misura.nome),
-        .HeaderOn = opzioni.HeaderOn,
-        .Title = misura.nome,
-        .carattere = DetCarattereEOrientazione(opzioni.orizzontale, HaDatiMast(misura)),
-        .OutPath = percorso};
+    RichiestaDocumento r{.TablePath = fs::path(percorso).replace_extension("TPT"),
+                         .HeaderPath = PercorsoHeader(s.albero, misura.nome),
+                         .HeaderOn = opzioni.HeaderOn,
+                         .Title = misura.nome,
+                         .carattere =
+                             DetCarattereEOrientazione(opzioni.orizzontale, HaDatiMast(misura)),
+                         .OutPath = percorso};
     r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
     // A tab has no width on a sheet; and the header is printed by the layout, ahead of the picture.
     if (!ScriviTesto(report, opzioni, " ", {}, r.TablePath))
         return Avvisa(s, percorso);
-    const auto bmp = CatturaImmagineMisura(
-        s, report.fonte, fabbrica, FormatoImmagine::Bmp,
-        FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
+    const auto bmp = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Bmp,
+                                           FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
     const fs::path immagine = fs::path(percorso).replace_extension("TPI");
     if (!bmp.empty() && Scrivi(immagine, bmp))
         r.ImagePath = immagine;
@@ -119,8 +118,7 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
 
 bool SalvaHtml(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,
                FabbricaQuadri* fabbrica, const fs::path& percorso) {
-    const auto png =
-        CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Png, false);
+    const auto png = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Png, false);
     ParteHtml parte{.intestazione = TestoHeader(s, report, opzioni), .png = png};
     if (opzioni.riassunto)
         parte.riassunto = CalcolaRiassunto(report.fonte);
@@ -151,12 +149,12 @@ std::string NomeReport(const std::string& misura, FormatoReport formato) {
 OpzioniReport OpzioniDaPannello(const EnvRecord& env) {
     const auto voce = [&env](size_t quale) { return env.ReportList.at(quale); };
     const auto separatore = static_cast<size_t>(voce(voce_report::kSeparatoreCsv));
-    return {.HeaderOn = voce(voce_report::kIntestazione) != 1,
-            .riassunto = voce(voce_report::kRiassunto) == 1,
-            .ColumnSeparator = ColumnSeparator(env.ExportMode),
-            .csv = {.separatore = kSeparatoriCsv[separatore < kSeparatoriCsv.size() ? separatore
-                                                                                    : 0],
-                    .decimale = voce(voce_report::kDecimaleCsv) == 1 ? ',' : '.'}};
+    return {
+        .HeaderOn = voce(voce_report::kIntestazione) != 1,
+        .riassunto = voce(voce_report::kRiassunto) == 1,
+        .ColumnSeparator = ColumnSeparator(env.ExportMode),
+        .csv = {.separatore = kSeparatoriCsv[separatore < kSeparatoriCsv.size() ? separatore : 0],
+                .decimale = voce(voce_report::kDecimaleCsv) == 1 ? ',' : '.'}};
 }
 
 fs::path PercorsoHeader(const AlberoDati& albero, const std::string& misura) {
