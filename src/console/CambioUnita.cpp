@@ -37,14 +37,18 @@ bool ControlladBpTFC(Ambiente& ambiente, const SetupRecord& setup, int unitId) {
     return false;
 }
 
+int16_t RiferimentoInUnita(const SetupRecord& setup, int unitId) {
+    const double spostamento = CimaSenzaRiferimento(setup.UnitId) - CimaSenzaRiferimento(unitId);
+    const auto riferimento = std::lround(setup.RefLevel + spostamento);
+    return static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
+}
+
 bool CambiaUnita(Scrivania& s, int unitId) {
     if (unitId < 0 || unitId >= static_cast<int>(TabellaUnitaGrafico().size()))
         return false;
     if (!ControlladBpTFC(s, unitId))
         return false;
-    const double spostamento = CimaSenzaRiferimento(s.setup.UnitId) - CimaSenzaRiferimento(unitId);
-    const auto riferimento = std::lround(s.setup.RefLevel + spostamento);
-    s.setup.RefLevel = static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
+    s.setup.RefLevel = RiferimentoInUnita(s.setup, unitId);
     s.setup.UnitId = static_cast<int16_t>(unitId);
     return SalvaPanelEAM(s, kPannelloEAM);
 }

@@ -71,7 +71,7 @@ struct Disposizione {
 Disposizione Disponi(const Superficie& superficie, const ContenutoQuadro& contenuto,
                      const SetupRecord& setup, CampoMhz campo, const StileQuadro& stile) {
     Disposizione d{.dove = DisponiGriglia(superficie, stile.tinta)};
-    d.testata = DisponiTestata(superficie, contenuto, setup, stile, d.dove.sinistra,
+    d.testata = DisponiTestata(superficie, contenuto, stile, d.dove.sinistra,
                                d.dove.sinistra + d.dove.larghezza);
     d.piede = DisponiPiede(superficie, stile.blocco, stile.tinta.altezzaTesto, kParteBlocco);
     d.dove.alto += d.testata.altezza;

@@ -48,15 +48,14 @@ PezzoTestata Insegna(Giudizio giudizio, const std::string& testo) {
 }
 
 /// The verdict in one word, then each limit.
-std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const SetupRecord& setup,
-                                  const StileQuadro& stile) {
+std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const StileQuadro& stile) {
     const Verdetto& verdetto = contenuto.verdetto;
     if (!stile.verdetto || verdetto.insieme == Giudizio::Nessuno)
         return {};
     std::vector<PezzoTestata> pezzi = {Insegna(verdetto.insieme, TestoGiudizio(verdetto.insieme))};
     for (const VerdettoLimite& v : verdetto.limiti)
         if (v.giudizio != Giudizio::Nessuno)
-            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura, setup)));
+            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
     return pezzi;
 }
 
@@ -126,21 +125,20 @@ void Disegna(Superficie& superficie, const PezzoTestata& p, double altezzaRiga,
 
 } // namespace
 
-std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura,
-                         const SetupRecord& setup) {
+std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura) {
     const double delta = verdetto.Delta();
+    const double passo = PassoTraccia(misura, verdetto.indice);
     return std::string(kSigle[static_cast<size_t>(verdetto.detector)]) + (delta > 0 ? " +" : " ") +
-           TestoFisso(delta, 1) + " dB at " + LeggiMarker(misura, setup, verdetto.indice).frequenza;
+           TestoFisso(delta, 1) + " dB at " + DetFormatoVal(verdetto.freqMhz, passo) + " MHz";
 }
 
 TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro& contenuto,
-                             const SetupRecord& setup, const StileQuadro& stile, double sinistra,
-                             double destra) {
+                             const StileQuadro& stile, double sinistra, double destra) {
     const double lettera = stile.tinta.altezzaTesto;
     const double aria = kFraPezzi * lettera;
     TestataQuadro testata{.altezzaRiga = std::ceil(kAltezzaRiga * lettera)};
     testata.pezzi = Legenda(contenuto, stile);
-    std::vector<PezzoTestata> insegne = Insegne(contenuto, setup, stile);
+    std::vector<PezzoTestata> insegne = Insegne(contenuto, stile);
     Misura(superficie, testata.pezzi, lettera);
     Misura(superficie, insegne, lettera);
     const bool insieme = Somma(testata.pezzi, aria) + Somma(insegne, aria) <= destra - sinistra;

@@ -10,8 +10,7 @@
 namespace orvane {
 
 /// What a badge says of a limit: "QP -4.7 dB at 0.195 MHz".
-std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura,
-                         const SetupRecord& setup);
+std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura);
 
 /// Words of the strip, each behind the stroke of its trace or on its ground, or bare.
 struct PezzoTestata {
@@ -32,8 +31,7 @@ struct TestataQuadro {
 /// Lays the strip out between two edges, in pixels: the legend from the left, the badges to the
 /// right, on further rows where they have no room.
 TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro& contenuto,
-                             const SetupRecord& setup, const StileQuadro& stile, double sinistra,
-                             double destra);
+                             const StileQuadro& stile, double sinistra, double destra);
 /// Leaves the coordinates in pixels.
 void DisegnaTestata(Superficie& superficie, const TestataQuadro& testata, const StileQuadro& stile);
 

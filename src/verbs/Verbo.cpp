@@ -39,6 +39,13 @@ constexpr std::array kVerbi = {
               VerboArchive},
     VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{"picture",
+              "MEASURE --out FILE [--size WxH] [--sub NAME] [--detector D] ... [--unit U]\n"
+              "        [--limit NAME[:D]] ... [--factor NAME] ... [--from MHZ] [--to MHZ]\n"
+              "        [--reference DB] [--dynamics N|DB] [--peaks N] [--print|--dark|--light]\n"
+              "        [--no-settings]",
+              "a stored measure as a picture: BMP, PNG, JPG or SVG by the file's extension",
+              VerboPicture},
     VoceVerbo{"report",
               "MEASURE --out F [--kind 1det|2det|2full] [--detector D] [--detector2 D]\n"
               "        [--margin DB] [--limit A]... [--factor F]... [--unit U] [--sub NAME]\n"
