@@ -37,8 +37,19 @@ constexpr std::array kVerbi = {
     VoceVerbo{"archive", "[accept MEASURE]",
               "the measures, with date and lines; accept takes the mark of a run that was cut off",
               VerboArchive},
-    VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
+    VoceVerbo{"trace",
+              "MEASURE [--detector D] [--sub NAME] [--unit U] [--factors | --factor F ...]\n"
+              "        [--limit A ...]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{"peaks",
+              "MEASURE [--detector D] [--sub NAME] [--count N] [--excursion DB] [--from MHZ]\n"
+              "        [--to MHZ] [--unit U] [--factor F ...] [--limit A ...] [--save-table NAME]",
+              "the highest peaks of a stored trace as CSV", VerboPeaks},
+    VoceVerbo{"verdict",
+              "MEASURE [--sub NAME] [--limit A[:D] ...] [--factor F ...] [--uncertainty DB]\n"
+              "        [--unit U]",
+              "PASS, FAIL or INCONCLUSIVE for each limit, and for all of them; status 0 for PASS",
+              VerboVerdict},
     VoceVerbo{"picture",
               "MEASURE --out FILE [--size WxH] [--sub NAME] [--detector D] ... [--unit U]\n"
               "        [--limit NAME[:D]] ... [--factor NAME] ... [--from MHZ] [--to MHZ]\n"

@@ -76,6 +76,8 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole);
 EsitoVerbo VerboCheck(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
+EsitoVerbo VerboPeaks(Banco& banco, Parole parole);
+EsitoVerbo VerboVerdict(Banco& banco, Parole parole);
 EsitoVerbo VerboPicture(Banco& banco, Parole parole);
 EsitoVerbo VerboReport(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
