@@ -79,7 +79,7 @@ std::string RigaRTF(std::string_view riga) {
     return EscapeRTF(riga) + "\\par\r\n";
 }
 
-/// Empty where the picture cannot be read.
+/// With a free line above and below; empty where the picture cannot be read.
 std::string Immagine(const RichiestaDocumento& r) {
     const auto pixel = LeggiFileBMP(r.ImagePath);
     if (!pixel)
@@ -88,8 +88,8 @@ std::string Immagine(const RichiestaDocumento& r) {
         r.Ratio > 0 ? r.Ratio : static_cast<double>(pixel->altezza) / pixel->larghezza;
     const FoglioRTF& foglio = Foglio(r);
     const double larga = std::min<double>(foglio.immagineLarga, foglio.immagineAlta / ratio);
-    std::string testo = "{\\pict\\pngblip\\picw" + TestoIntero(pixel->larghezza) + "\\pich" +
-                        TestoIntero(pixel->altezza) + "\\picwgoal" +
+    std::string testo = "\\par\r\n{\\pict\\pngblip\\picw" + TestoIntero(pixel->larghezza) +
+                        "\\pich" + TestoIntero(pixel->altezza) + "\\picwgoal" +
                         TestoIntero(static_cast<int>(larga)) + "\\pichgoal" +
                         TestoIntero(static_cast<int>(larga * ratio)) + "\r\n";
     const std::vector<uint8_t> png = InPNG(*pixel);
@@ -98,7 +98,7 @@ std::string Immagine(const RichiestaDocumento& r) {
         if (i % 64 == 63)
             testo += "\r\n";
     }
-    return testo + "}\\par\r\n";
+    return testo + "}\\par\\par\r\n";
 }
 
 /// Remembers that a write failed.
