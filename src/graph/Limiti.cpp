@@ -17,6 +17,8 @@ constexpr double kStaccoNome = 3;
 /// Places for a name are tried at this distance, pixels.
 constexpr double kPassoNome = 6;
 
+constexpr double kOpacitaFondo = 0.8;
+
 struct PuntoLimite {
     double hz = 0;
     double cent = 0;
@@ -196,7 +198,7 @@ void ScriviNomeLimite(Superficie& superficie, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, const LimFacRecord& limite,
                       const std::string& nome, int32_t colore, double altezzaTesto,
                       std::vector<RettangoloTesto>& occupati,
-                      const std::optional<CampoMhz>& soloFra) {
+                      const std::optional<CampoMhz>& soloFra, const std::optional<int32_t>& fondo) {
     if (nome.empty() || !ImpostaCoordinate(superficie, scala, dove))
         return;
     const Riporto riporto{scala, dove};
@@ -209,6 +211,10 @@ void ScriviNomeLimite(Superficie& superficie, const ScalaGrafico& scala,
         for (const auto& linea : linee)
             if (const auto posto = PostoNome(linea, grande, sporge, dove, occupati)) {
                 occupati.push_back(*posto);
+                if (fondo)
+                    superficie.Rettangolo(riporto.Coordinate({posto->sinistra, posto->alto}),
+                                          riporto.Coordinate({posto->destra, posto->basso}), *fondo,
+                                          kOpacitaFondo);
                 superficie.Testo(riporto.Coordinate({posto->sinistra, posto->alto}),
                                  Ancora::SinistraAlto, nome, colore, altezzaTesto);
                 return;

@@ -24,11 +24,13 @@ struct RettangoloTesto {
     double sinistra = 0, alto = 0, destra = 0, basso = 0; ///< pixels of the picture
 };
 /// Writes a limit's name over its line where that has room: inside the grid, off the other names in
-/// `occupati`, to which it is added. Without room it is left out.
+/// `occupati`, to which it is added. Without room it is left out. `fondo`: a thin ground of this
+/// colour behind the name, so that it reads over traces.
 void ScriviNomeLimite(Superficie& superficie, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, const LimFacRecord& limite,
                       const std::string& nome, int32_t colore, double altezzaTesto,
                       std::vector<RettangoloTesto>& occupati,
-                      const std::optional<CampoMhz>& soloFra = {});
+                      const std::optional<CampoMhz>& soloFra = {},
+                      const std::optional<int32_t>& fondo = {});
 
 } // namespace orvane

@@ -6,7 +6,7 @@
 
 #include "base/Testo.h"
 #include "data/NomiTabelle.h"
-#include "graph/Limiti.h"
+#include "graph/LimitiQuadro.h"
 #include "graph/PiedeQuadro.h"
 #include "graph/TestataQuadro.h"
 #include "graph/TinteQuadro.h"
@@ -28,9 +28,8 @@ constexpr double kMinimoTesto = 9;
 constexpr double kParteLarghezza = 1.0 / 80;
 constexpr double kParteAltezza = 1.0 / 48;
 
-// In trace widths.
+/// In trace widths.
 constexpr double kSpessoreLimite = 1.5;
-constexpr double kSpessoreMarcatore = 1;
 /// In text heights.
 constexpr double kLatoPicco = 0.8;
 
@@ -92,41 +91,52 @@ ColonneTraccia Riduci(const SweepTrace& traccia, size_t detector, const ScalaGra
     return colonne;
 }
 
-/// Peak lies highest: it is drawn first, so that it hides none of the others.
-void DisegnaStrato(Superficie& superficie, const Disposizione& d, const StratoQuadro& strato,
-                   double spessore) {
-    for (size_t i = 0; i < kNumDetector; ++i)
-        if (strato.detector[i])
-            DisegnaTraccia(superficie, d.scala, d.dove, Riduci(*strato.traccia, i, d.scala),
+/// Gives what the traces cover. Peak lies highest: it is drawn first, so that it hides none of the
+/// others.
+std::vector<RettangoloTesto> DisegnaStrati(Superficie& superficie, const Disposizione& d,
+                                           const std::vector<StratoQuadro>& strati,
+                                           double spessore) {
+    std::vector<RettangoloTesto> ingombri;
+    for (const StratoQuadro& strato : strati)
+        for (size_t i = 0; i < kNumDetector; ++i) {
+            if (!strato.detector[i])
+                continue;
+            const ColonneTraccia colonne = Riduci(*strato.traccia, i, d.scala);
+            DisegnaTraccia(superficie, d.scala, d.dove, colonne,
                            {.colore = strato.colori[i], .larghezza = spessore});
+            AggiungiIngombro(colonne, d.scala, d.dove, ingombri);
+        }
+    return ingombri;
 }
 
-void DisegnaLimiti(Superficie& superficie, const Disposizione& d,
-                   const std::vector<LimiteQuadro>& limiti, const StileQuadro& stile) {
-    std::vector<RettangoloTesto> occupati;
-    for (const LimiteQuadro& l : limiti)
-        DisegnaLimite(superficie, d.scala, d.dove, l.limite, l.soloFra,
-                      {.colore = l.colore, .larghezza = kSpessoreLimite * stile.spessoreTracce});
-    for (const LimiteQuadro& l : limiti)
-        if (!l.nome.empty())
-            ScriviNomeLimite(superficie, d.scala, d.dove, l.limite, l.nome, l.colore,
-                             stile.tinta.altezzaTesto, occupati, l.soloFra);
-}
-
-void DisegnaSegni(Superficie& superficie, const Disposizione& d, const ContenutoQuadro& contenuto,
-                  const EnvRecord& env, const StileQuadro& stile) {
-    std::array<int32_t, kNumDetector> colori;
-    colori.fill(env.GraphColors[colore::kPicchi]);
-    DisegnaPicchi(superficie, d.scala, d.dove, contenuto.picchi, colori,
-                  kLatoPicco * stile.tinta.altezzaTesto);
-    if (!stile.marcatori || contenuto.strati.empty())
+void DisegnaMarcatori(Superficie& superficie, const Disposizione& d,
+                      const ContenutoQuadro& contenuto, const EnvRecord& env, double spessore) {
+    if (contenuto.strati.empty())
         return;
     for (size_t i = 0; i < contenuto.marcatori.indice.size(); ++i)
         if (const auto indice = contenuto.marcatori.indice[i])
-            DisegnaMarkerSweep(superficie, d.scala, d.dove, contenuto.misura,
-                               contenuto.strati[0].detector, *indice, static_cast<int>(i),
-                               {.colore = env.GraphColors[colore::kMarcatori + i],
-                                .larghezza = kSpessoreMarcatore * stile.spessoreTracce});
+            DisegnaMarkerSweep(
+                superficie, d.scala, d.dove, contenuto.misura, contenuto.strati[0].detector,
+                *indice, static_cast<int>(i),
+                {.colore = env.GraphColors[colore::kMarcatori + i], .larghezza = spessore});
+}
+
+/// What lies in the grid, from below.
+void DisegnaInterno(Superficie& superficie, const Disposizione& d, const ContenutoQuadro& contenuto,
+                    const EnvRecord& env, const StileQuadro& stile) {
+    const double spessore = stile.spessoreTracce;
+    auto ingombri = DisegnaStrati(superficie, d, contenuto.strati, spessore);
+    for (const LimiteQuadro& l : contenuto.limiti)
+        DisegnaLimite(superficie, d.scala, d.dove, l.limite, l.soloFra,
+                      {.colore = l.colore, .larghezza = kSpessoreLimite * spessore});
+    std::array<int32_t, kNumDetector> colori;
+    colori.fill(env.GraphColors[colore::kPicchi]);
+    const double lato = kLatoPicco * stile.tinta.altezzaTesto;
+    DisegnaPicchi(superficie, d.scala, d.dove, contenuto.picchi, colori, lato);
+    AggiungiIngombro(contenuto.picchi, d.scala, d.dove, lato, ingombri);
+    if (stile.marcatori)
+        DisegnaMarcatori(superficie, d, contenuto, env, spessore);
+    ScriviNomiLimiti(superficie, d.scala, d.dove, contenuto.limiti, stile.tinta, ingombri);
 }
 
 } // namespace
@@ -180,6 +190,7 @@ StileQuadro StileStampa(const EnvRecord& env, double altezzaTesto) {
     StileQuadro stile = StileComune(env, altezzaTesto);
     stile.tinta.sfondo = kCarta;
     stile.tinta.scritte = kInchiostro;
+    stile.inchiostro = kInchiostro;
     stile.tinta.PrintColors = true;
     return stile;
 }
@@ -188,6 +199,7 @@ StileQuadro StileSchermo(const EnvRecord& env, bool scuro, double altezzaTesto) 
     StileQuadro stile = StileComune(env, altezzaTesto);
     stile.tinta.sfondo = scuro ? kFondoScuro : kFondoChiaro;
     stile.tinta.scritte = env.GraphColors[colore::kEtichette];
+    stile.inchiostro = scuro ? kScrittaScura : kScrittaChiara;
     return stile;
 }
 
@@ -200,14 +212,11 @@ void DisegnaQuadro(Superficie& superficie, const ContenutoQuadro& contenuto,
                    const StileQuadro& stile) {
     const Disposizione d = Disponi(superficie, contenuto, setup, campo, stile);
     Grid(superficie, d.scala, d.dove, ColoriGriglia(env, stile.tinta), stile.tinta);
-    for (const StratoQuadro& strato : contenuto.strati)
-        DisegnaStrato(superficie, d, strato, stile.spessoreTracce);
-    DisegnaLimiti(superficie, d, contenuto.limiti, stile);
-    DisegnaSegni(superficie, d, contenuto, env, stile);
+    DisegnaInterno(superficie, d, contenuto, env, stile);
     GridLabel(superficie, d.scala, d.dove, stile.tinta,
               TabellaUnitaGrafico()[size_t(std::clamp<int>(setup.UnitId, 0, 7))].testo);
     DisegnaTestata(superficie, d.testata, stile);
-    DisegnaPiede(superficie, d.piede, stile.tinta.scritte);
+    DisegnaPiede(superficie, d.piede, stile.inchiostro);
 }
 
 } // namespace orvane

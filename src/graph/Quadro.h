@@ -54,7 +54,8 @@ void AggiungiLimitiRighe(const Scrivania& s, ContenutoQuadro& contenuto);
 
 /// How a picture is drawn as a whole.
 struct StileQuadro {
-    TintaGrafico tinta; ///< with `PrintColors` on white, for paper
+    TintaGrafico tinta;     ///< with `PrintColors` on white, for paper
+    int32_t inchiostro = 0; ///< words of the legend and the settings
     double spessoreTracce = 1;
     bool verdetto = true;
     bool legenda = true;

@@ -11,6 +11,7 @@ namespace orvane {
 namespace {
 
 // In heights of the letters.
+constexpr double kSopra = 0.5;
 constexpr double kAltezzaRiga = 1.9;
 constexpr double kMargineInsegna = 0.6;
 constexpr double kStaccoInsegna = 0.35; ///< above and below the ground of a badge, together
@@ -32,11 +33,11 @@ std::vector<PezzoTestata> Legenda(const ContenutoQuadro& contenuto, const StileQ
         return pezzi;
     for (const StratoQuadro& strato : strati) {
         if (!strato.nome.empty())
-            pezzi.push_back({.testo = strato.nome, .colore = stile.tinta.scritte});
+            pezzi.push_back({.testo = strato.nome, .colore = stile.inchiostro});
         for (size_t d = 0; d < kNumDetector; ++d)
             if (strato.detector[d])
                 pezzi.push_back({.testo = kNomiDetector[d],
-                                 .colore = stile.tinta.scritte,
+                                 .colore = stile.inchiostro,
                                  .tratto = strato.colori[d]});
     }
     return pezzi;
@@ -104,13 +105,13 @@ void SpingiADestra(std::span<PezzoTestata> pezzi, double destra) {
     }
 }
 
-void Disegna(Superficie& superficie, const PezzoTestata& p, double altezzaRiga,
+void Disegna(Superficie& superficie, const PezzoTestata& p, const TestataQuadro& testata,
              const StileQuadro& stile) {
     const double lettera = stile.tinta.altezzaTesto;
-    const double y = (static_cast<double>(p.riga) + 0.5) * altezzaRiga;
+    const double y = testata.sopra + (static_cast<double>(p.riga) + 0.5) * testata.altezzaRiga;
     double x = p.x;
     if (p.fondo) {
-        const double mezza = (altezzaRiga - kStaccoInsegna * lettera) / 2;
+        const double mezza = (testata.altezzaRiga - kStaccoInsegna * lettera) / 2;
         superficie.Rettangolo({p.x, y - mezza}, {p.x + p.larghezza, y + mezza}, *p.fondo, 1);
         x += kMargineInsegna * lettera;
     }
@@ -146,7 +147,9 @@ TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro
     const size_t fine = VaiACapo(insegne, insieme ? 0 : dopo, sinistra, destra, aria / 2);
     SpingiADestra(insegne, destra);
     testata.pezzi.insert(testata.pezzi.end(), insegne.begin(), insegne.end());
-    testata.altezza = static_cast<double>(std::max(dopo, fine)) * testata.altezzaRiga;
+    const double righe = static_cast<double>(std::max(dopo, fine));
+    testata.sopra = std::ceil(kSopra * lettera);
+    testata.altezza = righe > 0 ? righe * testata.altezzaRiga + testata.sopra : 0;
     return testata;
 }
 
@@ -154,7 +157,7 @@ void DisegnaTestata(Superficie& superficie, const TestataQuadro& testata,
                     const StileQuadro& stile) {
     superficie.Scala(0, 0, superficie.LarghezzaPixel(), superficie.AltezzaPixel());
     for (const PezzoTestata& p : testata.pezzi)
-        Disegna(superficie, p, testata.altezzaRiga, stile);
+        Disegna(superficie, p, testata, stile);
 }
 
 } // namespace orvane

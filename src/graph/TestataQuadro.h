@@ -24,6 +24,7 @@ struct PezzoTestata {
 };
 struct TestataQuadro {
     std::vector<PezzoTestata> pezzi;
+    double sopra = 0;       ///< pixels from the picture's edge to the first row
     double altezzaRiga = 0; ///< pixels
     double altezza = 0;     ///< 0: there is no strip
 };

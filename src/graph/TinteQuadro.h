@@ -8,6 +8,9 @@ namespace orvane {
 
 inline constexpr int32_t kFondoChiaro = Rgb(255, 255, 255);
 inline constexpr int32_t kFondoScuro = Rgb(15, 20, 26);
+/// Words on them.
+inline constexpr int32_t kScrittaChiara = Rgb(29, 39, 51);
+inline constexpr int32_t kScrittaScura = Rgb(232, 237, 243);
 inline constexpr int32_t kCarta = Rgb(255, 255, 255);
 inline constexpr int32_t kInchiostro = Rgb(0, 0, 0);
 

@@ -32,7 +32,7 @@ constexpr std::array<VoceTinta, static_cast<size_t>(Ruolo::NumRuoli)> kTinte = {
     {Ruolo::Campo, 0xFFF7F9FB, 0xFF141A20},
     {Ruolo::Bordo, 0xFFDDE3EA, 0xFF2C3540},
     {Ruolo::BordoCampo, 0xFFC9D2DC, 0xFF38424F},
-    {Ruolo::Testo, 0xFF1D2733, 0xFFE8EDF3},
+    {Ruolo::Testo, Opaco(kScrittaChiara), Opaco(kScrittaScura)},
     {Ruolo::Tenue, 0xFF5B6675, 0xFF98A4B3},
     {Ruolo::Spento, 0xFF9AA5B1, 0xFF626E7C},
     {Ruolo::Accento, 0xFF1F6FEB, 0xFF3B82F6},

@@ -7,6 +7,7 @@
 #include "console/CambioUnita.h"
 #include "data/FileFuori.h"
 #include "data/NomiDisco.h"
+#include "data/Panels.h"
 #include "graph/BloccoImpostazioni.h"
 #include "link/Dinamica.h"
 #include "records/ImpostazioniReport.h"
@@ -154,6 +155,14 @@ RichiestaQuadro LeggiRichiesta(const Argomenti& argomenti) {
     return r;
 }
 
+/// Colours and lines of the running panel, or the default ones; a picture writes none.
+void CaricaColori(Scrivania& s) {
+    if (s.albero.Esiste(kPannelloEPN))
+        CaricaPanelEPN(s, kPannelloEPN);
+    else
+        ApplicaEnv(s.env, false);
+}
+
 /// Reference and dynamics; a unit that is not the measure's keeps the trace in its place.
 void ImpostaScala(const RichiestaQuadro& r, const SetupRecord& misurato, SetupRecord& setup) {
     setup.RefLevel =
@@ -215,7 +224,8 @@ EsitoVerbo VerboPicture(Banco& banco, Parole parole) {
             ApriDaOpzioni(banco, "picture", argomenti, Partenza::ComeMisurata, chiesta);
         esito != kFatto)
         return esito;
-    const Scrivania& s = banco.scrivania;
+    Scrivania& s = banco.scrivania;
+    CaricaColori(s);
     SetupRecord& setup = chiesta.setup;
     ImpostaScala(r, chiesta.misura.header.Setup, setup);
     ContenutoQuadro quadro = ComponiQuadro(chiesta.misura, setup, s.env);

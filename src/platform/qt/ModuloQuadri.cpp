@@ -1,4 +1,5 @@
 // The module that makes pictures for a program without windows: Qt on a display that is not there.
+#include <cstdio>
 #include <cstdlib>
 
 #include <QFont>
@@ -32,6 +33,12 @@ private:
 
 /// What the program looks for by name.
 extern "C" orvane::FabbricaQuadri* CreaFabbricaQuadri() {
+    // A machine without a desktop lacks what Qt would like to find; only what fails is worth a
+    // line.
+    qInstallMessageHandler([](QtMsgType genere, const QMessageLogContext&, const QString& testo) {
+        if (genere == QtCriticalMsg || genere == QtFatalMsg)
+            std::fprintf(stderr, "orvane: %s\n", qPrintable(testo));
+    });
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     return new orvane::FabbricaSenzaSchermo;
 }
