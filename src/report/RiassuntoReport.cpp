@@ -9,8 +9,14 @@ namespace orvane {
 namespace {
 
 constexpr size_t kLarghezzaEtichetta = 14;
-constexpr size_t kLarghezzaNome = 22;
-constexpr size_t kLarghezzaNumero = 12;
+// Together they fit between the margins of an upright sheet.
+constexpr size_t kLarghezzaNome = 24;
+constexpr size_t kLarghezzaNumero = 10;
+
+std::string NomeBreve(const std::string& nome) {
+    return NumeroCaratteri(nome) < kLarghezzaNome ? nome
+                                                  : PrimiCaratteri(nome, kLarghezzaNome - 3) + "..";
+}
 
 std::string Livello(int16_t cent, float offset) {
     return TestoFisso(cent / 100.0 + static_cast<double>(offset), 2);
@@ -45,7 +51,7 @@ std::string Ricevitore(const SetupRecord& run) {
 
 std::string RigaPunto(const std::string& primo, const std::string& limite,
                       const std::array<std::string, 5>& resto) {
-    std::string riga = Riempi(primo, kLarghezzaEtichetta) + Riempi(limite, kLarghezzaNome) + " ";
+    std::string riga = Riempi(primo, kLarghezzaEtichetta) + Riempi(limite, kLarghezzaNome);
     for (const std::string& cella : resto)
         riga += Riempi(cella, kLarghezzaNumero);
     return riga.substr(0, riga.find_last_not_of(' ') + 1);
@@ -81,7 +87,7 @@ std::vector<std::string> RigheRiassunto(const Riassunto& r) {
     righe.push_back(
         RigaPunto("", "", {"", "[MHz]", "[" + r.unita + "]", "[" + r.unita + "]", "[dB]"}));
     for (const PuntoPeggiore& p : r.punti)
-        righe.push_back(RigaPunto(TestoGiudizio(p.giudizio), p.limite,
+        righe.push_back(RigaPunto(TestoGiudizio(p.giudizio), NomeBreve(p.limite),
                                   {p.detector, p.freqMhz, p.livello, p.valore, p.delta}));
     return righe;
 }

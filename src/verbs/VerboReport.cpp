@@ -5,10 +5,14 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "console/CambioUnita.h"
 #include "data/NomiDisco.h"
+#include "data/Panels.h"
 #include "graph/Verdetto.h"
+#include "records/ImpostazioniReport.h"
 #include "report/RigheReport.h"
 #include "report/SalvaReport.h"
+#include "report/TestoReport.h"
 #include "verbs/Json.h"
 #include "verbs/MisuraDaOpzioni.h"
 
@@ -33,7 +37,7 @@ struct RichiestaReport {
     TipoReport tipo = TipoReport::UnDetector;
     std::optional<DetectorKind> detector;
     std::optional<DetectorKind> detector2;
-    float margine = 0;
+    std::optional<float> margine; ///< without it the panel's
     OpzioniReport opzioni{.HeaderOn = false};
     std::string errore;
 };
@@ -94,10 +98,10 @@ int16_t DetectorDello(const MisuraChiesta& chiesta, size_t slot) {
 }
 
 /// Detectors that were named, or else the first measured, and those that the limits are meant for.
-ReportModel Modello(const RichiestaReport& r, const MisuraChiesta& chiesta) {
+ReportModel Modello(const RichiestaReport& r, const MisuraChiesta& chiesta, const EnvRecord& env) {
     ReportModel model;
     model.tipo = r.tipo;
-    model.ReportMargin = r.margine;
+    model.ReportMargin = r.margine.value_or(LimitaMargine(ReportMargin(env)));
     model.ReportDetector = static_cast<int16_t>(chiesta.detector);
     model.ReportDetectorLim1 =
         r.detector ? static_cast<int16_t>(*r.detector) : DetectorDello(chiesta, 0);
@@ -120,10 +124,18 @@ struct AttesaMuta : VistaAttesa {
     void ChiudiAttesa() override {}
 };
 
+/// Colours, margin and separator of the running panel, or the default ones; none is written.
+void CaricaPannelloReport(Scrivania& s) {
+    if (s.albero.Esiste(kPannelloEPN))
+        CaricaPanelEPN(s, kPannelloEPN);
+    else
+        ApplicaEnv(s.env, false);
+}
+
 EsitoVerbo Componi(Banco& banco, const RichiestaReport& r, const MisuraChiesta& chiesta) {
     const FonteReport fonte{
         .misura = chiesta.misura, .setup = chiesta.setup, .env = banco.scrivania.env};
-    ReportModel model = Modello(r, chiesta);
+    ReportModel model = Modello(r, chiesta, fonte.env);
     RaccogliRigheRep(model, fonte);
     GrigliaReport griglia = ImpostaGridReport(model, fonte);
     CompilaReport(griglia, model, fonte, banco.scrivania.ambiente,
@@ -135,7 +147,7 @@ EsitoVerbo Componi(Banco& banco, const RichiestaReport& r, const MisuraChiesta& 
     AttesaMuta attesa;
     if (!SalvaReport(banco.scrivania, {griglia, model, fonte}, r.opzioni, banco.fabbrica, attesa,
                      r.out))
-        return Guasto(banco, kGuastoFile, "cannot write " + Utf8DaPath(r.out));
+        return kGuastoFile; // a box has told
     if (banco.json)
         banco.dati << Json()
                           .Oggetto()
@@ -157,9 +169,11 @@ EsitoVerbo VerboReport(Banco& banco, Parole parole) {
         parole,
         OpzioniMisura({"out", "kind", "detector2", "margin", "separator", "decimal", "paper"}),
         {"header", "summary"});
-    const RichiestaReport r = LeggiRichiesta(argomenti);
+    RichiestaReport r = LeggiRichiesta(argomenti);
     if (!r.errore.empty())
         return UsoErrato(banco, "report", r.errore);
+    CaricaPannelloReport(banco.scrivania);
+    r.opzioni.ColumnSeparator = ColumnSeparator(banco.scrivania.env.ExportMode);
     MisuraChiesta chiesta;
     const EsitoVerbo esito =
         ApriDaOpzioni(banco, "report", argomenti, Partenza::ComeMisurata, chiesta);
@@ -167,6 +181,8 @@ EsitoVerbo VerboReport(Banco& banco, Parole parole) {
         return esito;
     if (const std::string assente = DetectorAssente(r, chiesta.misura); !assente.empty())
         return Guasto(banco, kRifiutato, assente);
+    // In a unit that is not the measure's the trace keeps its place in the picture.
+    chiesta.setup.RefLevel = RiferimentoInUnita(chiesta.misura.header.Setup, chiesta.setup.UnitId);
     return Componi(banco, r, chiesta);
 }
 
