@@ -41,10 +41,10 @@ PuntoPeggiore Punto(const VerdettoLimite& v, float offset) {
 }
 
 std::string Ricevitore(const SetupRecord& run) {
-    std::string testo = Rifila(run.ModelText);
-    if (const std::string serie = Rifila(run.SerialA + run.SerialB); !serie.empty())
+    std::string testo = RifilaControlli(run.ModelText);
+    if (const std::string serie = RifilaControlli(run.SerialA + run.SerialB); !serie.empty())
         testo += (testo.empty() ? "S/N " : ", S/N ") + serie;
-    if (const std::string fw = Rifila(run.FwRelease); !fw.empty())
+    if (const std::string fw = RifilaControlli(run.FwRelease); !fw.empty())
         testo += (testo.empty() ? "firmware " : ", firmware ") + fw;
     return testo;
 }

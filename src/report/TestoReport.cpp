@@ -73,12 +73,12 @@ std::vector<std::string> RigheDati(const ReportModel& model, const MisuraAperta&
     const SetupRecord& run = misura.header.Setup;
     std::vector<std::string> righe;
     // Both fields are 30 characters wide on disk: longer than their labels whatever they hold.
-    if (const std::string sw = Rifila(run.SwRelease); !sw.empty())
+    if (const std::string sw = RifilaControlli(run.SwRelease); !sw.empty())
         righe.push_back("Rel. SW " + sw);
-    if (const std::string fw = Rifila(run.FwRelease); !fw.empty())
+    if (const std::string fw = RifilaControlli(run.FwRelease); !fw.empty())
         righe.push_back("Rel. FW " + fw);
-    const std::string modello = Rifila(run.ModelText);
-    const std::string serie = Rifila(run.SerialA + run.SerialB);
+    const std::string modello = RifilaControlli(run.ModelText);
+    const std::string serie = RifilaControlli(run.SerialA + run.SerialB);
     if (!modello.empty() && !serie.empty())
         righe.push_back(modello + "   S/N: " + serie);
     righe.push_back("Margin: " + TestoDaNumero(model.ReportMargin) + " dB");
