@@ -4,7 +4,7 @@
 
 #include "base/PaginaCodici.h"
 #include "base/Testo.h"
-#include "data/FileProvvisorio.h"
+#include "data/FileFuori.h"
 #include "data/FileTesto.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
@@ -45,15 +45,8 @@ bool Avvisa(const Scrivania& s, const fs::path& percorso) {
     return false;
 }
 
-/// Beside its target first, so that a failed write leaves what is there.
-bool Scrivi(const fs::path& percorso, std::span<const uint8_t> byte) {
-    const fs::path cartella = percorso.has_parent_path() ? percorso.parent_path() : ".";
-    FileProvvisorio file(cartella);
-    return file.Scrivi(byte) && file.Chiudi() && file.Sostituisce(percorso);
-}
-
 bool Scrivi(const fs::path& percorso, const std::string& byte) {
-    return Scrivi(percorso, {reinterpret_cast<const uint8_t*>(byte.data()), byte.size()});
+    return SalvaFuori(percorso, {reinterpret_cast<const uint8_t*>(byte.data()), byte.size()});
 }
 
 /// The header text in lines, as they stand, and one line end more behind a last line that has
@@ -108,7 +101,7 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
     const auto bmp = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Bmp,
                                            FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
     const fs::path immagine = fs::path(percorso).replace_extension("TPI");
-    if (!bmp.empty() && Scrivi(immagine, bmp))
+    if (!bmp.empty() && SalvaFuori(immagine, bmp))
         r.ImagePath = immagine;
     const EsitoDocumento esito = ConvertiTestoInPDFRTF(s, vista, r);
     if (esito != EsitoDocumento::Fatto && esito != EsitoDocumento::Occupato)

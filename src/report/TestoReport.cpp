@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
-#include <span>
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
-#include "records/Unita.h"
 
 namespace orvane {
 namespace {
@@ -40,10 +38,6 @@ void AccodaTestate(std::vector<std::string>& righe, const std::vector<Testata>& 
     for (const auto& riga : celle)
         righe.push_back(Riga(riga, separatore));
     righe.emplace_back();
-}
-
-bool Occupato(const FreqTableElem& e) {
-    return e.Freq != 0;
 }
 
 } // namespace
@@ -102,34 +96,6 @@ std::vector<std::string> TestoReport(const GrigliaReport& griglia, const ReportM
     AccodaTestate(righe, testate, separatore);
     for (const RigaGriglia& riga : griglia.righe)
         righe.push_back(Riga({riga.celle.begin() + 1, riga.celle.end()}, separatore));
-    return righe;
-}
-
-std::vector<std::string> TestoFreqTab(const std::string& nome, const FrequencyTable& tabella,
-                                      int unitId, const std::string& separatore) {
-    const auto fine = std::ranges::find_if_not(tabella.Elementi, Occupato);
-    const std::span<const FreqTableElem> punti(tabella.Elementi.begin(), fine);
-    const bool posizioni = std::ranges::any_of(punti, [](const FreqTableElem& e) {
-        return e.Mast != kNessunaPosizione || e.Table != kNessunaPosizione;
-    });
-    std::vector<Testata> testate = {{"Frequency", "", "MHz"}, {"Level", "", TestoUnita(unitId)}};
-    if (posizioni)
-        testate.insert(testate.end(), {{"Mast", "", "cm"}, {"Table", "", "Deg"}});
-    std::vector<std::string> righe = {nome};
-    AccodaTestate(righe, testate, separatore);
-    double massima = 0;
-    for (const FreqTableElem& e : punti)
-        massima = std::max(massima, e.Freq);
-    for (const FreqTableElem& e : punti) {
-        const auto livello =
-            static_cast<float>(e.Level / 100.0 + static_cast<double>(ImpostaUnita(unitId)));
-        std::vector<std::string> celle = {FormattaFreqRep(e.Freq, massima),
-                                          FormattaLivelloRep(livello)};
-        if (posizioni)
-            celle.insert(celle.end(),
-                         {FormattaPosizioneRep(e.Mast), FormattaPosizioneRep(e.Table)});
-        righe.push_back(Riga(celle, separatore));
-    }
     return righe;
 }
 

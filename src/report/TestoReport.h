@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "records/FreqTableRecord.h"
 #include "report/GrigliaReport.h"
 
 namespace orvane {
@@ -30,9 +29,5 @@ std::vector<std::string> TestoReport(const GrigliaReport& griglia, const ReportM
                                      const MisuraAperta& misura, const std::string& separatore,
                                      const std::vector<std::string>& davanti = {},
                                      const std::vector<std::string>& riassunto = {});
-
-/// A frequency table in the same form; with the columns of positions where it has any.
-std::vector<std::string> TestoFreqTab(const std::string& nome, const FrequencyTable& tabella,
-                                      int unitId, const std::string& separatore);
 
 } // namespace orvane

@@ -13,6 +13,7 @@
 #include "report/RigheReport.h"
 #include "report/SalvaReport.h"
 #include "report/TestoReport.h"
+#include "verbs/AttesaMuta.h"
 #include "verbs/Json.h"
 #include "verbs/MisuraDaOpzioni.h"
 
@@ -118,11 +119,6 @@ std::string DetectorAssente(const RichiestaReport& r, const MisuraAperta& misura
                    kNomiDetector.at(static_cast<size_t>(*detector));
     return {};
 }
-
-struct AttesaMuta : VistaAttesa {
-    void MostraAttesa(const std::string&) override {}
-    void ChiudiAttesa() override {}
-};
 
 /// Colours, margin and separator of the running panel, or the default ones; none is written.
 void CaricaPannelloReport(Scrivania& s) {

@@ -2,10 +2,12 @@
 
 #include "MisuraProva.h"
 #include "base/Testo.h"
+#include "data/ImportaTesto.h"
 #include "data/ScrivaniaProva.h"
 #include "report/ReportHTML.h"
 #include "report/RigheReport.h"
 #include "report/SalvaReport.h"
+#include "report/SalvaTabella.h"
 #include "report/TestoReport.h"
 
 namespace orvane {
@@ -142,16 +144,17 @@ TEST(SalvaReport, FormatByName) {
     EXPECT_EQ(NomeReport("Motor", FormatoReport::Rtf), "Report_Motor.RTF");
 }
 
-TEST(TestoReport, FrequencyTable) {
-    FrequencyTable tabella;
-    tabella.Elementi[0] = {.Freq = 2.5, .Level = 6100, .Mast = 100, .Table = -1};
-    tabella.Elementi[1] = {.Freq = 30, .Level = -50, .Mast = -1, .Table = -1};
-    EXPECT_EQ(TestoFreqTab("Spots", tabella, 1, ";"),
-              (Righe{"Spots", "", "Frequency  ;Level      ;Mast       ;Table      ;",
-                     "           ;           ;           ;           ;",
-                     "[MHz]      ;[dBµV]     ;[cm]       ;[Deg]      ;", "",
-                     " 2.5       ;  61.00    ;   100     ;---        ;",
-                     "30         ;  -0.50    ;---        ;---        ;"}));
+TEST_F(Documenti, TableAsDocument) {
+    const ContenutoTabella tabella{.kind = TableKind::Frequenze,
+                                   .righe = {{.freqMhz = 2.5, .livelloCent = 6100}},
+                                   .titolo = "Spots"};
+    ASSERT_TRUE(SalvaTabellaCome(s, tabella, "Lamp", Host("a.rtf"), muta));
+    const std::string rtf = Prendi("a.rtf");
+    for (const char* parte : {"Spots", "2.5", "61.00"})
+        EXPECT_TRUE(Contiene(rtf, parte)) << parte;
+    EXPECT_EQ(Nomi(""), (Righe{"a.rtf"}));
+    ASSERT_TRUE(SalvaTabellaCome(s, tabella, "Lamp", Host("a.txt"), muta));
+    EXPECT_EQ(Prendi("a.txt"), TestoTabella(tabella, ""));
 }
 
 } // namespace

@@ -60,9 +60,10 @@ class Misura:
                 passo[3] = passo[0] - caso.randint(0, 1500) if caso.random() < 0.9 else NESSUN_LIVELLO
                 campioni.append((start + k * step, passo))
             self.righe.append((start, stop, step, campioni))
-        # Exactly at a limit, at a margin, and a hundredth of a dB short of it.
-        for k, cent in ((57, 6000), (20, 4550), (21, 4549)):
-            self.righe[0][3][k][1][3 if cent < 5000 else 0] = cent
+        # Exactly at a limit and at a margin below, and a hundredth of a dB short of both.
+        for linea, k, detector, cent in ((1, 40, 0, 6000), (1, 41, 0, 5999), (0, 20, 3, 5450),
+                                         (0, 21, 3, 5449)):  # fmt: skip
+            self.righe[linea][3][k][1][detector] = cent
 
     def Scrivi(self, cartella):
         (cartella / "Limits").mkdir(parents=True)
