@@ -6,6 +6,7 @@
 
 #include "base/Testo.h"
 #include "data/FileProvvisorio.h"
+#include "data/NomiDisco.h"
 #include "report/CreaFilePDF.h"
 #include "report/CreaFileRTF.h"
 
@@ -40,16 +41,21 @@ bool Riuscito(EsitoDocumento esito) {
     return esito == EsitoDocumento::Fatto || esito == EsitoDocumento::SenzaImmagine;
 }
 
-EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool pdf) {
-    const fs::path provvisorio = s.albero.Radice() / (pdf ? "Untitled.pdf" : "Untitled.rtf");
+/// Where the document is made first: never the target itself, which a failure would tear.
+fs::path Provvisorio(const Scrivania& s, const fs::path& scelto, bool pdf) {
+    const std::string nome = pdf ? "Untitled.pdf" : "Untitled.rtf";
     std::error_code errore;
-    const bool proprioQuello =
-        fs::weakly_canonical(r.OutPath, errore) == fs::weakly_canonical(provvisorio, errore);
-    const CancellaAllaFine resto{proprioQuello ? fs::path() : provvisorio};
-    const EsitoDocumento esito = pdf ? CreaFilePDF(s, r, provvisorio) : CreaFileRTF(r, provvisorio);
-    if (!Riuscito(esito) || proprioQuello)
+    const bool proprioQuello = fs::equivalent(scelto, s.albero.Radice() / nome, errore);
+    return s.albero.Radice() / (proprioQuello ? "~" + nome : nome);
+}
+
+EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool pdf) {
+    const CancellaAllaFine resto{Provvisorio(s, r.OutPath, pdf)};
+    const EsitoDocumento esito =
+        pdf ? CreaFilePDF(s, r, resto.percorso) : CreaFileRTF(r, resto.percorso);
+    if (!Riuscito(esito))
         return esito;
-    return CopiaSopra(provvisorio, r.OutPath) ? esito : EsitoDocumento::NonScritto;
+    return CopiaSopra(resto.percorso, r.OutPath) ? esito : EsitoDocumento::NonScritto;
 }
 
 } // namespace
@@ -59,17 +65,17 @@ std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& r) {
     case EsitoDocumento::Fatto:
         return {};
     case EsitoDocumento::SenzaImmagine:
-        return "Failed loading " + r.ImagePath.string() + "\rThe report has no picture";
+        return "Failed loading " + Utf8DaPath(r.ImagePath) + "\rThe report has no picture";
     case EsitoDocumento::AltraEstensione:
-        return r.OutPath.string() + " is neither PDF nor RTF";
+        return Utf8DaPath(r.OutPath) + " is neither PDF nor RTF";
     case EsitoDocumento::Occupato:
-        return r.OutPath.string() + " Is already open";
+        return Utf8DaPath(r.OutPath) + " Is already open";
     case EsitoDocumento::TabellaIllegibile:
-        return "Failed loading " + r.TablePath.string();
+        return "Failed loading " + Utf8DaPath(r.TablePath);
     case EsitoDocumento::NonScritto:
         break;
     }
-    return "Cannot open file " + r.OutPath.string();
+    return "Cannot open file " + Utf8DaPath(r.OutPath);
 }
 
 EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
@@ -82,7 +88,7 @@ EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
     fs::path scelto = r.OutPath;
     if (pdf && !ControllaFilePDFAperto(s.ambiente, scelto))
         return EsitoDocumento::Occupato;
-    vista.MostraAttesa("Creating File " + r.OutPath.filename().string() + "...\rPlease wait");
+    vista.MostraAttesa("Creating File " + Utf8DaPath(r.OutPath.filename()) + "...\rPlease wait");
     s.ambiente.ElaboraEventi(0, Veglia::Eventi); // so that it is drawn
     const EsitoDocumento esito = CreaECopia(s, r, pdf);
     vista.ChiudiAttesa();

@@ -6,6 +6,7 @@
 
 #include "base/Numeri.h"
 #include "base/Testo.h"
+#include "data/NomiDisco.h"
 #include "report/LeggiBMP.h"
 #include "report/LogoReport.h"
 #include "report/RigheFile.h"
@@ -20,6 +21,8 @@ constexpr int kCentimetri = 3;
 constexpr double kRighePerCm = 2.5;
 constexpr double kUltimaRiga = 1.5;    ///< cm: a line at this height goes to the next page
 constexpr double kPiedeImmagine = 2.0; ///< cm: a picture stays above
+constexpr double kBordoImmagine = 2.5; ///< cm: a wide picture ends so far from `Right`
+constexpr double kBordoAlta = 5.0;     ///< and a high one is so much lower than `Right`
 constexpr float kLogoLargo = 2.0f, kLogoAlto = 1.0f, kLogoDaDestra = 2.5f;
 constexpr float kCorpoPagina = 12.0f, kCorpoTitolo = 15.0f; ///< points
 
@@ -77,17 +80,16 @@ void Pagine::StampaRiga(std::string_view riga) {
 
 void Pagine::StampaImmagine(double ratio) {
     const double destra = m_.Right;
-    double larghezza = destra - 2.5, altezza = larghezza * ratio;
-    int righe = 2 * static_cast<int>(altezza) + 2;
+    double larghezza = destra - kBordoImmagine, altezza = larghezza * ratio;
     if (ratio > 1) {
-        altezza = destra - 5.0;
+        altezza = destra - kBordoAlta;
         larghezza = altezza / ratio;
-        righe = 2 * static_cast<int>(altezza);
     }
     if (altezza > m_.ImageHeightLimit) {
         larghezza *= m_.ImageHeightLimit / altezza;
         altezza = m_.ImageHeightLimit;
     }
+    const int righe = 2 * static_cast<int>(altezza) + (ratio > 1 ? 0 : 2);
     // A picture covers two and a half lines a cm: never fewer, or it would lie on the header.
     const int coperte = static_cast<int>(std::ceil(altezza * kRighePerCm));
     if (Altezza(++n_ + std::max(m_.righeImmagine, coperte)) < kPiedeImmagine)
@@ -185,7 +187,7 @@ EsitoDocumento CreaFilePDF(const Scrivania& s, const RichiestaDocumento& r, fs::
     pdf.PaperSize(static_cast<uint8_t>(r.carattere.ReportPaper));
     pdf.Margin(0);
     pdf.EncodeASCII85(false);
-    pdf.Title(r.Name.empty() ? r.OutPath.filename().string() : r.Name);
+    pdf.Title(r.Name.empty() ? Utf8DaPath(r.OutPath.filename()) : r.Name);
     if (!pdf.InitPDFFile(percorso))
         return EsitoDocumento::NonScritto;
     return ScriviDocumento(pdf, s, r, tabella);

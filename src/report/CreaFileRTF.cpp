@@ -7,6 +7,7 @@
 #include "base/Numeri.h"
 #include "base/PaginaCodici.h"
 #include "base/Testo.h"
+#include "data/NomiDisco.h"
 #include "report/LeggiBMP.h"
 #include "report/RigheFile.h"
 #include "report/ScriviPNG.h"
@@ -65,7 +66,7 @@ void AccodaAscii(std::string& testo, char c) {
 std::string Apertura(const RichiestaDocumento& r) {
     const FoglioRTF& foglio = Foglio(r);
     const std::string margine = TestoIntero(kMargine);
-    const std::string titolo = r.Name.empty() ? r.OutPath.filename().string() : r.Name;
+    const std::string titolo = r.Name.empty() ? Utf8DaPath(r.OutPath.filename()) : r.Name;
     return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1{\\fonttbl{\\f0\\fmodern\\fprq1\\fcharset0 "
            "Courier New;}}\r\n{\\info{\\title " +
            EscapeRTF(titolo) + "}}\r\n\\paperw" + TestoIntero(foglio.larghezza) + "\\paperh" +

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <system_error>
 
+#include "data/NomiDisco.h"
 #include "report/RigheFile.h"
 #include "report/clsPDFCreator.h"
 
@@ -51,7 +52,7 @@ bool ControllaFilePDFAperto(Ambiente& ambiente, std::filesystem::path& percorso)
         std::filesystem::remove(percorso, errore);
     if (!siApre)
         ambiente.Mostra(
-            {.testo = percorso.string() + " Is already open", .icona = Icona::Esclamazione});
+            {.testo = Utf8DaPath(percorso) + " Is already open", .icona = Icona::Esclamazione});
     return siApre;
 }
 

@@ -1,4 +1,5 @@
 // What the PDF writer puts on the disk, byte for byte.
+#include "base/Testo.h"
 #include "data/ScrivaniaProva.h"
 #include "report/Ascii85.h"
 #include "report/LeggiBMP.h"
@@ -72,9 +73,9 @@ TEST_F(PDFCreatorTest, EveryObjectIsWhereItsTwentyByteLineSays) {
         pdf.EndPage();
     }
     const std::string tutto = Finisci();
-    EXPECT_NE(tutto.find("/MediaBox [0 0 842 595.2]"), std::string::npos);
-    EXPECT_NE(tutto.find("/Rotate 90\r"), std::string::npos);
-    EXPECT_NE(tutto.find("/Size 10\r"), std::string::npos);
+    EXPECT_TRUE(Contiene(tutto, "/MediaBox [0 0 842 595.2]"));
+    EXPECT_TRUE(Contiene(tutto, "/Rotate 90\r"));
+    EXPECT_TRUE(Contiene(tutto, "/Size 10\r"));
     const size_t lista = tutto.find("xref\r\n0 11\r\n0000000000 65535 f\r\n");
     ASSERT_NE(lista, std::string::npos);
     for (size_t id = 1; id <= 10; ++id) {
@@ -87,6 +88,8 @@ TEST_F(PDFCreatorTest, EveryObjectIsWhereItsTwentyByteLineSays) {
 TEST_F(PDFCreatorTest, Operators) {
     const auto quadrato = [this](unsigned opzioni) { pdf.Rectangle(0, 0, 1, 1, opzioni); };
     const std::string re = "0 0 1 1 re\r\n";
+    const std::array tratti = {3.0f, 1.5f};
+    const PuntoPdf origine;
     using namespace tracciato;
     const struct {
         std::function<void()> disegna;
@@ -95,34 +98,20 @@ TEST_F(PDFCreatorTest, Operators) {
         {[&] { pdf.SetWordSpacing(1.5f), pdf.SetCharSpacing(-0.25f); }, "1.5 Tw\r\n-0.25 Tc\r\n"},
         {[&] { pdf.SetTextHorizontalScaling(80), pdf.SetTextRenderingMode(2); },
          "80 Tz\r\n2 Tr\r\n"},
-        {[&] {
-             pdf.SetLineWidth(0.1f), pdf.SetLineCap(1), pdf.SetLineJoin(2), pdf.SetMiterLimit(4);
-         },
-         "0.1 w\r\n1 J\r\n2 j\r\n4 M\r\n"},
+        {[&] { pdf.SetLineWidth(0.1f), pdf.SetLineCap(1); }, "0.1 w\r\n1 J\r\n"},
+        {[&] { pdf.SetLineJoin(2), pdf.SetMiterLimit(4); }, "2 j\r\n4 M\r\n"},
         {[&] { pdf.MoveTo(1, 2), pdf.LineTo(3.0004f, -4.0006f); }, "1 2 m\r\n3 -4.001 l\r\n"},
-        {[&] {
-             pdf.Curve({1, 2}, {3, 4}, {5, 6});
-         },
-         "1 2 3 4 5 6 c\r\n"},
-        {[&] { pdf.SetDash({}); }, "[ ] 0 d\r\n"},
-        {[&] {
-             pdf.SetDash(std::array{3.0f, 1.5f});
-         },
-         "[3 1.5 ] 0 d\r\n"},
+        {[&] { pdf.SetDash({}), pdf.SetDash(tratti); }, "[ ] 0 d\r\n[3 1.5 ] 0 d\r\n"},
         // Greys from -255 to 0; beyond, red lies in the low byte.
         {[&] { pdf.SetColorStroke(0), pdf.SetColorFill(-255); }, "0 G\r\n1 g\r\n"},
         {[&] { pdf.SetColorStroke(1), pdf.SetColorFill(0x8000FF); },
          "0.004 0 0 RG\r\n1 0 0.502 rg\r\n"},
         {[&] { pdf.SetColorStroke(-256); }, "0 1 1 RG\r\n"},
-        {[&] { quadrato(kTraccia); }, re + "S\r\n"},
-        {[&] { quadrato(kRiempi); }, re + "f\r\n"},
-        {[&] { quadrato(kRiempi | kTraccia); }, re + "B\r\n"},
+        {[&] { quadrato(kTraccia), quadrato(kRiempi); }, re + "S\r\n" + re + "f\r\n"},
+        {[&] { quadrato(kRiempi | kTraccia), quadrato(0); }, re + "B\r\n" + re + "n\r\n"},
         {[&] { quadrato(kRiempi | kTraccia | kChiudi); }, re + "b\r\n"},
         {[&] { quadrato(kTraccia | kChiudi); }, re + "h\r\nS\r\n"},
-        {[&] { quadrato(0); }, re + "n\r\n"},
-        {[&] {
-             pdf.DrawCircle({0, 0}, 10, kTraccia);
-         },
+        {[&] { pdf.DrawCircle(origine, 10, kTraccia); },
          "10 0 m\r\n10 5.5 5.5 10 0 10 c\r\n-5.5 10 -10 5.5 -10 0 c\r\n"
          "-10 -5.5 -5.5 -10 0 -10 c\r\n5.5 -10 10 -5.5 10 0 c\r\nS\r\n"},
         {[&] { pdf.Arc({.raggioX = 10, .raggioY = 5, .rotazione = 90, .da = 0, .a = 90}); },
@@ -165,15 +154,14 @@ TEST_F(PDFCreatorTest, FontsWithTheirWidths) {
     pdf.BeginPage();
     EXPECT_FALSE(pdf.LoadFont("Fnt3", "Arial", 0)); // it would lie in the page
     const std::string tutto = Finisci();
-    EXPECT_NE(tutto.find("5 0 obj\r\n<< /Type /Font \r/Subtype /TrueType \r/Name /Fnt1\r/BaseFont "
+    EXPECT_TRUE(Contiene(tutto,
+                         "5 0 obj\r\n<< /Type /Font \r/Subtype /TrueType \r/Name /Fnt1\r/BaseFont "
                          "/CourierNew,Italic\r/FirstChar 32\r/LastChar 255\r/FontDescriptor 6 0 R\r"
-                         "/Encoding /WinAnsiEncoding\r/Widths [600 600 "),
-              std::string::npos);
-    EXPECT_NE(tutto.find("7 0 obj\r\n<< /Type /Font \r/Subtype /Type1 \r/Name /Fnt2\r/BaseFont "
-                         "/CourierNew,BoldItalic\r/Encoding /WinAnsiEncoding >>\r\nendobj\r\n"),
-              std::string::npos);
-    EXPECT_NE(tutto.find("/Font <</Fnt1 5 0 R /Fnt2 7 0 R >>\r/ProcSet [/PDF /Text ]\r"),
-              std::string::npos);
+                         "/Encoding /WinAnsiEncoding\r/Widths [600 600 "));
+    EXPECT_TRUE(Contiene(tutto,
+                         "7 0 obj\r\n<< /Type /Font \r/Subtype /Type1 \r/Name /Fnt2\r/BaseFont "
+                         "/CourierNew,BoldItalic\r/Encoding /WinAnsiEncoding >>\r\nendobj\r\n"));
+    EXPECT_TRUE(Contiene(tutto, "/Font <</Fnt1 5 0 R /Fnt2 7 0 R >>\r/ProcSet [/PDF /Text ]\r"));
 }
 
 TEST_F(PDFCreatorTest, FormsHaveTheirOwnStream) {
@@ -184,19 +172,15 @@ TEST_F(PDFCreatorTest, FormsHaveTheirOwnStream) {
     pdf.BeginPage();
     pdf.DrawObject("Box");
     const std::string tutto = Finisci(); // the page that was left open is finished
-    EXPECT_NE(tutto.find("/Subtype /Form\r/FormType 1\r/Name /Box\r/BBox [0 0 100 50]\r"
-                         "/Matrix [1 0 0 1 0 0]\r/Length 6 0 R >>\r\nstream\r\n1 1 m\r\nendstream"),
-              std::string::npos);
-    EXPECT_NE(tutto.find("stream\r\n/Box Do\r\nendstream"), std::string::npos);
-    EXPECT_NE(tutto.find("/XObject <</Box 5 0 R >>"), std::string::npos);
+    EXPECT_TRUE(
+        Contiene(tutto, "/Subtype /Form\r/FormType 1\r/Name /Box\r/BBox [0 0 100 50]\r"
+                        "/Matrix [1 0 0 1 0 0]\r/Length 6 0 R >>\r\nstream\r\n1 1 m\r\nendstream"));
+    EXPECT_TRUE(Contiene(tutto, "stream\r\n/Box Do\r\nendstream"));
+    EXPECT_TRUE(Contiene(tutto, "/XObject <</Box 5 0 R >>"));
 }
 
 TEST_F(PDFCreatorTest, ImagesRawAndEncoded) {
-    const PixelPdf uno{.larghezza = 9,
-                       .altezza = 1,
-                       .bit = 1,
-                       .dati = {0x0A, 0x80},
-                       .paletta = {0, 0, 0, 255, 255, 255}};
+    const PixelPdf uno{9, 1, 1, {0x0A, 0x80}, {0, 0, 0, 255, 255, 255}};
     ASSERT_TRUE(Inizia());
     EXPECT_TRUE(pdf.LoadImgFromArray("I", uno));
     pdf.EncodeASCII85(true);
@@ -206,29 +190,25 @@ TEST_F(PDFCreatorTest, ImagesRawAndEncoded) {
     pdf.MoveTo(1, 1);
     const std::string tutto = Finisci();
     // A first byte LF would be taken for a part of the line end.
-    EXPECT_NE(tutto.find("/ColorSpace [/Indexed /DeviceRGB 1 7 0 R]\r/Length 6 0 R\r>>\r\n"
+    EXPECT_TRUE(Contiene(tutto,
+                         "/ColorSpace [/Indexed /DeviceRGB 1 7 0 R]\r/Length 6 0 R\r>>\r\n"
                          "stream\r\n\n\x80\r\nendstream\r\nendobj\r\n6 0 obj\r\n2\r\nendobj\r\n"
-                         "7 0 obj\r\n<< /Filter /ASCII85Decode /Length 10 >>\r\nstream\r\n"),
-              std::string::npos);
-    EXPECT_NE(
-        tutto.find("/Width 1\r/Height 1\r/Filter /ASCII85Decode\r/BitsPerComponent 8\r"
-                   "/ColorSpace /DeviceRGB\r/Length 9 0 R\r>>\r\nstream\r!<N?~>\r\nendstream"),
-        std::string::npos);
-    EXPECT_NE(tutto.find("/Filter /ASCII85Decode >>\r\nstream\r\n" + InAscii85("1 1 m\r\n") +
-                         "\r\nendstream"),
-              std::string::npos);
-    EXPECT_NE(tutto.find("/XObject <</I 5 0 R /J 8 0 R >>"), std::string::npos);
+                         "7 0 obj\r\n<< /Filter /ASCII85Decode /Length 10 >>\r\nstream\r\n"));
+    EXPECT_TRUE(Contiene(
+        tutto, "/Width 1\r/Height 1\r/Filter /ASCII85Decode\r/BitsPerComponent 8\r"
+               "/ColorSpace /DeviceRGB\r/Length 9 0 R\r>>\r\nstream\r!<N?~>\r\nendstream"));
+    EXPECT_TRUE(Contiene(tutto, "/Filter /ASCII85Decode >>\r\nstream\r\n" + InAscii85("1 1 m\r\n") +
+                                    "\r\nendstream"));
+    EXPECT_TRUE(Contiene(tutto, "/XObject <</I 5 0 R /J 8 0 R >>"));
 }
 
 TEST(Ascii85, GroupsAndTheirEnds) {
     const struct {
         std::string byte, atteso;
-    } casi[] = {{"", "~>"},
-                {std::string(4, '\0'), "z~>"},
-                {std::string(3, '\0'), "!!!!~>"}, // a part is never "z"
-                {"\xFF\xFF\xFF\xFF", "s8W-!~>"},
-                {"Man ", "9jqo^~>"},
-                {"Man s", "9jqo^Er~>"}};
+    } casi[] = {
+        {"", "~>"},          {std::string(4, '\0'), "z~>"},    {"\xFF\xFF\xFF\xFF", "s8W-!~>"},
+        {"Man ", "9jqo^~>"}, {std::string(3, '\0'), "!!!!~>"}, {"Man s", "9jqo^Er~>"},
+    };
     for (const auto& caso : casi)
         EXPECT_EQ(InAscii85(caso.byte), caso.atteso);
 }
@@ -262,20 +242,13 @@ TEST(LeggiBMP, RowsFromTheTopRedFirst) {
 TEST(LeggiBMP, WhatLiesAboutItselfIsNoPicture) {
     auto corto = Bmp({});
     corto.pop_back();
-    const std::vector<uint8_t> casi[] = {{},
-                                         {'B', 'M'},
-                                         corto,
-                                         Bmp({{0, 'P'}}),
-                                         Bmp({{28, 16}}),
-                                         Bmp({{30, 1}}),
-                                         Bmp({{18, 0}}),
-                                         Bmp({{21, 0x7F}}),
-                                         Bmp({{25, 0x80}}),
-                                         Bmp({{13, 0xFF}}),
-                                         Bmp({{10, 10}}),
-                                         Bmp({{17, 0xFF}})};
-    for (const auto& caso : casi)
-        EXPECT_FALSE(LeggiBMP(caso));
+    EXPECT_FALSE(LeggiBMP(corto));
+    EXPECT_FALSE(LeggiBMP({}));
+    constexpr std::pair<size_t, uint8_t> kCasi[] = {{0, 'P'}, {28, 16},   {30, 1},
+                                                    {18, 0},  {21, 0x7F}, {25, 0x80},
+                                                    {10, 10}, {13, 0xFF}, {17, 0xFF}};
+    for (const auto& caso : kCasi)
+        EXPECT_FALSE(LeggiBMP(Bmp({caso}))) << caso.first;
 }
 
 TEST_F(PDFCreatorTest, FailuresReachTheCaller) {
@@ -285,6 +258,10 @@ TEST_F(PDFCreatorTest, FailuresReachTheCaller) {
     std::filesystem::path pieno = "/dev/full";
     ASSERT_TRUE(pdf.InitPDFFile(pieno));
     EXPECT_FALSE(pdf.ClosePDFFile());
+    std::filesystem::path primo = Host("first.pdf"), secondo = Host("second.pdf");
+    ASSERT_TRUE(pdf.InitPDFFile(primo));
+    ASSERT_TRUE(pdf.InitPDFFile(secondo)); // which finishes the first
+    EXPECT_TRUE(Prendi("first.pdf").ends_with("%%EOF\r\r\n"));
     // The day's time with a further digit, in hexadecimal: 221200000.
     EXPECT_EQ(NomeInventatoPdf(ambiente), "~D2F3E80.pdf");
 }
@@ -294,15 +271,10 @@ TEST(FormatNumber, RoundsAndDropsZeros) {
         double valore;
         int cifre;
         std::string atteso;
-    } casi[] = {{0, 3, "0"},
-                {-0.0001, 3, "0"},
-                {1.0005, 3, "1"},
-                {1234.5678, 2, "1234.57"},
-                {-0.05, 3, "-0.05"},
-                {100, 3, "100"},
-                {1e20, 3, "100000000000000000000"},
-                {0.0 / 0.0, 3, "0"},
-                {0.999999, 3, "1"}};
+    } casi[] = {
+        {0, 3, "0"},     {-0.0001, 3, "0"},   {1.0005, 3, "1"},    {1234.5678, 2, "1234.57"},
+        {100, 3, "100"}, {-0.05, 3, "-0.05"}, {0.0 / 0.0, 3, "0"}, {0.999999, 3, "1"},
+    };
     for (const auto& caso : casi)
         EXPECT_EQ(FormatNumber(caso.valore, caso.cifre), caso.atteso);
 }
