@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QImage>
 #include <QPainter>
 #include <QSvgGenerator>
 
@@ -35,13 +34,9 @@ void Disegna(QPaintDevice& dove, int larghezza, int altezza,
 
 bool InPixel(QIODevice& file, int larghezza, int altezza, FormatoImmagine formato,
              const std::function<void(Superficie&)>& disegna) {
-    QImage immagine(larghezza, altezza, QImage::Format_RGB888);
-    if (immagine.isNull())
-        return false;
-    immagine.fill(Qt::white);
-    Disegna(immagine, larghezza, altezza, disegna);
-    return immagine.save(&file, NomeQt(formato),
-                         formato == FormatoImmagine::Jpg ? kQualitaJpg : -1);
+    const QImage immagine = DipingiImmagine(larghezza, altezza, disegna);
+    return !immagine.isNull() && immagine.save(&file, NomeQt(formato),
+                                               formato == FormatoImmagine::Jpg ? kQualitaJpg : -1);
 }
 
 bool InLinee(QIODevice& file, int larghezza, int altezza,
@@ -56,6 +51,16 @@ bool InLinee(QIODevice& file, int larghezza, int altezza,
 }
 
 } // namespace
+
+QImage DipingiImmagine(int larghezza, int altezza,
+                       const std::function<void(Superficie&)>& disegna) {
+    QImage immagine(larghezza, altezza, QImage::Format_RGB888);
+    if (immagine.isNull())
+        return immagine;
+    immagine.fill(Qt::white);
+    Disegna(immagine, larghezza, altezza, disegna);
+    return immagine;
+}
 
 std::vector<uint8_t> FabbricaQt::Dipingi(int larghezza, int altezza, FormatoImmagine formato,
                                          const std::function<void(Superficie&)>& disegna) {
