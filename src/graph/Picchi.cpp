@@ -176,8 +176,10 @@ std::optional<size_t> PiccoDaTastiera(const std::vector<Picco>& picchi, size_t i
 std::optional<PiccoTrovato> TrovaPicco(const PicchiMisura& picchi, const ScalaGrafico& scala,
                                        const RiquadroGriglia& dove, Punto punto,
                                        double raggioPixel) {
-    const Punto pixel = Pixel(scala, dove);
     std::optional<PiccoTrovato> trovato;
+    if (!(dove.larghezza > 0) || !(dove.altezza > 0))
+        return trovato;
+    const Punto pixel = Pixel(scala, dove);
     double entro = raggioPixel;
     for (size_t d = 0; d < kNumDetector; ++d)
         for (size_t i = 0; i < picchi[d].size(); ++i) {

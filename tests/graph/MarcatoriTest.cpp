@@ -108,6 +108,9 @@ TEST(Marcatori, ReadLevelsFactorsAndDistances) {
     EXPECT_EQ(delta.frequenza, "-0.015 MHz");
     EXPECT_EQ(delta.livelli[0].testo, "-3.75");
     EXPECT_EQ(LeggiDelta(misura, 0, 2).livelli[1].testo, "---");
+    EXPECT_TRUE(LeggiMarker(misura, setup, 4).livelli.empty() &&
+                LeggiDelta(misura, 4, 0).frequenza.empty())
+        << "of a longer trace";
 }
 
 TEST(Marcatori, AreDrawnWithinTheAxis) {

@@ -48,6 +48,8 @@ struct MisureVerbiTest : ::testing::Test {
         EXPECT_TRUE(SalvaHeaderSweep(s, PercorsoKSH("M"), scan, setup));
         Traccia(PercorsoRS("M", "M", 0), {3000, 4990, 3000, 5300, 3000});
         Traccia(PercorsoRS("M", "Sub_Measure\\L1", 0), {1234});
+        s.albero.AssicuraCartella("Limits\\");
+        s.albero.AssicuraCartella("Factors\\");
         Tabella(PercorsoLimite("Wide QP"), {1e6f, 4.5e6f}, 6000);
         Tabella(PercorsoLimite("Above, all"), {10e6f, 20e6f}, 6000);
         Tabella(PercorsoFattore("Loop"), {1e5f, 9e6f}, 1000);
