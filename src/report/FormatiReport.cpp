@@ -31,8 +31,12 @@ size_t ByteCarattere(std::string_view utf8) {
 
 } // namespace
 
+double FrequenzaRep(double mhz) {
+    return std::round(mhz * kOttoDecimali) / kOttoDecimali;
+}
+
 std::string FormattaFreqRep(double mhz, double massimaMhz) {
-    const double tonda = std::round(mhz * kOttoDecimali) / kOttoDecimali;
+    const double tonda = FrequenzaRep(mhz);
     const size_t voluti = CifreIntere(massimaMhz);
     const size_t cifre = CifreIntere(tonda);
     return std::string(voluti > cifre ? voluti - cifre : 0, ' ') + TestoDaNumero(tonda);

@@ -11,6 +11,8 @@ namespace orvane {
 /// What a cell without a value shows.
 inline constexpr std::string_view kCellaVuota = "---";
 
+/// A frequency in MHz without what lies behind its eighth decimal.
+double FrequenzaRep(double mhz);
 /// A frequency in MHz with at most 8 decimals, its integer part padded with blanks to the width of
 /// that of `massimaMhz`, the greatest of the table.
 std::string FormattaFreqRep(double mhz, double massimaMhz);

@@ -206,7 +206,7 @@ FrequencyTable TabellaDaGriglia(const GrigliaReport& griglia, const FonteReport&
         const RigaGriglia& riga = griglia.righe[i];
         const bool muta = riga.livello <= kNessunLivelloRep;
         tabella.Elementi[i] = {
-            .Freq = riga.freqMhz,
+            .Freq = FrequenzaRep(riga.freqMhz),
             .Level = static_cast<int16_t>(muta ? 0 : std::lround((riga.livello - offset) * 100)),
             .Mast = riga.mast,
             .Table = riga.table};

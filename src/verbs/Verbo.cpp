@@ -61,7 +61,7 @@ constexpr std::array kVerbi = {
               "MEASURE --out F [--kind 1det|2det|2full] [--detector D] [--detector2 D]\n"
               "        [--margin DB] [--limit A]... [--factor F]... [--unit U] [--sub NAME]\n"
               "        [--header] [--summary] [--separator comma|semicolon|tab]\n"
-              "        [--decimal point|comma] [--paper portrait|landscape]",
+              "        [--decimal point|comma] [--paper portrait|landscape] [--save-table NAME]",
               "what comes near a limit, as TXT, PDF, RTF, CSV or HTML by the name of F",
               VerboReport},
     VoceVerbo{

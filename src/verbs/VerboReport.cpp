@@ -6,8 +6,11 @@
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "console/CambioUnita.h"
+#include "data/CaricaSalva.h"
+#include "data/ModificaTabella.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
+#include "data/TabelleFrequenza.h"
 #include "graph/Verdetto.h"
 #include "records/ImpostazioniReport.h"
 #include "report/RigheReport.h"
@@ -38,6 +41,7 @@ struct RichiestaReport {
     TipoReport tipo = TipoReport::UnDetector;
     std::optional<DetectorKind> detector;
     std::optional<DetectorKind> detector2;
+    std::optional<std::string> tabella;
     std::optional<float> margine; ///< without it the panel's
     OpzioniReport opzioni{.HeaderOn = false};
     std::string errore;
@@ -86,6 +90,7 @@ RichiestaReport LeggiRichiesta(const Argomenti& argomenti) {
     Scegli(r, argomenti, "paper", kFogli, r.opzioni.orizzontale);
     LeggiDetectorDi(r, argomenti, "detector", r.detector);
     LeggiDetectorDi(r, argomenti, "detector2", r.detector2);
+    r.tabella = argomenti.Opzione("save-table");
     r.opzioni.HeaderOn = argomenti.Bandiera("header");
     r.opzioni.riassunto = argomenti.Bandiera("summary");
     return r;
@@ -128,6 +133,34 @@ void CaricaPannelloReport(Scrivania& s) {
         ApplicaEnv(s.env, false);
 }
 
+/// The frequencies of the rows as a frequency table; it must have room for all of them.
+EsitoVerbo SalvaInTabella(Banco& banco, const GrigliaReport& griglia, const FonteReport& fonte,
+                          const std::string& nome) {
+    const Scrivania& s = banco.scrivania;
+    bool intera = false;
+    const FrequencyTable tabella = TabellaDaGriglia(griglia, fonte, intera);
+    if (!intera) {
+        AvvisaModifica(s.ambiente, EsitoModifica::Piena, TableKind::Frequenze);
+        return kRifiutato;
+    }
+    const auto percorso = CmdSave(s, RichiestaTabella(TableKind::Frequenze), nome);
+    if (!percorso)
+        return kRifiutato;
+    if (!SalvaFreqTab(s, FormaFreqTab::Semplice, *percorso, tabella))
+        return kGuastoFile;
+    banco.messaggi << griglia.righe.size() << " points in " << *percorso << "\n";
+    return kFatto;
+}
+
+void Annuncia(Banco& banco, const std::string& file, size_t righe) {
+    Json json;
+    json.Oggetto().Coppia("file", file).Coppia("rows", static_cast<double>(righe)).Chiudi();
+    if (banco.json)
+        banco.dati << json.Documento() << "\n";
+    else
+        banco.dati << file << "\t" << righe << (righe == 1 ? " row\n" : " rows\n");
+}
+
 EsitoVerbo Componi(Banco& banco, const RichiestaReport& r, const MisuraChiesta& chiesta) {
     const FonteReport fonte{
         .misura = chiesta.misura, .setup = chiesta.setup, .env = banco.scrivania.env};
@@ -144,27 +177,17 @@ EsitoVerbo Componi(Banco& banco, const RichiestaReport& r, const MisuraChiesta& 
     if (!SalvaReport(banco.scrivania, {griglia, model, fonte}, r.opzioni, banco.fabbrica, attesa,
                      r.out))
         return kGuastoFile; // a box has told
-    if (banco.json)
-        banco.dati << Json()
-                          .Oggetto()
-                          .Coppia("file", Utf8DaPath(r.out))
-                          .Coppia("rows", static_cast<double>(griglia.righe.size()))
-                          .Chiudi()
-                          .Documento()
-                   << "\n";
-    else
-        banco.dati << Utf8DaPath(r.out) << "\t" << griglia.righe.size()
-                   << (griglia.righe.size() == 1 ? " row\n" : " rows\n");
-    return kFatto;
+    Annuncia(banco, Utf8DaPath(r.out), griglia.righe.size());
+    return r.tabella ? SalvaInTabella(banco, griglia, fonte, *r.tabella) : kFatto;
 }
 
 } // namespace
 
 EsitoVerbo VerboReport(Banco& banco, Parole parole) {
-    const Argomenti argomenti(
-        parole,
-        OpzioniMisura({"out", "kind", "detector2", "margin", "separator", "decimal", "paper"}),
-        {"header", "summary"});
+    const Argomenti argomenti(parole,
+                              OpzioniMisura({"out", "kind", "detector2", "margin", "separator",
+                                             "decimal", "paper", "save-table"}),
+                              {"header", "summary"});
     RichiestaReport r = LeggiRichiesta(argomenti);
     if (!r.errore.empty())
         return UsoErrato(banco, "report", r.errore);

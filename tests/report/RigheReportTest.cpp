@@ -2,7 +2,6 @@
 
 #include "MisuraProva.h"
 #include "aiuto/AmbienteProva.h"
-#include "records/Unita.h"
 #include "report/GrigliaReport.h"
 #include "report/RigheReport.h"
 
@@ -60,20 +59,6 @@ TEST_F(Griglie, MarginDecidesTheRows) {
             model.ReportMargin = caso.margine;
             EXPECT_EQ(Compila(caso.invertita).righe.size(), caso.riga ? 1u : 0u) << unita;
         }
-    }
-}
-
-TEST_F(Griglie, LevelLimitAndDeltaInEveryUnit) {
-    banco.Limite(0, "A", {{1e6f, 60}, {9e6f, 60}});
-    banco.Traccia({Campione(2, 61.25)});
-    for (int16_t unita = 0; unita < 8; ++unita) {
-        banco.setup.UnitId = unita;
-        const auto offset = static_cast<double>(ImpostaUnita(unita));
-        const auto testo = [&](double dB) {
-            const std::string t = FormattaLivelloRep(static_cast<float>(dB + offset));
-            return t.substr(t.find_first_not_of(' '));
-        };
-        EXPECT_EQ(Riga(Compila(), 0), (Celle{testo(61.25), testo(60), "1.25"})) << unita;
     }
 }
 

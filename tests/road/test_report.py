@@ -227,6 +227,13 @@ class Reports(ProvaStrada):
             numerate = [[str(i), *Nudi(r, "---")] for i, r in enumerate(tutte, 1)]
             self.assertEqual(html.righe[1:], numerate)
 
+    def test_rows_as_a_frequency_table(self):
+        _, atteso = self.Report(CASI[0], "r.txt", "--save-table", "Spots")
+        byte = (self.dati / "Table" / "Spots.5SF").read_bytes()
+        letti = [struct.unpack_from("<dh", byte, 10 * i) for i in range(202)]
+        righe = [(round(mhz, 8), round(float(celle[0]) * 100)) for mhz, celle in atteso.righe]
+        self.assertEqual(letti, righe + [(0, 0)] * (202 - len(righe)))
+
     def test_refusals(self):
         for codice, parole in ((2, ["--out", "r.doc"]), (2, []), (2, ["--out", "r.txt", "--kind", "3"]),
                                (1, ["--out", "r.txt", "--detector", "C"]),
