@@ -62,6 +62,13 @@ constexpr std::array kVerbi = {
               "        [--no-settings]",
               "a stored measure as a picture: BMP, PNG, JPG or SVG by the file's extension",
               VerboPicture},
+    VoceVerbo{"report",
+              "MEASURE --out F [--kind 1det|2det|2full] [--detector D] [--detector2 D]\n"
+              "        [--margin DB] [--limit A]... [--factor F]... [--unit U] [--sub NAME]\n"
+              "        [--header] [--summary] [--separator comma|semicolon|tab]\n"
+              "        [--decimal point|comma] [--paper portrait|landscape] [--save-table NAME]",
+              "what comes near a limit, as TXT, PDF, RTF, CSV or HTML by the name of F",
+              VerboReport},
     VoceVerbo{
         "panel", "list | show [NAME|PATH]",
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"

@@ -79,6 +79,7 @@ EsitoVerbo VerboTrace(Banco& banco, Parole parole);
 EsitoVerbo VerboPeaks(Banco& banco, Parole parole);
 EsitoVerbo VerboVerdict(Banco& banco, Parole parole);
 EsitoVerbo VerboPicture(Banco& banco, Parole parole);
+EsitoVerbo VerboReport(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
 EsitoVerbo VerboLimit(Banco& banco, Parole parole);
