@@ -33,12 +33,13 @@ QColor Sopra(const QColor& tinta, const QColor& fondo) {
                             mescola(tinta.blueF(), fondo.blueF()));
 }
 
-/// With the typographic minus and a sign in front of everything but zero.
+/// With the typographic minus and a sign in front of everything but zero; what one decimal would
+/// make zero has two.
 QString TestoDb(double db) {
-    const double arrotondato = std::round(db * 10) / 10;
-    const QString cifre = Q(TestoFisso(std::abs(arrotondato), 1));
-    return arrotondato == 0 ? cifre
-                            : (arrotondato < 0 ? QStringLiteral("−") : QStringLiteral("+")) + cifre;
+    constexpr double kMezzoDecimo = 0.05;
+    const QString cifre =
+        Q(TestoFisso(std::abs(db), std::abs(db) < kMezzoDecimo && db != 0 ? 2 : 1));
+    return db == 0 ? cifre : (db < 0 ? QStringLiteral("−") : QStringLiteral("+")) + cifre;
 }
 
 } // namespace
