@@ -22,6 +22,11 @@ struct SuperficieRegistra : Superficie {
         Penna penna;
         bool ritagliata;
     };
+    struct ColonneFatte {
+        double sinistra;
+        double passo;
+        std::vector<TrattoColonna> colonne;
+    };
     struct TestoFatto {
         Punto dove;
         Ancora ancora;
@@ -39,11 +44,13 @@ struct SuperficieRegistra : Superficie {
 
     std::vector<LineaFatta> linee;
     std::vector<SpezzataFatta> spezzate;
+    std::vector<ColonneFatte> colonne;
     std::vector<TestoFatto> testi;
     std::vector<RettangoloFatto> rettangoli;
     Punto angolo; ///< the picture's corners in the present user coordinates
     Punto opposto;
     int ritagli = 0;
+    bool prendeColonne = false; ///< as a surface of pixels does
 
     double LarghezzaPixel() const override { return larghezza_; }
     double AltezzaPixel() const override { return altezza_; }
@@ -54,6 +61,12 @@ struct SuperficieRegistra : Superficie {
     void Linea(Punto da, Punto a, const Penna& penna) override { linee.push_back({da, a, penna}); }
     void Spezzata(std::span<const Punto> punti, const Penna& penna) override {
         spezzate.push_back({{punti.begin(), punti.end()}, penna, ritagli > 0});
+    }
+    bool Colonne(double sinistra, double passo, std::span<const TrattoColonna> tratti,
+                 const Penna&) override {
+        if (prendeColonne)
+            colonne.push_back({sinistra, passo, {tratti.begin(), tratti.end()}});
+        return prendeColonne;
     }
     void Rettangolo(Punto da, Punto a, int32_t riempimento, double) override {
         rettangoli.push_back({da, a, riempimento});
