@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache qt6-base-dev libqt6svg6-dev libftdi1-dev libgtest-dev python3"
 RUN_PACKAGES="fonts-inter fonts-liberation"
-CHECK_PACKAGES="clang-format"
+CHECK_PACKAGES="clang-format qpdf poppler-utils"
 
 # Installs those of the named packages that are missing; nothing to do costs a fraction of a second.
 install_missing() {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,7 @@ struct SuperficieRegistra : Superficie {
     std::vector<ColonneFatte> colonne;
     std::vector<TestoFatto> testi;
     std::vector<RettangoloFatto> rettangoli;
+    std::vector<std::array<Punto, 3>> triangoli;
     Punto angolo; ///< the picture's corners in the present user coordinates
     Punto opposto;
     int ritagli = 0;
@@ -71,7 +73,9 @@ struct SuperficieRegistra : Superficie {
     void Rettangolo(Punto da, Punto a, int32_t riempimento, double) override {
         rettangoli.push_back({da, a, riempimento});
     }
-    void TriangoloSfumato(const Punto (&)[3], const int32_t (&)[3]) override {}
+    void TriangoloSfumato(const Punto (&v)[3], const int32_t (&)[3]) override {
+        triangoli.push_back({v[0], v[1], v[2]});
+    }
     void Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
                double) override {
         testi.push_back({dove, ancora, testo, colore});
