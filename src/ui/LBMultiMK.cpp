@@ -93,7 +93,8 @@ std::optional<QRectF> LBMultiMK::PostoLibero(double x) const {
     return libero && intorno_.campo.contains(posto) ? std::optional(posto) : std::nullopt;
 }
 
-/// Along the top from the left, the first place that hides no trace, or the one that hides least.
+/// Along the top from the left, the first place that hides no trace and no words, or the one that
+/// hides least.
 QPointF LBMultiMK::PostoDaSolo() const {
     const QRectF& campo = intorno_.campo;
     std::vector<double> inizi = {campo.left()};
@@ -108,9 +109,11 @@ QPointF LBMultiMK::PostoDaSolo() const {
         const auto posto = PostoLibero(x);
         if (!posto)
             continue;
-        const double aria = std::min(
-            0.0,
-            intorno_.cima ? intorno_.cima(posto->left(), posto->right()) - posto->bottom() : 0.0);
+        double aria = std::min(0.0, intorno_.cima ? intorno_.cima(posto->left(), posto->right()) -
+                                                        posto->bottom()
+                                                  : 0.0);
+        for (const QRectF& nome : intorno_.nomi)
+            aria -= posto->intersects(nome) ? height() : 0;
         if (aria > migliore) {
             migliore = aria;
             scelto = posto->topLeft();

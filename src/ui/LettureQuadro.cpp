@@ -165,6 +165,22 @@ QString TestoRighe(const std::vector<RigaLettura>& righe) {
     return pezzi.join(QStringLiteral(", ")).replace(QStringLiteral("Δ"), Tr("delta"));
 }
 
+QString TestoStatoMarker(const ContenutoQuadro& contenuto, const SetupRecord& setup) {
+    const auto [primo, secondo] = contenuto.marcatori.indice;
+    const auto qui = primo ? primo : secondo;
+    if (!qui || *qui >= contenuto.misura.traccia->size() || contenuto.strati.empty())
+        return {};
+    const LetturaMarker lettura = LeggiMarker(contenuto.misura, setup, *qui);
+    QStringList pezzi = {Q(lettura.frequenza)};
+    for (const auto& livello : lettura.livelli)
+        if (const auto d = static_cast<size_t>(livello.detector);
+            contenuto.strati.front().detector[d])
+            pezzi << QLatin1String(kNomiDetector[d]) + QLatin1Char(' ') + Q(livello.testo);
+    const auto unita = static_cast<size_t>(std::clamp<int>(setup.UnitId, 0, 7));
+    return pezzi.join(QStringLiteral("   ")) + QLatin1Char(' ') +
+           Q(TabellaUnitaGrafico()[unita].testo);
+}
+
 QString FrequenzaCampione(const MisuraAperta& misura, size_t indice) {
     return Q(LeggiMarker(misura, {}, indice).frequenza);
 }
@@ -181,28 +197,34 @@ QString TestoPicco(const MisuraAperta& misura, DetectorKind detector, const Picc
                                                    : TestoFrequenza(picco.freqMhz));
 }
 
-double DisegnaLegenda(QPainter& p, QPointF angolo, const std::vector<VoceLegenda>& voci,
-                      const QPalette& tavolozza) {
+void DisegnaLegenda(QPainter& p, const QRectF& riga, const std::vector<VoceLegenda>& voci,
+                    const QPalette& tavolozza) {
     if (voci.size() < 2)
-        return 0;
+        return;
     constexpr double kCampione = 18;
+    constexpr double kStacco = 6; ///< between the samples and the name
+    constexpr double kFra = 20;
     const QFontMetricsF metrica(p.font());
+    const double posto = (riga.width() + kFra) / double(voci.size()) - kCampione - kStacco - kFra;
     p.setRenderHint(QPainter::Antialiasing);
-    double x = angolo.x();
+    double x = riga.left();
     for (const VoceLegenda& voce : voci) {
         // Up to six thin samples, spread over the height of the name.
-        const double passo = metrica.height() / double(voce.colori.size() + 1);
-        double riga = angolo.y();
+        const double passo = riga.height() / double(voce.colori.size() + 1);
+        double y = riga.top();
         for (const QColor& colore : voce.colori) {
-            riga += passo;
+            y += passo;
             p.setPen(QPen(colore, 2));
-            p.drawLine(QPointF(x, riga), QPointF(x + kCampione, riga));
+            p.drawLine(QPointF(x, y), QPointF(x + kCampione, y));
         }
+        x += kCampione + kStacco;
+        const QString nome = metrica.elidedText(voce.nome, Qt::ElideRight, posto);
+        const double largo = metrica.horizontalAdvance(nome);
         p.setPen(Tinta(tavolozza, voce.viva ? Ruolo::Testo : Ruolo::Tenue));
-        p.drawText(QPointF(x + kCampione + 6, angolo.y() + metrica.ascent()), voce.nome);
-        x += kCampione + metrica.horizontalAdvance(voce.nome) + 26;
+        p.drawText(QRectF(x, riga.top(), largo + 1, riga.height()),
+                   Qt::AlignVCenter | Qt::TextDontClip, nome);
+        x += largo + kFra;
     }
-    return metrica.height();
 }
 
 } // namespace orvane

@@ -92,11 +92,10 @@ void MainPict::DisponiFigli() {
         if (indice && *indice < Traccia().size())
             if (const auto x = PostoX(Traccia()[*indice].freqMhz))
                 evita.push_back(*x);
-    const double legenda =
-        VociLegenda().size() > 1 ? QFontMetricsF(CarattereLettura()).height() + kOrlo : 0;
-    lettura_->Posiziona({.campo = griglia.adjusted(kOrlo, kOrlo + legenda, -kOrlo, -kOrlo),
+    lettura_->Posiziona({.campo = griglia.adjusted(kOrlo, kOrlo, -kOrlo, -kOrlo),
                          .evita = std::move(evita),
                          .occupato = occupato,
+                         .nomi = nomiLimiti_,
                          .cima = [this](double da, double a) { return CimaTracce(da, a); }});
 }
 
@@ -150,7 +149,9 @@ void MainPict::DisegnaStratoTracce() {
     }
     p.scale(Rapporto(), Rapporto());
     p.setFont(CarattereLettura());
-    DisegnaLegenda(p, Griglia().topLeft() + QPointF(kOrlo + 2, kOrlo), VociLegenda(), palette());
+    const QRectF griglia = Griglia();
+    DisegnaLegenda(p, {griglia.left(), 0, griglia.width(), griglia.top()}, VociLegenda(),
+                   palette());
     stratoValido_ = true;
 }
 
@@ -162,9 +163,10 @@ void MainPict::DisegnaLimiti(Superficie& superficie) {
     }
 }
 
-/// Over the traces, and off the badges.
+/// Over the traces, and off the badges. The reading then keeps off the names.
 void MainPict::ScriviNomiLimiti(Superficie& superficie) {
     const double r = Rapporto();
+    const size_t primi = badge_.size();
     std::vector<RettangoloTesto> occupati;
     for (const LBVerdetto* badge : badge_) {
         const QRect b = badge->geometry();
@@ -177,6 +179,11 @@ void MainPict::ScriviNomiLimiti(Superficie& superficie) {
                          Rgb(c.red(), c.green(), c.blue()),
                          TinteQuadro(Modo(), font()).altezzaTesto, occupati);
     }
+    std::vector<QRectF> nomi;
+    for (const RettangoloTesto& o : std::span(occupati).subspan(primi))
+        nomi.emplace_back(QPointF(o.sinistra, o.alto) / r, QPointF(o.destra, o.basso) / r);
+    if (std::exchange(nomiLimiti_, nomi) != nomi)
+        QMetaObject::invokeMethod(this, &MainPict::DisponiFigli, Qt::QueuedConnection);
 }
 
 void MainPict::DisegnaTracceCorsa(Superficie& superficie) {

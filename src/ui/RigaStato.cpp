@@ -45,6 +45,11 @@ void RigaStato::MostraFreqLivello(double mhz, double livello, const QString& uni
         QStringLiteral("%1    %2 %3").arg(TestoFrequenza(mhz), Q(TestoFisso(livello, 1)), unita));
 }
 
+void RigaStato::MostraMarker(const QString& lettura) {
+    marker_ = lettura;
+    freq_->setText(marker_);
+}
+
 void RigaStato::MostraMessaggio(const QString& testo) {
     messaggio_->setText(testo);
     messaggio_->setToolTip(testo);
