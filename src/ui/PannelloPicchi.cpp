@@ -11,6 +11,7 @@
 
 #include "records/ImpostazioniReport.h"
 #include "ui/Moduli.h"
+#include "ui/RigaScelta.h"
 #include "ui/StileConsole.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
@@ -33,6 +34,8 @@ public:
             p->fillRect(o.rect, Tinta(o.palette, Ruolo::Scelta));
         else if (i.row() == sorvolata_)
             p->fillRect(o.rect, Tinta(o.palette, Ruolo::Sorvolo));
+        if (i.column() == 0)
+            SegnaFuoco(*p, o, o.rect);
         p->setPen(Tinta(o.palette, Ruolo::Bordo));
         p->drawLine(o.rect.bottomLeft(), o.rect.bottomRight());
         QFont carattere = o.font;
@@ -85,8 +88,7 @@ PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
-    colonna->addWidget(CreaTesta());
-    colonna->addWidget(CreaFilo(this));
+    testa_ = CreaTesta();
     colonna->addWidget(griglia_, 1);
     colonna->addWidget(vuota_, 1);
     connect(griglia_, &QTableWidget::currentCellChanged, this, [this](int riga) {
@@ -119,7 +121,7 @@ QWidget* PannelloPicchi::CreaTesta() {
     auto* didascalia = CreaDidascalia(tr("Peaks"), testa);
     didascalia->setBuddy(quanti_);
     auto* riga = new QHBoxLayout(testa);
-    riga->setContentsMargins(10, 7, 10, 7);
+    riga->setContentsMargins(0, 0, 0, 0);
     riga->setSpacing(8);
     riga->addWidget(righe_, 1);
     for (QWidget* w :

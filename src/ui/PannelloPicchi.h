@@ -18,6 +18,8 @@ class PannelloPicchi : public QWidget {
 public:
     explicit PannelloPicchi(QWidget* padre);
 
+    /// How many rows, and the buttons: one row, for whoever shows the panel.
+    QWidget* Testa() const { return testa_; }
     /// The table anew; the row stays where its sample is still in it.
     void Mostra(TabellaPicchi tabella, bool conMisura);
     void ImpostaQuanti(int quanti);
@@ -49,6 +51,7 @@ private:
     void Sorvola(int riga);
 
     TabellaPicchi tabella_;
+    QWidget* testa_ = nullptr;
     QLabel* righe_ = nullptr;
     QSpinBox* quanti_ = nullptr;
     QPushButton* tabFreq_ = nullptr;
