@@ -17,6 +17,8 @@ constexpr double kSpazio = 14; ///< between columns
 constexpr double kRiga = 1.3;  ///< in line heights
 /// Kept free around a marker and the edges of the grid.
 constexpr double kDistanza = 12;
+/// Words hidden weigh so much more than as many pixels of a trace.
+constexpr double kPesoNomi = 10;
 /// Places that are tried across the picture.
 constexpr int kPosti = 12;
 
@@ -109,11 +111,11 @@ QPointF LBMultiMK::PostoDaSolo() const {
         const auto posto = PostoLibero(x);
         if (!posto)
             continue;
-        double aria = std::min(0.0, intorno_.cima ? intorno_.cima(posto->left(), posto->right()) -
-                                                        posto->bottom()
-                                                  : 0.0);
-        for (const QRectF& nome : intorno_.nomi)
-            aria -= posto->intersects(nome) ? height() : 0;
+        double aria = intorno_.sotto ? -intorno_.sotto(*posto) : 0;
+        for (const QRectF& nome : intorno_.nomi) {
+            const QRectF sotto = nome & *posto;
+            aria -= kPesoNomi * sotto.width() * sotto.height();
+        }
         if (aria > migliore) {
             migliore = aria;
             scelto = posto->topLeft();

@@ -81,7 +81,11 @@ public:
                              tenue_});
     }
     void Distanze(const LetturaMarker& lettura) {
-        for (const auto& distanza : lettura.distanze)
+        for (const auto& distanza : lettura.distanze) {
+            // A limit that is on without a table says nothing.
+            if (std::ranges::find(contenuto_.limiti, distanza.slot, &LimiteQuadro::slot) ==
+                contenuto_.limiti.end())
+                continue;
             righe.push_back(
                 {Tr("%1 to limit %2")
                      .arg(QLatin1String(kNomiDetector[static_cast<size_t>(distanza.detector)]))
@@ -89,6 +93,7 @@ public:
                  Q(distanza.testo) + QStringLiteral(" dB"),
                  {},
                  ColoreLimite(distanza.slot)});
+        }
     }
 
     std::vector<RigaLettura> righe;

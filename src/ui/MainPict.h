@@ -145,7 +145,8 @@ private:
 
     void Riscala();
     void DisponiFigli();
-    double CimaTracce(double da, double a);
+    double TracceSotto(const QRectF& parte);
+    double AreaSotto(const ColonneTraccia& traccia, const QRectF& parte) const;
     double AltezzaDi(double cent) const;
     void InvalidaTracce();
     void DisegnaSfondo();

@@ -96,28 +96,36 @@ void MainPict::DisponiFigli() {
                          .evita = std::move(evita),
                          .occupato = occupato,
                          .nomi = nomiLimiti_,
-                         .cima = [this](double da, double a) { return CimaTracce(da, a); }});
+                         .sotto = [this](const QRectF& parte) { return TracceSotto(parte); }});
 }
 
-/// The highest place of the measure's traces between two others along the picture.
-double MainPict::CimaTracce(double da, double a) {
-    double livello = scala_.basso;
-    if (haMisura_)
-        misurate_.Vista(CampoMostrato(), std::max(1, static_cast<int>(griglia_.larghezza)));
-    for (size_t i = 0; haMisura_ && i < contenuto_.strati.size(); ++i)
-        for (size_t d = 0; d < kNumDetector; ++d) {
-            const ColonneTraccia* traccia = misurate_.Traccia(i, d);
-            if (!traccia || !mostrati_[d])
-                continue;
-            const auto colonna = [&](double x) {
-                return std::clamp(static_cast<int>(x * Rapporto() - griglia_.sinistra), 0,
-                                  traccia->Quante());
-            };
-            for (int k = colonna(da); k < colonna(a); ++k)
-                if (const auto& c = traccia->Colonna(k); !c.vuota)
-                    livello = std::max(livello, c.massimo + scala_.UnitOffset * 100);
-        }
-    return AltezzaDi(livello);
+/// How much of the measure's traces lies in a part of the picture, logical pixels in a square.
+double MainPict::TracceSotto(const QRectF& parte) {
+    if (!haMisura_)
+        return 0;
+    misurate_.Vista(CampoMostrato(), std::max(1, static_cast<int>(griglia_.larghezza)));
+    double area = 0;
+    for (size_t i = 0; i < contenuto_.strati.size(); ++i)
+        for (size_t d = 0; d < kNumDetector; ++d)
+            if (const ColonneTraccia* traccia = misurate_.Traccia(i, d); traccia && mostrati_[d])
+                area += AreaSotto(*traccia, parte);
+    return area;
+}
+
+double MainPict::AreaSotto(const ColonneTraccia& traccia, const QRectF& parte) const {
+    const auto colonna = [&](double x) {
+        return std::clamp(static_cast<int>(x * Rapporto() - griglia_.sinistra), 0,
+                          traccia.Quante());
+    };
+    double area = 0;
+    for (int k = colonna(parte.left()); k < colonna(parte.right()); ++k) {
+        const auto& c = traccia.Colonna(k);
+        const double cima = AltezzaDi(c.massimo + scala_.UnitOffset * 100);
+        const double fondo = AltezzaDi(c.minimo + scala_.UnitOffset * 100) + 1;
+        if (!c.vuota)
+            area += std::max(0.0, std::min(fondo, parte.bottom()) - std::max(cima, parte.top()));
+    }
+    return area / Rapporto();
 }
 
 void MainPict::DisegnaSfondo() {
@@ -137,13 +145,13 @@ void MainPict::DisegnaStratoTracce() {
     p.setFont(font());
     {
         SuperficieQt superficie(p, strato_.width(), strato_.height());
-        DisegnaLimiti(superficie);
         p.setRenderHint(QPainter::Antialiasing, Modo().aspetto.lisce != 0);
         if (haMisura_)
             DisegnaTracceMisura(superficie);
         else
             DisegnaTracceCorsa(superficie);
         p.setRenderHint(QPainter::Antialiasing);
+        DisegnaLimiti(superficie);
         ScriviNomiLimiti(superficie);
         DisegnaSimboli(superficie);
     }
@@ -177,7 +185,8 @@ void MainPict::ScriviNomiLimiti(Superficie& superficie) {
         const QColor c = ColoreLeggibile(ColoreQt(limite.colore), fondo);
         ScriviNomeLimite(superficie, scala_, griglia_, limite.limite, limite.nome,
                          Rgb(c.red(), c.green(), c.blue()),
-                         TinteQuadro(Modo(), font()).altezzaTesto, occupati);
+                         TinteQuadro(Modo(), font()).altezzaTesto, occupati, {},
+                         Rgb(fondo.red(), fondo.green(), fondo.blue()));
     }
     std::vector<QRectF> nomi;
     for (const RettangoloTesto& o : std::span(occupati).subspan(primi))

@@ -25,6 +25,7 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
     barra_->setRange(0, kParti);
     barra_->setTextVisible(false);
     barra_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
+    messaggio_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     messaggio_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     freq_->setMinimumWidth(fontMetrics().averageCharWidth() * 28);
     auto* riga = new QHBoxLayout(this);
