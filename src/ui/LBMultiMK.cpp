@@ -71,6 +71,8 @@ QSize LBMultiMK::sizeHint() const {
 
 void LBMultiMK::Posiziona(Intorno intorno) {
     intorno_ = std::move(intorno);
+    // A picture that is lower than the reading is better seen without it.
+    setVisible(!righe_.empty() && height() <= intorno_.campo.height());
     Riposiziona();
 }
 
@@ -102,6 +104,10 @@ QPointF LBMultiMK::PostoDaSolo() const {
     std::vector<double> inizi = {campo.left()};
     for (const double x : intorno_.evita)
         inizi.push_back(x + kDistanza);
+    for (const QRectF& nome : intorno_.nomi)
+        inizi.push_back(nome.right() + kDistanza);
+    if (!intorno_.occupato.isEmpty())
+        inizi.push_back(intorno_.occupato.left() - kDistanza - width());
     const double ultimo = campo.right() - width();
     for (int i = 1; i <= kPosti; ++i)
         inizi.push_back(campo.left() + (ultimo - campo.left()) * i / kPosti);

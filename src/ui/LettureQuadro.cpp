@@ -37,6 +37,13 @@ QString Tr(const char* testo) {
     return QCoreApplication::translate("LettureQuadro", testo);
 }
 
+/// A name among other words.
+QString NomeCorto(const std::string& nome) {
+    constexpr qsizetype kLettere = 18;
+    const QString testo = Q(nome);
+    return testo.size() <= kLettere ? testo : testo.first(kLettere - 1) + QStringLiteral("…");
+}
+
 /// Fills the rows of one reading; the colours are made readable on the ground of the panel.
 class Compilatore {
 public:
@@ -56,19 +63,19 @@ public:
                                  Colore(0, d)});
         }
     }
-    /// What the other measures have at this frequency.
-    void AltriStrati(double freqMhz, double unitOffset) {
-        for (size_t i = 1; i < contenuto_.strati.size(); ++i) {
+    /// What the other measures, or the passes, have at this frequency.
+    void AltriStrati(size_t dal, double freqMhz, double unitOffset) {
+        for (size_t i = dal; i < contenuto_.strati.size(); ++i) {
             const StratoQuadro& strato = contenuto_.strati[i];
             const auto vicino = CampioneVicino(*strato.traccia, freqMhz);
             for (size_t d = 0; vicino && d < kNumDetector; ++d)
                 if (const int16_t livello = (*strato.traccia)[*vicino].livello[d];
                     Mostrato(i, d) && livello > kNessunLivello)
-                    righe.push_back(
-                        {Q(strato.nome) + QLatin1Char(' ') + QLatin1String(kNomiDetector[d]),
-                         Q(TestoFisso(livello / 100.0 + unitOffset, 2)),
-                         {},
-                         Colore(i, d)});
+                    righe.push_back({NomeCorto(strato.nome) + QLatin1Char(' ') +
+                                         QLatin1String(kNomiDetector[d]),
+                                     Q(TestoFisso(livello / 100.0 + unitOffset, 2)),
+                                     {},
+                                     Colore(i, d)});
         }
     }
     void Fattori(const LetturaMarker& lettura) {
@@ -153,8 +160,14 @@ std::vector<RigaLettura> RigheMarker(const ContenutoQuadro& contenuto, const Set
         delta = LeggiDelta(contenuto.misura, *primo, *secondo);
     Compilatore c(contenuto, tavolozza);
     c.Titolo(Q(lettura.frequenza), delta ? QStringLiteral("Δ ") + Q(delta->frequenza) : QString());
-    c.Livelli(lettura, delta ? &*delta : nullptr);
-    c.AltriStrati(traccia[*qui].freqMhz, static_cast<double>(ImpostaUnita(setup.UnitId)));
+    // Passes say more than the highest of them, which alone has a difference.
+    const bool passate =
+        !contenuto.strati.empty() && contenuto.strati.front().traccia != contenuto.misura.traccia;
+    if (!passate || delta)
+        c.Livelli(lettura, delta ? &*delta : nullptr);
+    if (!passate || !delta)
+        c.AltriStrati(passate ? 0 : 1, traccia[*qui].freqMhz,
+                      static_cast<double>(ImpostaUnita(setup.UnitId)));
     c.Fattori(lettura);
     c.Distanze(lettura);
     return std::move(c.righe);

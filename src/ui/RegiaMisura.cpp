@@ -59,12 +59,15 @@ DetectorKind PrimoDetector(const MisuraAperta& misura) {
 
 } // namespace
 
-/// A measure that is compared stands beside its reference. The whole of one with several passes is
+/// A measure that is compared stands before its reference. The whole of one with several passes is
 /// shown as its passes, each in a turn of the colours; markers and verdict read the highest of
 /// them.
 std::vector<StratoQuadro> RegiaMisura::StratiPropri(const StatoArchivio& aperta) const {
-    if (aperta.riferimento && Accesa(Sovrapposte::Genere::Riferimento, aperta.riferimento->nome))
-        return StratiConfronto(aperta.misura, *aperta.riferimento, aperta.detector, s_.env);
+    if (aperta.riferimento && Accesa(Sovrapposte::Genere::Riferimento, aperta.riferimento->nome)) {
+        auto strati = StratiConfronto(aperta.misura, *aperta.riferimento, aperta.detector, s_.env);
+        std::ranges::reverse(strati);
+        return strati;
+    }
     const auto passate = Passate(aperta);
     const bool intera = aperta.nodo == 0 && passate.size() > 1;
     std::vector<StratoQuadro> strati;
