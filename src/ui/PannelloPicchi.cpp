@@ -64,6 +64,7 @@ QPushButton* CreaSpento(const char* nome, const QString& testo, const QString& m
 
 PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FRMHighestPeaks"));
+    testa_ = CreaTesta(); // ahead of the table for the Tab key too
     griglia_ =
         Nomina(new QTableWidget(this), QStringLiteral("GridHighestPeaks"), tr("Highest Peaks"));
     griglia_->setFrameShape(QFrame::NoFrame);
@@ -88,7 +89,6 @@ PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
-    testa_ = CreaTesta();
     colonna->addWidget(griglia_, 1);
     colonna->addWidget(vuota_, 1);
     connect(griglia_, &QTableWidget::currentCellChanged, this, [this](int riga) {
