@@ -42,9 +42,7 @@ void AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan) {
 }
 
 void AvviaInLettura(Scrivania& s, LinkPort& link, bool linkScelto) {
-    s.env = {};
-    ApplicaEnv(s.env, false);
-    ControllaParStand(s.env); // names the panels
+    s.env = EnvDefault();
     s.setup = SetupDefault();
     if (s.albero.Esiste(kPannelloEPN))
         CaricaPanelEPN(s, kPannelloEPN);

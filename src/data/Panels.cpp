@@ -14,14 +14,6 @@ namespace {
 
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
 
-void ImpostaEnvDefault(EnvRecord& env) {
-    env.LinkKind = 1;
-    env.LinkPort = 1;
-    env.WaterfallScale = {0, 400};
-    ApplicaEnv(env, false);
-    ControllaParStand(env); // names the panels
-}
-
 /// An older release kept the Manual level as an integer; that field stays as it is.
 void ApplicaManualOld(SetupRecord& setup) {
     if (setup.ManualLevel == 0 && setup.ManualOld != 0)
@@ -56,7 +48,7 @@ std::string PercorsoPannello(std::string_view nome, std::string_view estensione)
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
     s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
-        ImpostaEnvDefault(s.env);
+        s.env = EnvDefault();
         return SalvaPanelEPN(s, percorso);
     }
     const bool letto = LeggiFileRecord(s, percorso, s.env);
@@ -143,6 +135,16 @@ void ApplicaEnv(EnvRecord& env, bool caricato) {
 
 void ImpostaColoriDefault(EnvRecord& env) {
     env.GraphColors = kColoriDefault;
+}
+
+EnvRecord EnvDefault() {
+    EnvRecord env;
+    env.LinkKind = 1;
+    env.LinkPort = 1;
+    env.WaterfallScale = {0, 400};
+    ApplicaEnv(env, false);
+    ControllaParStand(env); // names the panels
+    return env;
 }
 
 SetupRecord SetupDefault() {
