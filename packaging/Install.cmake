@@ -9,6 +9,9 @@ foreach(program orvane orvane-simulator orvane-console)
   endif()
 endforeach()
 
+# Where `orvane` looks for it.
+install(TARGETS orvane-pictures LIBRARY DESTINATION lib/orvane)
+
 if(TARGET orvane-console)
   install(FILES packaging/orvane-console.desktop
           DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -48,7 +51,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "udev")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "udev, fonts-inter, fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "bluez")
 # The libraries that the programs were linked against, as the packaging tools find them.
 find_program(DPKG_SHLIBDEPS dpkg-shlibdeps)

@@ -28,6 +28,7 @@ SEAMS = {
         "link/DriverUsb.h",
         "link/PorteCom.h",
         "graph/Superficie.h",
+        "graph/FabbricaQuadri.h",
         "positioner/BusGpib.h",
     },
 }

@@ -1,7 +1,7 @@
 # What the project needs of Debian 12, and how it gets it. Sourced by run, test and .ci/run.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache qt6-base-dev libftdi1-dev libgtest-dev python3"
-RUN_PACKAGES="fonts-inter"
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache qt6-base-dev libqt6svg6-dev libftdi1-dev libgtest-dev python3"
+RUN_PACKAGES="fonts-inter fonts-liberation"
 CHECK_PACKAGES="clang-format qpdf poppler-utils"
 
 # Installs those of the named packages that are missing; nothing to do costs a fraction of a second.

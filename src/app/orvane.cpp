@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "app/Collegamento.h"
+#include "app/FabbricaDifferita.h"
 #include "base/Interruttori.h"
 #include "base/Numeri.h"
 #include "base/Testo.h"
@@ -121,6 +122,7 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
     Ricevitore ricevitore{ambiente, stato, log, porta, vista};
     StatoCorsa corsa;
     bool interrotto = false;
+    FabbricaDifferita fabbrica;
     Banco banco{.scrivania = scrivania,
                 .ricevitore = ricevitore,
                 .corsa = corsa,
@@ -130,7 +132,8 @@ int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComa
                 .interrotto = interrotto,
                 .dati = std::cout,
                 .messaggi = std::cerr,
-                .json = o.json};
+                .json = o.json,
+                .fabbrica = &fabbrica};
     if (ambiente.tastiera)
         banco.tastiera = {.invio = [&tastiera] { return tastiera.LeggiRiga().has_value(); },
                           .dimentica = [&tastiera] { tastiera.Dimentica(); }};

@@ -22,15 +22,25 @@ double CimaSenzaRiferimento(int unitId) {
 } // namespace
 
 bool ControlladBpTFC(Scrivania& s, int unitId) {
+    return ControlladBpTFC(s.ambiente, s.setup, unitId);
+}
+
+bool ControlladBpTFC(Ambiente& ambiente, const SetupRecord& setup, int unitId) {
     const auto& voce = TabellaUnitaGrafico()[static_cast<size_t>(unitId)];
-    const auto& accesi = s.setup.FactorOn;
+    const auto& accesi = setup.FactorOn;
     if (!voce.chiedeFattore ||
         std::any_of(accesi.begin(), accesi.end(), [](int16_t f) { return f == 1; }))
         return true;
-    s.ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
-                                "\rShould have an active Conversion Factor",
-                       .icona = Icona::Esclamazione});
+    ambiente.Mostra({.testo = "          The selected Unit " + voce.testo +
+                              "\rShould have an active Conversion Factor",
+                     .icona = Icona::Esclamazione});
     return false;
+}
+
+int16_t RiferimentoInUnita(const SetupRecord& setup, int unitId) {
+    const double spostamento = CimaSenzaRiferimento(setup.UnitId) - CimaSenzaRiferimento(unitId);
+    const auto riferimento = std::lround(setup.RefLevel + spostamento);
+    return static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
 }
 
 bool CambiaUnita(Scrivania& s, int unitId) {
@@ -38,9 +48,7 @@ bool CambiaUnita(Scrivania& s, int unitId) {
         return false;
     if (!ControlladBpTFC(s, unitId))
         return false;
-    const double spostamento = CimaSenzaRiferimento(s.setup.UnitId) - CimaSenzaRiferimento(unitId);
-    const auto riferimento = std::lround(s.setup.RefLevel + spostamento);
-    s.setup.RefLevel = static_cast<int16_t>(std::clamp(riferimento, -kRefMax, kRefMax));
+    s.setup.RefLevel = RiferimentoInUnita(s.setup, unitId);
     s.setup.UnitId = static_cast<int16_t>(unitId);
     return SalvaPanelEAM(s, kPannelloEAM);
 }

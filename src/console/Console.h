@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "console/StatoArchivio.h"
 #include "data/Scrivania.h"
 #include "link/Identificazione.h"
 #include "link/Ricevitore.h"
@@ -44,6 +45,7 @@ struct StatoConsole {
     bool avvioInCorso = false;  ///< a live mode is opening the link
     /// The tab to go to once what is under way has unwound.
     std::optional<Modalita> schedaChiesta = {};
+    StatoArchivio archivio = {};
 };
 
 struct Console {

@@ -1,6 +1,7 @@
 #include "console/Console.h"
 
 #include "base/Percorsi.h"
+#include "console/Archivio.h"
 #include "console/Titolo.h"
 #include "data/Panels.h"
 #include "link/Comandi.h"
@@ -70,10 +71,12 @@ bool Entra(Console& c, Modalita modalita) {
         c.vista.ChiudiFinestreAusiliarie();
         return AvviaModoVivo(c, modalita);
     }
-    if (modalita == Modalita::Sweep)
+    if (modalita == Modalita::Sweep) {
         c.vista.EntraSweep();
-    else
-        c.vista.EntraArchivio();
+        return true;
+    }
+    AttivaSweepsArchive(c.scrivania, c.stato.archivio);
+    c.vista.EntraArchivio();
     return true;
 }
 
@@ -135,6 +138,7 @@ void ChiudiModalita(Console& c, Modalita vecchia) {
     switch (vecchia) {
     case Modalita::SweepsArchive:
         c.vista.ChiudiFinestreAusiliarie();
+        LasciaSweepsArchive(c.scrivania, c.stato.archivio);
         return c.vista.PulisciQuadro();
     case Modalita::Sweep:
         return ChiudiSweep(c);

@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
+#include <optional>
 
+#include "base/Testo.h"
 #include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
-#include "data/Incompiute.h"
+#include "data/FileTesto.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 
@@ -25,49 +27,84 @@ std::string TestoData(fs::file_time_type ora) {
     return testo;
 }
 
-/// What the trace files of one directory tell.
-struct FileTraccia {
+constexpr std::string_view kSegnoCorsa = "RUNNING.RUN";
+
+/// "<anything>.RS<digit>", by the key of its name.
+bool EstensioneRS(std::string_view chiave) {
+    if (chiave.size() < 4)
+        return false;
+    const std::string_view coda = chiave.substr(chiave.size() - 4);
+    return coda.starts_with(".RS") && coda[3] >= '0' && coda[3] <= '9';
+}
+
+/// What the files of one directory tell, by one walk.
+struct FileMisura {
     fs::file_time_type prima = fs::file_time_type::max();
     fs::file_time_type ultima = fs::file_time_type::min();
     long long passi = 0;
-    bool Nessuno() const { return ultima < prima; }
+    std::vector<std::string> header; ///< names of the KSH files
+    bool incompiuta = false;
+    bool SenzaTracce() const { return ultima < prima; }
 };
 
-/// "<anything>.RS<digit>"
-bool EstensioneRS(const fs::path& file) {
-    const std::string chiave = ChiaveNome(Utf8DaPath(file.extension()));
-    return chiave.size() == 4 && chiave.starts_with(".RS") && chiave[3] >= '0' && chiave[3] <= '9';
+void PrendiTraccia(FileMisura& file, const fs::directory_entry& voce) {
+    std::error_code errore;
+    const auto lunghezza = voce.file_size(errore);
+    const auto ora = voce.last_write_time(errore);
+    if (errore)
+        return;
+    file.passi += static_cast<long long>(lunghezza / kByteCampione);
+    file.prima = std::min(file.prima, ora);
+    file.ultima = std::max(file.ultima, ora);
 }
 
-FileTraccia RaccogliTracce(const fs::path& cartella) {
-    FileTraccia tracce;
+FileMisura RaccogliFile(const fs::path& cartella) {
+    FileMisura file;
     std::error_code errore;
     for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
          voce.increment(errore)) {
         std::error_code qui;
-        if (!EstensioneRS(voce->path()) || !voce->is_regular_file(qui))
+        if (!voce->is_regular_file(qui))
             continue;
-        const auto lunghezza = voce->file_size(qui);
-        const auto ora = voce->last_write_time(qui);
-        if (qui)
-            continue;
-        tracce.passi += static_cast<long long>(lunghezza / kByteCampione);
-        tracce.prima = std::min(tracce.prima, ora);
-        tracce.ultima = std::max(tracce.ultima, ora);
+        const std::string nome = Utf8DaPath(voce->path().filename());
+        const std::string chiave = ChiaveNome(nome);
+        if (EstensioneRS(chiave))
+            PrendiTraccia(file, *voce);
+        else if (chiave.ends_with(".KSH"))
+            file.header.push_back(nome);
+        else if (chiave == kSegnoCorsa)
+            file.incompiuta = true;
     }
-    return tracce;
+    return file;
 }
 
-void LeggiHeader(const Scrivania& s, VoceArchivio& voce) {
-    SweepHeader header;
+/// The header that the measure goes by: its own, or the only one.
+std::string SceltaHeader(const FileMisura& file, const std::string& misura) {
+    const std::string proprio = ChiaveNome(misura) + ".KSH";
+    for (const std::string& nome : file.header)
+        if (ChiaveNome(nome) == proprio)
+            return nome;
+    return file.header.size() == 1 ? file.header[0] : std::string();
+}
+
+std::optional<SweepHeader> LeggiHeader(const Scrivania& s, const FileMisura& file,
+                                       const std::string& misura) {
+    const std::string nome = SceltaHeader(file, misura);
+    if (nome.empty())
+        return std::nullopt;
     const auto dati =
-        s.albero.Leggi(TrovaKSH(s.albero, voce.nome), DimensioneSuDisco<SweepHeader>());
-    voce.leggibile = dati && LeggiRecord(*dati, header);
-    if (!voce.leggibile)
-        return;
+        s.albero.Leggi(CartellaMisura(misura) + nome, DimensioneSuDisco<SweepHeader>());
+    SweepHeader header;
+    if (!dati || !LeggiRecord(*dati, header))
+        return std::nullopt;
     ControllaScan(header.Scan);
+    return header;
+}
+
+/// Scan lines in use, and the letters of their detectors.
+void RiassumiTabella(const ScanTable& tabella, VoceArchivio& voce) {
     std::array<bool, kNumDetector> inUso{};
-    for (const ScanLine& riga : header.Scan.Righe) {
+    for (const ScanLine& riga : tabella) {
         if (riga.Start == 0)
             continue;
         ++voce.righe;
@@ -80,36 +117,77 @@ void LeggiHeader(const Scrivania& s, VoceArchivio& voce) {
 }
 
 /// The first directory that has any trace file counts.
-FileTraccia TracceDellaMisura(const Scrivania& s, std::string_view misura) {
-    const FileTraccia accanto = RaccogliTracce(s.albero.Host(CartellaMisura(misura)));
-    return accanto.Nessuno() ? RaccogliTracce(s.albero.Host(CartellaSubMisure(misura))) : accanto;
+FileMisura FileDellaMisura(const Scrivania& s, std::string_view misura) {
+    FileMisura file = RaccogliFile(s.albero.Host(CartellaMisura(misura)));
+    if (!file.SenzaTracce())
+        return file;
+    const FileMisura sotto = RaccogliFile(s.albero.Host(CartellaSubMisure(misura)));
+    file.prima = sotto.prima;
+    file.ultima = sotto.ultima;
+    file.passi = sotto.passi;
+    return file;
 }
 
-DateMisura Date(const FileTraccia& tracce) {
-    return tracce.Nessuno() ? DateMisura{}
-                            : DateMisura{TestoData(tracce.prima), TestoData(tracce.ultima)};
+DateMisura Date(const FileMisura& tracce) {
+    return tracce.SenzaTracce() ? DateMisura{}
+                                : DateMisura{TestoData(tracce.prima), TestoData(tracce.ultima)};
 }
 
 } // namespace
 
 DateMisura DataMisura(const Scrivania& s, std::string_view misura) {
-    return Date(TracceDellaMisura(s, misura));
+    return Date(FileDellaMisura(s, misura));
+}
+
+VoceArchivio LeggiVoce(const Scrivania& s, const std::string& nome) {
+    const FileMisura file = FileDellaMisura(s, nome);
+    const DateMisura date = Date(file);
+    VoceArchivio voce{.nome = nome,
+                      .prima = date.prima,
+                      .ultima = date.ultima,
+                      .passi = file.passi,
+                      .incompiuta = file.incompiuta};
+    if (const auto header = LeggiHeader(s, file, nome)) {
+        voce.leggibile = true;
+        RiassumiTabella(header->Scan.Righe, voce);
+    }
+    return voce;
 }
 
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s) {
     std::vector<VoceArchivio> voci;
-    for (std::string& nome : s.albero.ElencaCartelle(cartella::kSweep)) {
-        VoceArchivio& voce = voci.emplace_back();
-        voce.nome = std::move(nome);
-        LeggiHeader(s, voce);
-        voce.incompiuta = MisuraIncompiuta(s.albero, voce.nome);
-        const FileTraccia tracce = TracceDellaMisura(s, voce.nome);
-        voce.passi = tracce.passi;
-        const DateMisura date = Date(tracce);
-        voce.prima = date.prima;
-        voce.ultima = date.ultima;
-    }
+    for (const std::string& nome : ElencaNomiMisure(s, OrdineArchivio::PerNome))
+        voci.push_back(LeggiVoce(s, nome));
     return voci;
+}
+
+std::vector<std::string> ElencaNomiMisure(const Scrivania& s, OrdineArchivio ordine) {
+    std::vector<std::string> nomi = s.albero.ElencaCartelle(cartella::kSweep);
+    if (ordine == OrdineArchivio::PerNome)
+        return nomi;
+    std::vector<std::pair<fs::file_time_type, std::string>> conData;
+    for (std::string& nome : nomi) {
+        const auto ultima = FileDellaMisura(s, nome).ultima;
+        conData.emplace_back(ultima, std::move(nome));
+    }
+    std::stable_sort(conData.begin(), conData.end(),
+                     [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::ranges::transform(conData, nomi.begin(),
+                           [](auto& voce) { return std::move(voce.second); });
+    return nomi;
+}
+
+bool MisuraContiene(const Scrivania& s, const std::string& nome, std::string_view cercato) {
+    const std::string chiave = ChiaveNome(cercato);
+    if (Contiene(ChiaveNome(nome), chiave))
+        return true;
+    const FileMisura file = FileDellaMisura(s, nome);
+    const auto header = LeggiHeader(s, file, nome);
+    if (header && Contiene(ChiaveNome(header->Scan.ScanComment), chiave))
+        return true;
+    const std::string commento = PercorsoCommento(nome);
+    return s.albero.Esiste(commento) &&
+           Contiene(ChiaveNome(CaricaTesto(s, commento).value_or("")), chiave);
 }
 
 } // namespace orvane

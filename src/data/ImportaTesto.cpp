@@ -8,6 +8,7 @@
 #include "base/Numeri.h"
 #include "base/PaginaCodici.h"
 #include "base/Testo.h"
+#include "data/FileFuori.h"
 #include "data/FileProvvisorio.h"
 #include "data/FileTesto.h"
 #include "data/NomiDisco.h"
@@ -198,14 +199,12 @@ bool SalvaComeTesto(const Scrivania& s, const std::filesystem::path& file,
                     const ContenutoTabella& c) {
     const auto header = s.albero.Leggi(kFileHeader).value_or(std::vector<uint8_t>{});
     const std::string testo = TestoTabella(c, std::string(header.begin(), header.end()));
-    std::error_code errore;
-    const auto host = std::filesystem::absolute(file, errore);
-    FileProvvisorio nuovo(host.parent_path());
-    if (nuovo.Scrivi(std::vector<uint8_t>(testo.begin(), testo.end())) && nuovo.Chiudi() &&
-        nuovo.Sostituisce(host))
+    if (SalvaFuori(file, std::vector<uint8_t>(testo.begin(), testo.end())))
         return true;
+    std::error_code errore;
     s.ambiente.Mostra(
-        {.testo = "Cannot open file " + Utf8DaPath(host), .icona = Icona::Esclamazione});
+        {.testo = "Cannot open file " + Utf8DaPath(std::filesystem::absolute(file, errore)),
+         .icona = Icona::Esclamazione});
     return false;
 }
 

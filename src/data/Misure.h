@@ -67,5 +67,15 @@ struct VoceArchivio {
     std::string detector;    ///< letters of all detectors in use
 };
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s);
+/// One row; of a directory that is gone, or holds no header, a row that is not `leggibile`.
+VoceArchivio LeggiVoce(const Scrivania& s, const std::string& nome);
+
+enum class OrdineArchivio { PerNome, PerData };
+/// The names alone, at once: without regard to case, or by the last trace file, the latest first.
+std::vector<std::string> ElencaNomiMisure(const Scrivania& s, OrdineArchivio ordine);
+
+/// Whether what an engineer wrote about a measure contains these words, in any case: its name, the
+/// comment of its scan table, its "Test Comment.TXT". Reads the files when asked.
+bool MisuraContiene(const Scrivania& s, const std::string& nome, std::string_view cercato);
 
 } // namespace orvane

@@ -14,8 +14,6 @@ namespace {
 constexpr int kMaxColonne = 1 << 16;
 /// A nearer neighbour is found by stepping, a farther one by halving.
 constexpr size_t kPassiVicini = 8;
-/// k x Step misses the ends of the axis by its last bits: nearer than 1 mHz is on it.
-constexpr double kTolleranzaMhz = 1e-9;
 
 } // namespace
 
@@ -52,8 +50,8 @@ double ColonneTraccia::Frequenza(int i) const {
 
 bool ColonneTraccia::Trova(double freqMhz) {
     const double ultimo = bordi_.back();
-    if (!std::isfinite(freqMhz) || freqMhz < bordi_.front() - kTolleranzaMhz ||
-        freqMhz > ultimo + kTolleranzaMhz)
+    if (!std::isfinite(freqMhz) || freqMhz < bordi_.front() - kTolleranzaAsseMhz ||
+        freqMhz > ultimo + kTolleranzaAsseMhz)
         return false;
     for (size_t passo = 0; passo < kPassiVicini && qui_ + 1 < estremi_.size(); ++passo)
         if (Dentro(++qui_, freqMhz))

@@ -9,6 +9,9 @@
 
 namespace orvane {
 
+/// k x Step misses the ends of the axis by its last bits: nearer than 1 mHz is on it.
+inline constexpr double kTolleranzaAsseMhz = 1e-9;
+
 /// Extremes by column of one trace. Column edges are computed once, so that a sample costs a
 /// comparison and no logarithm; memory does not grow with the samples.
 ///
@@ -50,6 +53,8 @@ public:
     const std::optional<Vicino>& Destra() const { return destra_; }
 
 private:
+    friend class PiramideTraccia; ///< fills columns without a look at each sample
+
     bool Dentro(size_t colonna, double freqMhz) const {
         return freqMhz >= bordi_[colonna] && freqMhz < bordi_[colonna + 1];
     }

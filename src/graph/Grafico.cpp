@@ -17,16 +17,77 @@ constexpr double kMassimoLivello = 1e7;
 /// Half the width of a sample that stands alone between two gaps, in pixels.
 constexpr double kMezzoPunto = 0.5;
 
-/// Collects one unbroken run after the other and draws each as one line.
+/// Shorter stretches of filled columns stay in the polyline around them.
+constexpr int kMinimoTratto = 8;
+
+/// Collects one unbroken run after the other and draws each as one line; stretches without an empty
+/// column as columns, where the surface takes them.
 class Tracciatore {
 public:
-    Tracciatore(Superficie& superficie, const ScalaGrafico& scala, const Penna& penna)
-        : superficie_(superficie), scala_(scala), penna_(penna) {}
+    Tracciatore(Superficie& superficie, const ScalaGrafico& scala, const ColonneTraccia& traccia,
+                const Penna& penna)
+        : superficie_(superficie), scala_(scala), traccia_(traccia), penna_(penna) {}
 
-    void Colonna(double freqMhz, const ColonneTraccia::Estremi& c) {
+    void Disegna() {
+        if (traccia_.Sinistra())
+            Campione(*traccia_.Sinistra());
+        for (int i = 0; i < traccia_.Quante();) {
+            const int fine = FineTratto(i);
+            if (fine - i < kMinimoTratto || !Tratto(i, fine))
+                for (int k = i; k < fine; ++k)
+                    Colonna(k);
+            i = std::max(fine, i + 1);
+        }
+        if (traccia_.Destra())
+            Campione(*traccia_.Destra());
+        Stacca();
+    }
+    size_t Punti() const { return punti_; }
+
+private:
+    /// Behind the last of the filled columns from `i` on that no gap divides.
+    int FineTratto(int i) const {
+        int fine = i;
+        while (fine < traccia_.Quante() && !traccia_.Colonna(fine).vuota &&
+               (fine == i || !traccia_.Colonna(fine).rottura))
+            ++fine;
+        return fine;
+    }
+    TrattoColonna ColonnaPiena(int i, int da, int fine) const {
+        const auto& c = traccia_.Colonna(i);
+        const double entra = i == da ? c.primo : (traccia_.Colonna(i - 1).ultimo + c.primo) / 2.0;
+        const double esce =
+            i + 1 == fine ? c.ultimo : (c.ultimo + traccia_.Colonna(i + 1).primo) / 2.0;
+        const double offset = scala_.UnitOffset * 100;
+        return {.minimo = c.minimo + offset,
+                .massimo = c.massimo + offset,
+                .entra = entra + offset,
+                .esce = esce + offset};
+    }
+    bool Tratto(int da, int fine) {
+        piene_.clear();
+        for (int i = da; i < fine; ++i)
+            piene_.push_back(ColonnaPiena(i, da, fine));
+        const double passo = scala_.larghezzaPixel / traccia_.Quante();
+        if (!superficie_.Colonne(da * passo, passo, piene_, penna_))
+            return false;
+        // The line from the last sample runs up to the first column, and on from the last one.
+        if (traccia_.Colonna(da).rottura)
+            Stacca();
+        else if (const auto x = PosizioneX(scala_, traccia_.Frequenza(da)); x && !tratto_.empty())
+            Vai(*x, traccia_.Colonna(da).primo, true);
+        Stacca();
+        punti_ += piene_.size();
+        if (const auto x = PosizioneX(scala_, traccia_.Frequenza(fine - 1)))
+            Vai(*x, traccia_.Colonna(fine - 1).ultimo, true);
+        ripresa_ = true;
+        return true;
+    }
+    void Colonna(int i) {
+        const auto& c = traccia_.Colonna(i);
         if (c.rottura)
             Stacca();
-        const auto x = PosizioneX(scala_, freqMhz);
+        const auto x = PosizioneX(scala_, traccia_.Frequenza(i));
         if (!x)
             return;
         Vai(*x, c.primo, true);
@@ -41,6 +102,8 @@ public:
             Vai(*x, vicino.livello, true);
     }
     void Stacca() {
+        if (tratto_.size() == 1 && ripresa_)
+            tratto_.clear();
         if (tratto_.size() == 1) {
             const Punto solo = tratto_.front();
             tratto_ = {{solo.x - kMezzoPunto, solo.y}, {solo.x + kMezzoPunto, solo.y}};
@@ -49,10 +112,8 @@ public:
             superficie_.Spezzata(tratto_, penna_);
         punti_ += tratto_.size();
         tratto_.clear();
+        ripresa_ = false;
     }
-    size_t Punti() const { return punti_; }
-
-private:
     void Vai(double x, int16_t livello, bool sempre) {
         const double y = livello + scala_.UnitOffset * 100;
         if (sempre || tratto_.back().y != y)
@@ -61,9 +122,12 @@ private:
 
     Superficie& superficie_;
     const ScalaGrafico& scala_;
+    const ColonneTraccia& traccia_;
     const Penna& penna_;
     std::vector<Punto> tratto_;
+    std::vector<TrattoColonna> piene_;
     size_t punti_ = 0;
+    bool ripresa_ = false; ///< the line so far is the end of drawn columns alone
 };
 
 bool RangoValido(const ScalaGrafico& scala) {
@@ -108,15 +172,8 @@ size_t DisegnaTraccia(Superficie& superficie, const ScalaGrafico& scala,
         !ImpostaCoordinate(superficie, scala, dove))
         return 0;
     superficie.Ritaglio({0, scala.alto}, {scala.larghezzaPixel, scala.basso});
-    Tracciatore tracciatore(superficie, scala, penna);
-    if (traccia.Sinistra())
-        tracciatore.Campione(*traccia.Sinistra());
-    for (int i = 0; i < traccia.Quante(); ++i)
-        if (!traccia.Colonna(i).vuota)
-            tracciatore.Colonna(traccia.Frequenza(i), traccia.Colonna(i));
-    if (traccia.Destra())
-        tracciatore.Campione(*traccia.Destra());
-    tracciatore.Stacca();
+    Tracciatore tracciatore(superficie, scala, traccia, penna);
+    tracciatore.Disegna();
     superficie.FineRitaglio();
     return tracciatore.Punti();
 }

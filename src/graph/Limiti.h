@@ -15,17 +15,22 @@ namespace orvane {
 std::vector<std::vector<Punto>> LineeLimite(const LimFacRecord& limite, const ScalaGrafico& scala,
                                             const std::optional<CampoMhz>& soloFra = {});
 
-/// Draws a limit clipped to the grid, and its name over the line where that has room: inside the
-/// grid, off the other names in `occupati`, to which it is added.
+/// Draws a limit clipped to the grid.
 void DisegnaLimite(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGriglia& dove,
                    const LimFacRecord& limite, const std::optional<CampoMhz>& soloFra,
                    const Penna& penna);
+
 struct RettangoloTesto {
     double sinistra = 0, alto = 0, destra = 0, basso = 0; ///< pixels of the picture
 };
+/// Writes a limit's name over its line where that has room: inside the grid, off the other names in
+/// `occupati`, to which it is added. Without room it is left out. `fondo`: a thin ground of this
+/// colour behind the name, so that it reads over traces.
 void ScriviNomeLimite(Superficie& superficie, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, const LimFacRecord& limite,
                       const std::string& nome, int32_t colore, double altezzaTesto,
-                      std::vector<RettangoloTesto>& occupati);
+                      std::vector<RettangoloTesto>& occupati,
+                      const std::optional<CampoMhz>& soloFra = {},
+                      const std::optional<int32_t>& fondo = {});
 
 } // namespace orvane

@@ -24,8 +24,8 @@ bool LeggiHeader(Scrivania& s, const std::string& nome, SweepHeader& header) {
     return false;
 }
 
-/// A table by its name: the measure's copy of it, or else the one in the data tree. Empty, and
-/// nothing told, where there is none.
+} // namespace
+
 LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
                           const std::string& locale) {
     LimFacRecord tabella;
@@ -41,8 +41,6 @@ LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura,
     }
     return tabella;
 }
-
-} // namespace
 
 void CampoDellaTabella(const ScanTable& tabella, double& startMhz, double& stopMhz) {
     startMhz = stopMhz = 0;
@@ -96,7 +94,7 @@ void CaricaTracciaMisura(Scrivania& s, MisuraAperta& misura, const SetupRecord& 
     misura.traccia = std::move(traccia);
 }
 
-MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
+MisuraAperta ApriIntestazione(Scrivania& s, const std::string& nome) {
     MisuraAperta misura{.nome = nome, .base = nome};
     misura.leggibile = LeggiHeader(s, nome, misura.header);
     if (!misura.leggibile)
@@ -108,6 +106,13 @@ MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
         for (size_t d = 0; d < kNumDetector; ++d)
             misura.detector[d] |= riga.Start != 0 && riga.Detector[d] != 0;
     misura.date = DataMisura(s, nome);
+    return misura;
+}
+
+MisuraAperta ApriMisura(Scrivania& s, const std::string& nome) {
+    MisuraAperta misura = ApriIntestazione(s, nome);
+    if (!misura.leggibile)
+        return misura;
     CaricaTabelleMisura(s, nome, misura.header.Setup, misura.tabelle);
     CaricaTracciaMisura(s, misura, misura.header.Setup);
     return misura;

@@ -34,11 +34,18 @@ struct MisuraAperta {
 /// path. Limits and factors are those that the header has in use.
 MisuraAperta ApriMisura(Scrivania& s, const std::string& nome);
 
+/// The same without tables and trace.
+MisuraAperta ApriIntestazione(Scrivania& s, const std::string& nome);
+
 /// The tables that `setup` names, into their slots, whether on or not: limits of slots 0 and 1, and
 /// the seven factors. The measure's own copy counts before the table of the same name that lies in
 /// the data tree; without a measure only the latter. Nothing is told of one that is absent.
 void CaricaTabelleMisura(Scrivania& s, const std::string& misura, const SetupRecord& setup,
                          TabelleLimFac& tabelle);
+
+/// A table by its path, such as `PercorsoLimite` gives it: the measure's copy, or else the one in
+/// the data tree. Empty, and nothing told, where there is none.
+LimFacRecord CercaTabella(const Scrivania& s, const std::string& misura, const std::string& locale);
 
 /// Reads the trace of `base` again, merged by `detector` (the first that was measured without one),
 /// and adds the factors that `setup` has on.

@@ -20,7 +20,8 @@ using PicchiMisura = std::array<std::vector<Picco>, kNumDetector>;
 
 /// How far a peak must rise above the higher of the two lowest points between it and the next
 /// higher ground on either side, dB; towards an end of the trace or a gap only the other side
-/// counts.
+/// counts. The highest of a piece rises from its lowest point; of two equal grounds the left one
+/// counts as the higher. So a sample that stands alone, or among none but equals, is no peak.
 inline constexpr double kEmergenzaPicco = 6;
 
 /// Local maxima of a detector that rise by `emergenzaDb` above what surrounds them: highest first,
@@ -28,13 +29,15 @@ inline constexpr double kEmergenzaPicco = 6;
 /// Samples without a level and gaps between lines divide the trace.
 std::vector<Picco> TrovaPicchi(const SweepTrace& traccia, DetectorKind detector, int quanti,
                                double emergenzaDb = kEmergenzaPicco);
-/// The same within a span, ends included, MHz.
+/// Those of them that lie within a span, ends included, MHz: what stands beside it still counts as
+/// higher ground.
 std::vector<Picco> TrovaPicchi(const SweepTrace& traccia, DetectorKind detector, int quanti,
                                double daMhz, double aMhz, double emergenzaDb = kEmergenzaPicco);
 
 enum class VersoPicco { PiuAlto, Prossimo, Sinistra, Destra };
-/// Where the keys take the marker from a sample: the highest peak; the next lower one; the nearest
-/// to the left or to the right. Empty where there is none.
+/// Where the keys take the marker from a sample: always the highest peak; the next lower one, and
+/// from a place that is no peak the highest; the nearest to the left or to the right. Empty where
+/// there is none. The way up begins at the top again: there is no key for the next higher one.
 std::optional<size_t> PiccoDaTastiera(const std::vector<Picco>& picchi, size_t indice,
                                       VersoPicco verso);
 

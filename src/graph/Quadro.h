@@ -48,9 +48,14 @@ struct ContenutoQuadro {
 ContenutoQuadro ComponiQuadro(const MisuraAperta& misura, const SetupRecord& setup,
                               const EnvRecord& env);
 
+/// Adds the limits that the measure's scan lines name, each within its line; one that is shown
+/// whole is not repeated. The measure's own copy of a table counts before the one in the data tree.
+void AggiungiLimitiRighe(const Scrivania& s, ContenutoQuadro& contenuto);
+
 /// How a picture is drawn as a whole.
 struct StileQuadro {
-    TintaGrafico tinta; ///< with `PrintColors` on white, for paper
+    TintaGrafico tinta;     ///< with `PrintColors` on white, for paper
+    int32_t inchiostro = 0; ///< words of the legend and the settings
     double spessoreTracce = 1;
     bool verdetto = true;
     bool legenda = true;
@@ -59,6 +64,10 @@ struct StileQuadro {
 };
 /// Colours of a picture for paper: black on white, print colours of the grid.
 StileQuadro StileStampa(const EnvRecord& env, double altezzaTesto);
+/// As in the window, light or dark.
+StileQuadro StileSchermo(const EnvRecord& env, bool scuro, double altezzaTesto);
+/// Height of the text in a picture of this size, so that it reads alike in each.
+double AltezzaTestoQuadro(int larghezza, int altezza);
 
 /// Everything, from the background to the settings under the graph; `campo` is the span on show.
 void DisegnaQuadro(Superficie& superficie, const ContenutoQuadro& contenuto,

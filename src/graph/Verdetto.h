@@ -37,10 +37,11 @@ struct Verdetto {
     Giudizio insieme = Giudizio::Nessuno; ///< the worst of them
 };
 
-/// The detector that a limit is meant for: `scelto` 1 to 6 names one; 0 goes by words of the title
-/// and name ("QP", "Quasi", "AV", "Avg", "Average", "PK", "Peak", "RMS", "CISPR-AV") as whole
-/// words. One that was not measured, or no such word, gives way to the first measured detector that
-/// reads at or above it.
+/// The detector that a limit is meant for: `scelto` 1 to 6 names one; 0 goes by the first such word
+/// of the title, or else of the name ("QP", "Quasi", "AV", "Avg", "Average", "PK", "Peak", "RMS",
+/// "RMS-AV", "CISPR-AV", and the detectors' own names), as whole words. One that was not measured
+/// gives way to the nearest measured detector that reads at or above it; where there is none it
+/// stays, and nothing can be compared. Without such a word it is the first one measured.
 DetectorKind DetectorDelLimite(int scelto, const std::string& nome, const LimFacRecord& limite,
                                const std::array<bool, kNumDetector>& misurati);
 

@@ -11,6 +11,7 @@
 #include "base/Versione.h"
 #include "data/Panels.h"
 #include "link/Protocollo.h"
+#include "records/ImpostazioniReport.h"
 #include "setup/EsameTabella.h"
 #include "ui/FrmRemoteLink.h"
 #include "ui/InitForm.h"
@@ -111,7 +112,7 @@ QWidget* MainForm::CreaCentro() {
     quadro_ = new MainPict(scrivania_.env, scrivania_.setup, conPiede);
     piede_ = new QStackedWidget(conPiede);
     sweep_ = new PannelloSweep(scrivania_, scan_, piede_);
-    piedeArchivio_ = CreaPiedeArchivio();
+    piedeArchivio_ = new PiedeArchivio(piede_);
     piede_->addWidget(sweep_);
     piede_->addWidget(piedeArchivio_);
     conPiede->addWidget(quadro_);
@@ -141,27 +142,11 @@ QWidget* MainForm::CreaCentro() {
     centro->addWidget(comuni_);
     centro->setStretchFactor(1, 1);
     centro->setSizes({38 * m, 200 * m, 38 * m});
+    regia_ = std::make_unique<RegiaMisura>(scrivania_,
+                                           RegiaMisura::Scena{.quadro = *quadro_,
+                                                              .picchi = piedeArchivio_->Picchi(),
+                                                              .verdetto = archivio_->Verdetto()});
     return centro;
-}
-
-QWidget* MainForm::CreaPiedeArchivio() {
-    auto* piede = new QWidget(piede_);
-    auto* colonna = new QVBoxLayout(piede);
-    colonna->setContentsMargins(0, 0, 0, 0);
-    colonna->setSpacing(0);
-    titoloMisura_ = new QLabel(piede);
-    titoloMisura_->setObjectName(QStringLiteral("LBMisura"));
-    titoloMisura_->setContentsMargins(10, 10, 10, 10);
-    QFont carattere = titoloMisura_->font();
-    carattere.setWeight(QFont::DemiBold);
-    titoloMisura_->setFont(carattere);
-    righeMisura_ = new GridScanTab(righeAperte_, misura_.header.Setup, false, piede);
-    righeMisura_->setObjectName(QStringLiteral("GridRigheMisura"));
-    righeMisura_->setAccessibleName(tr("Scan lines of the measure"));
-    colonna->addWidget(titoloMisura_);
-    colonna->addWidget(CreaFilo(piede));
-    colonna->addWidget(righeMisura_, 1);
-    return piede;
 }
 
 void MainForm::CreaScorciatoie() {
@@ -183,17 +168,15 @@ void MainForm::CollegaPannelli() {
     connect(comuni_, &ColonnaComuni::AncillaryCambiato, sweep_, &PannelloSweep::CambiaAncillary);
     connect(comuni_, &ColonnaComuni::Cambiato, this, [this](ParComune quale) {
         ChiediCambio(console_->corsa.stato, {quale, comuni_->ModoVivo()});
+        SeguiColonna(quale);
     });
-    connect(archivio_, &PannelloArchivio::DetectorCambiato, this, &MainForm::DisegnaMisura);
+    CollegaArchivio();
+    CollegaQuadro();
     for (const auto* divisore : findChildren<QSplitter*>())
         connect(divisore, &QSplitter::splitterMoved, &attesaMisure_, qOverload<>(&QTimer::start));
     attesaMisure_.setSingleShot(true);
     attesaMisure_.setInterval(400);
     connect(&attesaMisure_, &QTimer::timeout, this, &MainForm::SalvaMisurePannelli);
-    attesa_.setSingleShot(true);
-    attesa_.setInterval(60);
-    connect(archivio_, &PannelloArchivio::MisuraScelta, &attesa_, qOverload<>(&QTimer::start));
-    connect(&attesa_, &QTimer::timeout, this, [this] { ApriMisuraScelta(Q(archivio_->Scelta())); });
     connect(quadro_, &MainPict::Puntata, this, [this](double mhz, double livello) {
         if (!console_->corsa.stato.SweepInCorso)
             stato_->MostraFreqLivello(mhz, livello, Unita());
@@ -210,6 +193,7 @@ void MainForm::Carica() {
     AggiornaSegni(*menuBar(), scrivania_.setup);
     comuni_->Carica();
     sweep_->Carica();
+    piedeArchivio_->Picchi().ImpostaQuanti(NumPicchi(scrivania_.env));
     ApplicaAspetto();
     AggiornaEtichette();
 }
@@ -232,10 +216,11 @@ void MainForm::ClickScheda(int scheda) {
 }
 
 void MainForm::CambiaSegno(int16_t SetupRecord::*segno, bool si) {
-    scrivania_.setup.*segno = si ? -1 : 0;
-    SalvaPanelEAM(scrivania_, kPannelloEAM);
+    CambiaPreferenza([segno, si](SetupRecord& setup) { setup.*segno = si ? -1 : 0; });
     if (segno == &SetupRecord::OrderForDate)
-        archivio_->ElencaArchivio();
+        RinnovaElenco();
+    if (segno == &SetupRecord::SymbolOnPeaks)
+        MostraInVista(true);
 }
 
 QString MainForm::DescrizioneLink() const {

@@ -2,12 +2,14 @@
 // records, and calls the procedures; it decides nothing.
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include <QMainWindow>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
 
-#include "graph/MisuraAperta.h"
 #include "console/Console.h"
 #include "data/CaricaSalva.h"
 #include "records/Aspetto.h"
@@ -20,6 +22,8 @@
 #include "ui/PaginaRicevitore.h"
 #include "ui/PannelloArchivio.h"
 #include "ui/PannelloSweep.h"
+#include "ui/PiedeArchivio.h"
+#include "ui/RegiaMisura.h"
 #include "ui/RigaStato.h"
 #include "ui/Striscia.h"
 
@@ -89,7 +93,6 @@ private:
     void CreaFinestra();
     QWidget* CreaBarraModi();
     QWidget* CreaCentro();
-    QWidget* CreaPiedeArchivio();
     void CreaScorciatoie();
     void CollegaPannelli();
     void MostraPannelli(bool archivio, bool sweep, bool vivo);
@@ -99,8 +102,32 @@ private:
     void AbilitaDisabilitaControlli();
     void CreaAvvisiQuadro();
     void MostraEsito(EsitoCorsa esito);
+
+    // The archive, and the measure that a run has ended with.
+    StatoArchivio& InVista();
+    void CollegaArchivio();
+    void CollegaQuadro();
     void ApriMisuraScelta(const QString& nome);
-    void DisegnaMisura(int detector);
+    void RinnovaElenco();
+    void MostraInVista(bool tieni);
+    void MostraVociMisura();
+    void SeguiColonna(ParComune quale);
+    void Chiesta(AzioneMisura azione, const QString& nome);
+    void ConfrontaCon(const QString& nome);
+    void SovrapponiA(const QString& nome);
+    QString ChiediMisura(const QString& titolo);
+    void Elimina(const QString& nome);
+    void TogliStrato(Sovrapposte::Genere genere, const QString& nome);
+    void CambiaPreferenza(const std::function<void(SetupRecord&)>& scrivi);
+    void MostraPicchi(bool si);
+    void CambiaNumPicchi(int quanti);
+    void SalvaTabellaPicchi();
+    void AzioneQuadro(AzioneMenu azione);
+    void SintonizzaManuale(double mhz);
+    void MostraCorsaFinita(const std::string& misura);
+    void PreparaCurveCorsa(const ScanTable& tabella);
+    void LasciaMisura();
+
     void AggiornaEtichette();
     void MostraAsseTabella();
     void CambiaSegno(int16_t SetupRecord::*segno, bool si);
@@ -145,9 +172,7 @@ private:
     QTimer scadenzaMessaggio_;
     QStackedWidget* piede_ = nullptr; ///< the panel of the mode
     PannelloSweep* sweep_ = nullptr;
-    QWidget* piedeArchivio_ = nullptr;
-    QLabel* titoloMisura_ = nullptr;
-    GridScanTab* righeMisura_ = nullptr;
+    PiedeArchivio* piedeArchivio_ = nullptr;
     PaginaRicevitore* ricevitore_ = nullptr;
     ColonnaComuni* comuni_ = nullptr;
     RigaStato* stato_ = nullptr;
@@ -157,11 +182,14 @@ private:
 
     Aspetto aspetto_; ///< as the window shows it
     QString stileFisso_;
-    MisuraAperta misura_;
-    ScanTable righeAperte_{}; ///< lines of the open measure, as the foot of the archive shows them
-    double stopRigaMhz_ = 0;  ///< where the last line drawn has ended
-    QStringList passate_;     ///< names of the passes of this run, in the order of their first
-    bool riceveTasti_ = true; ///< false while the receiver is asked to pause
+    std::unique_ptr<RegiaMisura> regia_;
+    StatoArchivio dopoCorsa_;    ///< what the Sweep tab shows of the run that has ended
+    TabelleLimFac tabelleCorsa_; ///< factors of the run that is on...
+    SetupRecord setupCorsa_;     ///< ...and which of them it began with
+    bool conPicchi_ = true;      ///< `CHKShowHighestPeaks`
+    double stopRigaMhz_ = 0;     ///< where the last line drawn has ended
+    QStringList passate_;        ///< names of the passes of this run, in the order of their first
+    bool riceveTasti_ = true;    ///< false while the receiver is asked to pause
     std::string batteria_;
     std::string nomeCorsa_; ///< the measure that the picture of the Sweep tab belongs to
 };

@@ -62,7 +62,7 @@ void MainForm::ApriFinestra(AzioneMenu azione) {
     case AzioneMenu::Commento:
         return ApriCommento();
     default:
-        return;
+        return AzioneQuadro(azione);
     }
 }
 
@@ -117,6 +117,8 @@ void MainForm::ApplicaAspetto() {
     if (aspetto_.testoTabelle != prima.testoTabelle)
         for (auto* griglia : findChildren<GridScanTab*>())
             griglia->ScalaTesto(aspetto_.testoTabelle);
+    if (aspetto_.testoTabelle != prima.testoTabelle)
+        piedeArchivio_->Picchi().ScalaTesto(aspetto_.testoTabelle);
     if (isVisible() && !StesseMisure(aspetto_, prima))
         DisponiPannelli();
     if (aspetto_.stile != prima.stile && stileFisso_.isEmpty())
@@ -197,7 +199,7 @@ void MainForm::SalvaPannello(bool chiedi) {
 void MainForm::MostraPannello() {
     Carica();
     if (console_->stato.modalita == Modalita::SweepsArchive)
-        archivio_->ElencaArchivio();
+        RinnovaElenco();
     if (console_->stato.modalita == Modalita::Sweep)
         MostraAsseTabella();
     MostraTitolo(TitoloFinestra(*console_));
@@ -213,8 +215,8 @@ void MainForm::ApriTesto(const std::string& percorso, const QString& titolo,
 
 /// Of the open measure, or the one that the next measures begin with.
 void MainForm::ApriCommento() {
-    const bool aperta = console_->stato.modalita == Modalita::SweepsArchive && misura_.leggibile;
-    const std::string misura = aperta ? misura_.nome : std::string();
+    const bool aperta = console_->stato.modalita == Modalita::SweepsArchive && InVista().Mostrata();
+    const std::string misura = aperta ? InVista().misura.nome : std::string();
     const std::string percorso = PercorsoCommento(misura);
     ApriTesto(percorso, aperta ? tr("Test Comment of %1").arg(Q(misura)) : tr("Test Comment"),
               CaricaTesto(scrivania_, percorso));

@@ -8,18 +8,6 @@
 #include "ui/Testi.h"
 
 namespace orvane {
-namespace {
-
-SampleRecord Campione(const CampioneTraccia& c, int detector) {
-    SampleRecord campione;
-    for (size_t d = 0; d < kNumDetector; ++d)
-        if (detector < 0 || static_cast<size_t>(detector) == d)
-            campione.Livello[d] = c.livello[d];
-    return campione;
-}
-
-} // namespace
-
 void MainForm::MostraTitolo(const std::string& titolo) {
     setWindowTitle(Q(titolo));
 }
@@ -42,31 +30,9 @@ void MainForm::MostraPannelli(bool archivio, bool sweep, bool vivo) {
     archivio_->setVisible(archivio);
     pagine_->setCurrentIndex(vivo ? 1 : 0);
     piede_->setCurrentWidget(sweep ? static_cast<QWidget*>(sweep_) : piedeArchivio_);
+    piedeArchivio_->PerSweep(sweep);
     comuni_->setVisible(!vivo);
     AggiornaEtichette();
-}
-
-void MainForm::EntraArchivio() {
-    MostraPannelli(true, false, false);
-    AbilitaVociPannello(*menuBar());
-    quadro_->ImpostaInvito(tr("No measure is open"));
-    if (archivio_->ElencaArchivio() == 0)
-        return ApriMisuraScelta({});
-    archivio_->Scegli(EstraiNomeFile(scrivania_.env.SweepPath));
-    attesa_.stop();
-    ApriMisuraScelta(Q(archivio_->Scelta()));
-}
-
-void MainForm::EntraSweep() {
-    MostraPannelli(false, true, false);
-    AbilitaVociPannello(*menuBar());
-    misura_ = {};
-    quadro_->MostraDetector({true, true, true, true, true, true});
-    quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));
-    sweep_->Carica();
-    stato_->CancellaBarre();
-    quadro_->IniziaTraccia(0, 0);
-    MostraAsseTabella();
 }
 
 void MainForm::EntraModoVivo(Modalita modalita) {
@@ -96,39 +62,6 @@ void MainForm::TerminaProcesso() {
 
 void MainForm::MostraStato(const std::string& testo) {
     stato_->MostraMessaggio(Q(testo));
-}
-
-void MainForm::ApriMisuraScelta(const QString& nome) {
-    misura_ = nome.isEmpty() ? MisuraAperta{} : ApriMisura(scrivania_, S(nome));
-    righeAperte_ = misura_.leggibile ? misura_.header.Scan.Righe : ScanTable{};
-    righeMisura_->Modello().Aggiorna();
-    archivio_->MostraMisura(misura_);
-    titoloMisura_->setText(nome.isEmpty() ? QString() : tr("Scan lines of %1").arg(nome));
-    quadro_->ImpostaInvito(nome.isEmpty()            ? tr("No measure is open")
-                           : !misura_.leggibile      ? tr("%1 cannot be read").arg(nome)
-                           : misura_.traccia->empty() ? tr("%1 holds no samples").arg(nome)
-                                                     : QString());
-    stato_->MostraMessaggio(misura_.leggibile && !misura_.header.Setup.ModelText.empty()
-                                ? QStringLiteral("%1 · %2 FW %3")
-                                      .arg(nome, Q(misura_.header.Setup.ModelText),
-                                           TestoFirmware(misura_.header.Setup.FwRelease))
-                                : nome);
-    DisegnaMisura(-1);
-}
-
-/// All detectors, or the trace merged by one and drawn alone.
-void MainForm::DisegnaMisura(int detector) {
-    quadro_->IniziaTraccia(misura_.startMhz, misura_.stopMhz);
-    quadro_->MostraDetector({true, true, true, true, true, true});
-    std::optional<DetectorKind> scelto;
-    if (detector >= 0)
-        scelto = static_cast<DetectorKind>(detector);
-    CaricaTracciaMisura(scrivania_, misura_, misura_.header.Setup, scelto);
-    for (const CampioneTraccia& c : *misura_.traccia) {
-        if (c.stacco)
-            quadro_->InterrompiTraccia();
-        quadro_->Aggiungi(c.freqMhz, Campione(c, detector));
-    }
 }
 
 void MainForm::AggiornaEtichette() {

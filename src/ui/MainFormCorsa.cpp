@@ -3,6 +3,7 @@
 #include <QMenuBar>
 
 #include "base/Numeri.h"
+#include "data/Interpolazione.h"
 #include "graph/Scala.h"
 #include "ui/MainForm.h"
 #include "ui/Testi.h"
@@ -60,7 +61,8 @@ void MainForm::MostraEsito(EsitoCorsa esito) {
         testo += QStringLiteral(": ") + Q(s.motivo);
     stato_->MostraMessaggio(testo);
     sweep_->AggiornaGriglia();
-    archivio_->ElencaArchivio();
+    if (esito != EsitoCorsa::Rifiutata && !s.misura.empty())
+        MostraCorsaFinita(s.misura);
     AggiornaEtichette();
 }
 
@@ -146,8 +148,10 @@ void MainForm::IniziaTraccia(const ScanTable& tabella, const std::string& misura
     double start = 0;
     double stop = 0;
     CampoDellaTabella(tabella, start, stop);
+    LasciaMisura();
     quadro_->ImpostaInvito({});
     quadro_->IniziaTraccia(start, stop);
+    PreparaCurveCorsa(tabella);
     nomeCorsa_ = misura;
     passate_.clear();
     stopRigaMhz_ = 0;
@@ -169,15 +173,21 @@ void MainForm::AggiungiPassi(const ScanLine& riga, double freqMhz, double passoM
     // A line that begins elsewhere than where the last one ended does not continue it.
     if (freqMhz < stopRigaMhz_ || freqMhz - stopRigaMhz_ > 2 * passoMhz)
         quadro_->InterrompiTraccia();
-    for (size_t i = 0; i < passi.size(); ++i)
-        quadro_->Aggiungi(freqMhz + static_cast<double>(i) * passoMhz, passi[i]);
+    for (size_t i = 0; i < passi.size(); ++i) {
+        const double qui = freqMhz + static_cast<double>(i) * passoMhz;
+        SampleRecord campione = passi[i];
+        AggiungiFattori(campione.Livello,
+                        SommaFattori(tabelleCorsa_, setupCorsa_, static_cast<float>(qui * 1e6)));
+        quadro_->Aggiungi(qui, campione);
+    }
     stopRigaMhz_ = freqMhz + static_cast<double>(passi.size() - 1) * passoMhz;
     stopRigaMhz_ = std::min(stopRigaMhz_, riga.Stop);
 }
 
 void MainForm::MostraFreqLivello(double freqMhz, int16_t livelloCent) {
-    const double livello =
-        livelloCent / 100.0 + static_cast<double>(ImpostaUnita(scrivania_.setup.UnitId));
+    const int fattori = SommaFattori(tabelleCorsa_, setupCorsa_, static_cast<float>(freqMhz * 1e6));
+    const double livello = (livelloCent + fattori) / 100.0 +
+                           static_cast<double>(ImpostaUnita(scrivania_.setup.UnitId));
     stato_->MostraFreqLivello(freqMhz, livello, Unita());
 }
 
@@ -211,10 +221,13 @@ void MainForm::MostraAsseTabella() {
     double start = 0;
     double stop = 0;
     CampoDellaTabella(scan_.Righe, start, stop);
-    const DepositoTracce& mostrato = quadro_->Deposito();
-    if (StessaFrequenza(start, mostrato.Start()) && StessaFrequenza(stop, mostrato.Stop()))
+    const CampoMhz mostrato =
+        quadro_->HaMisura() ? quadro_->Quadro().intero : quadro_->CampoMostrato();
+    if (StessaFrequenza(start, mostrato.start) && StessaFrequenza(stop, mostrato.stop))
         return;
+    LasciaMisura();
     quadro_->IniziaTraccia(start, stop);
+    PreparaCurveCorsa(scan_.Righe);
     quadro_->ImpostaInvito(tr("The sweep is drawn here while it runs"));
 }
 

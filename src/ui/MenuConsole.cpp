@@ -26,6 +26,11 @@ constexpr VoceMenu kFinestra(const char* menu, const char* nome, const char* tes
                              AzioneMenu azione, bool delModo) {
     return {menu, nullptr, nome, testo, azione, nullptr, nullptr, delModo};
 }
+/// On the measure on show.
+constexpr VoceMenu kMisura(const char* menu, const char* nome, const char* testo, AzioneMenu azione,
+                           const char* scorciatoia) {
+    return {menu, nullptr, nome, testo, azione, nullptr, scorciatoia, true};
+}
 /// A mark whose effect belongs to what is not there yet.
 constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
@@ -39,8 +44,9 @@ constexpr VoceMenu kMenu[] = {
     kSeparatore("File"),
     kDopo("File", "MNURetrieve", "Retrieve…"),
     kSeparatore("File"),
-    kDopo("File", "MNUSaveImage", "Save Image…"),
-    kDopo("File", "MNUSsaveClipboard", "Copy Image to Clipboard"),
+    kMisura("File", "MNUSaveImage", "Save Image…", AzioneMenu::SalvaImmagine, "Ctrl+Shift+S"),
+    kMisura("File", "MNUSsaveClipboard", "Copy Image to Clipboard", AzioneMenu::CopiaImmagine,
+            "Ctrl+Shift+C"),
     kSeparatore("File"),
     {"File", nullptr, "CMBExit", "Exit", AzioneMenu::Esci, nullptr, "Ctrl+Q", false},
     kTabelle("MNUMakeLimits", "Limits…", AzioneMenu::Limiti),
@@ -57,6 +63,17 @@ constexpr VoceMenu kMenu[] = {
     {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
     {"Report", "MNUReport", "MNUReportRTF", "RTF…", kNessuna, nullptr, nullptr, true},
     kDopo("Report", "MNUAutoSaveReport", "Auto Save Report"),
+    kMisura("View", "CHKShowHighestPeaks", "Highest Peaks", AzioneMenu::PicchiAlti, "F6"),
+    kSeparatore("View"),
+    kMisura("View", "MNUZoomMarkers", "Zoom Between Markers", AzioneMenu::ZoomMarker, "F7"),
+    kMisura("View", "MNUZoomWhole", "Whole Span", AzioneMenu::ZoomTutto, "F8"),
+    kMisura("View", "MNUZoomBack", "Zoom Back", AzioneMenu::ZoomIndietro, "Shift+F7"),
+    kMisura("View", "MNUZoomForward", "Zoom Forward", AzioneMenu::ZoomAvanti, "Shift+F8"),
+    kSeparatore("View"),
+    kMisura("View", "MNUNextMeasure", "Next Measure", AzioneMenu::MisuraDopo, "Ctrl+Down"),
+    kMisura("View", "MNUPreviousMeasure", "Previous Measure", AzioneMenu::MisuraPrima, "Ctrl+Up"),
+    kMisura("View", "MNUCompareMeasure", "Compare With…", AzioneMenu::Confronta, nullptr),
+    kMisura("View", "MNUOverlayMeasure", "Overlay…", AzioneMenu::Sovrapponi, nullptr),
     {"Tools", nullptr, "MNURemoteLink", "Remote Link…", AzioneMenu::RemoteLink, nullptr, "Ctrl+L",
      false},
     kSeparatore("Tools"),
@@ -66,10 +83,10 @@ constexpr VoceMenu kMenu[] = {
     kMarca("MNUorderForDate", "Order For Date", &S::OrderForDate),
     kMarca("MNUCheckSweepArchiveSize", "Check Sweep Archive Size", &S::CheckSweepArchiveSize),
     kSeparatore("Options"),
-    kMarcaSpenta("MNUSymbolOnPeaks", "Symbol On Peaks", &S::SymbolOnPeaks),
+    kMarca("MNUSymbolOnPeaks", "Symbol On Peaks", &S::SymbolOnPeaks),
     kMarcaSpenta("MNUGX2207FFTSwept", "GX2207 FFT Swept", &S::GX2207FFTSwept),
-    kMarcaSpenta("MNUZoomModeA", "Zoom Mode A", &S::ZoomModeA),
-    kMarcaSpenta("MNUZoomModeB", "Zoom Mode B", &S::ZoomModeB),
+    kMarca("MNUZoomModeA", "Zoom Mode A", &S::ZoomModeA),
+    kMarca("MNUZoomModeB", "Zoom Mode B", &S::ZoomModeB),
     kSeparatore("Options"),
     kFinestra("Options", "MNUAspect", "Aspect…", AzioneMenu::Aspetto, false),
     kFinestra("Options", "MNUColors", "Colours…", AzioneMenu::Colori, false),
@@ -78,7 +95,7 @@ constexpr VoceMenu kMenu[] = {
 };
 
 constexpr const char* kNomiMenu[][2] = {
-    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReports"},
+    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReports"}, {"View", "MNUView"},
     {"Tools", "MNUTools"}, {"Options", "MNUOptions"}, {"Help", "MNUHelp"},
 };
 constexpr const char* kTestoSotto = "Report";
@@ -133,7 +150,7 @@ void AggiungiVoce(QMenu& menu, const VoceMenu& voce, const AzioniMenu& azioni) {
     QMenu& dove = voce.sotto ? *TrovaSotto(menu, voce.sotto) : menu;
     QAction* azione = dove.addAction(QString::fromUtf8(voce.testo));
     azione->setObjectName(QLatin1String(voce.nome));
-    azione->setCheckable(voce.segno != nullptr);
+    azione->setCheckable(voce.segno != nullptr || voce.azione == AzioneMenu::PicchiAlti);
     if (voce.scorciatoia)
         azione->setShortcut(QKeySequence(QLatin1String(voce.scorciatoia)));
     Collega(azione, voce, azioni);
@@ -176,6 +193,29 @@ void AbilitaVociPannello(const QMenuBar& barra) {
     for (const VoceMenu& voce : kMenu)
         if (voce.delModo && voce.azione >= AzioneMenu::ApriPannello)
             Azione(barra, voce.nome)->setEnabled(true);
+}
+
+void AbilitaVociMisura(const QMenuBar& barra, const VociMisura& voci) {
+    struct Voce {
+        const char* nome;
+        bool VociMisura::*quando;
+    };
+    constexpr Voce kVoci[] = {
+        {"MNUSaveImage", &VociMisura::immagine},      {"MNUSsaveClipboard", &VociMisura::immagine},
+        {"CHKShowHighestPeaks", &VociMisura::picchi}, {"MNUSymbolOnPeaks", &VociMisura::simboli},
+        {"MNUZoomMarkers", &VociMisura::immagine},    {"MNUZoomWhole", &VociMisura::immagine},
+        {"MNUZoomBack", &VociMisura::immagine},       {"MNUZoomForward", &VociMisura::immagine},
+        {"MNUNextMeasure", &VociMisura::archivio},    {"MNUPreviousMeasure", &VociMisura::archivio},
+        {"MNUCompareMeasure", &VociMisura::archivio}, {"MNUOverlayMeasure", &VociMisura::archivio},
+    };
+    for (const Voce& voce : kVoci)
+        Azione(barra, voce.nome)->setEnabled(voci.*voce.quando);
+}
+
+void SegnaPicchi(const QMenuBar& barra, bool si) {
+    QAction* azione = Azione(barra, "CHKShowHighestPeaks");
+    const QSignalBlocker zitta(azione);
+    azione->setChecked(si);
 }
 
 } // namespace orvane

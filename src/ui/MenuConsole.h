@@ -20,6 +20,18 @@ enum class AzioneMenu {
     TabFreq,
     TabFreqMast,
     Libreria,
+    // Of the measure on show.
+    SalvaImmagine,
+    CopiaImmagine,
+    PicchiAlti,
+    ZoomMarker,
+    ZoomTutto,
+    ZoomIndietro,
+    ZoomAvanti,
+    MisuraDopo,
+    MisuraPrima,
+    Confronta,
+    Sovrapponi,
     // Windows of the main window's own.
     ApriPannello,
     SalvaPannello,
@@ -58,5 +70,15 @@ void AggiornaSegni(const QMenuBar& barra, const SetupRecord& setup);
 void DisabilitaVociModo(const QMenuBar& barra);
 /// Panels and texts, in the modes that let them be edited.
 void AbilitaVociPannello(const QMenuBar& barra);
+/// What works on the measure on show.
+struct VociMisura {
+    bool immagine = false; ///< picture as a file, zoom
+    bool picchi = false;   ///< `CHKShowHighestPeaks`
+    bool simboli = false;  ///< `MNUSymbolOnPeaks`
+    bool archivio = false; ///< next and previous, comparison
+};
+void AbilitaVociMisura(const QMenuBar& barra, const VociMisura& voci);
+/// The mark of `CHKShowHighestPeaks`.
+void SegnaPicchi(const QMenuBar& barra, bool si);
 
 } // namespace orvane

@@ -1,14 +1,18 @@
 #include "ui/PannelloArchivio.h"
 
-#include <algorithm>
-
 #include <QFormLayout>
+#include <QMenu>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QSplitter>
 #include <QVBoxLayout>
 
 #include "base/Numeri.h"
-#include "base/Testo.h"
+#include "data/Cartelle.h"
 #include "data/Incompiute.h"
+#include "graph/Confronto.h"
+#include "records/ColoriGrafico.h"
 #include "setup/TabellaScan.h"
 #include "ui/IconeScan.h"
 #include "ui/Moduli.h"
@@ -19,70 +23,120 @@
 namespace orvane {
 namespace {
 
-/// "yyyymmdd hh:mm:ss", which sorts.
-std::string ChiaveData(const std::string& data) {
-    return data.size() < 19
-               ? std::string()
-               : data.substr(6, 4) + data.substr(3, 2) + data.substr(0, 2) + data.substr(10);
-}
+constexpr int kRinnovoMs = 300;
 
 } // namespace
 
 PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     : QWidget(padre), scrivania_(scrivania) {
     setObjectName(QStringLiteral("FRMArchivio"));
-    cerca_ = Nomina(new QLineEdit(this), QStringLiteral("TBCerca"), tr("Search the archive"));
-    cerca_->setPlaceholderText(tr("Search name or date"));
-    cerca_->setClearButtonEnabled(true);
-    lista_ = Nomina(new QListWidget(this), QStringLiteral("CBXSweepsArchive"), tr("Measures"));
-    lista_->setFrameShape(QFrame::NoFrame);
-    lista_->setItemDelegate(new DelegatoMisura(lista_));
-    lista_->setMouseTracking(true);
-    lista_->viewport()->setBackgroundRole(QPalette::Window);
-    lista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     CreaAvviso();
+    CreaElenco();
+    auto* sopra = new QWidget(this);
+    auto* elenco = new QVBoxLayout(sopra);
+    elenco->setContentsMargins(0, 0, 0, 0);
+    elenco->setSpacing(0);
+    auto* testa = new QVBoxLayout;
+    testa->setContentsMargins(10, 10, 10, 6);
+    testa->addWidget(cerca_);
+    elenco->addWidget(avviso_);
+    elenco->addLayout(testa);
+    elenco->addWidget(vuota_);
+    elenco->addWidget(lista_, 1);
+    sopra->setMinimumHeight(8 * (fontMetrics().height() + 12));
+    auto* divisore = new QSplitter(Qt::Vertical, this);
+    divisore->setObjectName(QStringLiteral("SplitArchivio"));
+    divisore->setChildrenCollapsible(false);
+    divisore->addWidget(sopra);
+    divisore->addWidget(CreaDettagli());
+    divisore->setStretchFactor(0, 1);
+    auto* colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->addWidget(divisore);
+    rinnovo_.setSingleShot(true);
+    rinnovo_.setInterval(kRinnovoMs);
+    connect(&rinnovo_, &QTimer::timeout, this, &PannelloArchivio::RinnovoChiesto);
+    connect(&file_, &QFileSystemWatcher::directoryChanged, &rinnovo_, qOverload<>(&QTimer::start));
+    auto* tasto = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    connect(tasto, &QShortcut::activated, this, &PannelloArchivio::RinnovoChiesto);
+}
+
+void PannelloArchivio::CreaElenco() {
+    cerca_ = Nomina(new QLineEdit(this), QStringLiteral("TBCerca"), tr("Search the archive"));
+    cerca_->setPlaceholderText(tr("Search name, date, comment"));
+    cerca_->setClearButtonEnabled(true);
+    modello_ = new ModelloArchivio(scrivania_, this);
+    lista_ = Nomina(new ElencoMisure(this), QStringLiteral("CBXSweepsArchive"), tr("Measures"));
+    lista_->setModel(modello_);
     vuota_ = CreaDidascalia(QString(), this);
     vuota_->setWordWrap(true);
     vuota_->setContentsMargins(8, 8, 8, 8);
-    detector_ = Nomina(new QComboBox(this), QStringLiteral("CBXDetectorMeasSweep"),
+    connect(cerca_, &QLineEdit::textChanged, modello_, &ModelloArchivio::Filtra);
+    connect(modello_, &ModelloArchivio::Rinnovata, this, [this] {
+        Scegli(scelta_);
+        vuota_->setVisible(modello_->rowCount() == 0);
+        vuota_->setText(modello_->Quante() == 0
+                            ? tr("No measures yet. Run a scan table in the Sweep tab.")
+                            : tr("No measure matches \"%1\".").arg(cerca_->text()));
+    });
+    connect(lista_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& riga) {
+                if (!riga.isValid())
+                    return;
+                scelta_ = modello_->Nome(riga.row());
+                Q_EMIT MisuraScelta(Q(scelta_));
+            });
+    connect(lista_, &ElencoMisure::Passo, this, &PannelloArchivio::Passo);
+    connect(lista_, &ElencoMisure::Cancella, this, [this] {
+        if (!scelta_.empty())
+            Q_EMIT Chiesta(AzioneMisura::Cancella, Q(scelta_));
+    });
+    connect(lista_, &ElencoMisure::MenuChiesto, this, &PannelloArchivio::ApriMenu);
+}
+
+/// Beneath the list, and scrolled where the window is low.
+QWidget* PannelloArchivio::CreaDettagli() {
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    auto* dentro = new QWidget(area);
+    for (QWidget* fondo : {area->viewport(), dentro})
+        fondo->setBackgroundRole(QPalette::Window);
+    detector_ = Nomina(new QComboBox(dentro), QStringLiteral("CBXDetectorMeasSweep"),
                        tr("Detector of the shown trace"), tr("Which detectors are drawn"));
-    dettagli_ = new QLabel(this);
+    albero_ = Nomina(new AlberoMisura(dentro), QStringLiteral("TreeViewFileSweep"),
+                     tr("Traces of the measure"));
+    titoloSovrapposte_ = CreaTitoletto(tr("Overlay"), dentro);
+    sovrapposte_ = Nomina(new Sovrapposte(dentro), QStringLiteral("LSTOverlay"), tr("Overlay"));
+    verdetto_ = new PannelloVerdetto(dentro);
+    dettagli_ = new QLabel(dentro);
     dettagli_->setObjectName(QStringLiteral("LBDettagli"));
     dettagli_->setWordWrap(true);
     dettagli_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     ImpostaRuoloTesto(*dettagli_, Ruolo::Tenue);
-
-    auto* testa = new QVBoxLayout;
-    testa->setContentsMargins(10, 10, 10, 6);
-    testa->addWidget(cerca_);
-    auto* piede = new QFormLayout;
-    piede->setContentsMargins(10, 8, 10, 12);
-    piede->setVerticalSpacing(8);
-    piede->setHorizontalSpacing(14);
-    piede->addRow(CreaTitoletto(tr("Traces"), this));
-    piede->addRow(tr("Detector"), detector_);
-    piede->addRow(dettagli_);
     accetta_ = CreaPulsante(QStringLiteral("CMBAcceptMeasure"), tr("Accept as it is"),
-                            tr("Takes the mark of an incomplete run off this measure"), this);
-    piede->addRow(accetta_);
+                            tr("Takes the mark of an incomplete run off this measure"), dentro);
     accetta_->hide();
-    auto* colonna = new QVBoxLayout(this);
-    colonna->setContentsMargins(0, 0, 0, 0);
-    colonna->setSpacing(0);
-    colonna->addWidget(avviso_);
+    auto* colonna = new QVBoxLayout(dentro);
+    colonna->setContentsMargins(10, 10, 10, 12);
+    colonna->setSpacing(8);
+    auto* testa = new QHBoxLayout;
+    testa->addWidget(CreaTitoletto(tr("Traces"), dentro), 1);
+    testa->addWidget(detector_, 1);
     colonna->addLayout(testa);
-    colonna->addWidget(vuota_);
-    colonna->addWidget(lista_, 1);
-    colonna->addWidget(CreaFilo(this));
-    colonna->addLayout(piede);
-
-    connect(cerca_, &QLineEdit::textChanged, this, &PannelloArchivio::Filtra);
-    connect(lista_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* voce) {
-        Q_EMIT MisuraScelta(voce ? voce->data(VoceMisura::Nome).toString() : QString());
-    });
+    for (QWidget* w : std::initializer_list<QWidget*>{albero_, titoloSovrapposte_, sovrapposte_,
+                                                      verdetto_, dettagli_, accetta_})
+        colonna->addWidget(w);
+    area->setWidget(dentro);
     connect(accetta_, &QPushButton::clicked, this, &PannelloArchivio::Accetta);
     connect(detector_, &QComboBox::activated, this,
             [this] { Q_EMIT DetectorCambiato(DetectorScelto()); });
+    connect(albero_, &AlberoMisura::NodoScelto, this, &PannelloArchivio::NodoScelto);
+    connect(sovrapposte_, &Sovrapposte::Accesa, this, &PannelloArchivio::SovrappostaAccesa);
+    connect(sovrapposte_, &Sovrapposte::Tolta, this, &PannelloArchivio::SovrappostaTolta);
+    return area;
 }
 
 /// What stands over the list while a run of the past has not come to its end.
@@ -105,8 +159,8 @@ void PannelloArchivio::CreaAvviso() {
     connect(mostra, &QPushButton::clicked, this, [this] {
         const auto nomi = MisureIncompiute(scrivania_.albero);
         cerca_->clear();
-        if (!nomi.empty())
-            Scegli(nomi.front());
+        if (!nomi.empty() && Scegli(nomi.front()))
+            Q_EMIT MisuraScelta(Q(nomi.front()));
     });
 }
 
@@ -118,70 +172,119 @@ void PannelloArchivio::MostraIncompiute() {
 }
 
 void PannelloArchivio::Accetta() {
-    TogliSegnoCorsa(scrivania_.albero, Scelta());
+    TogliSegnoCorsa(scrivania_.albero, mostrata_);
     accetta_->hide();
-    ElencaArchivio();
+    Q_EMIT RinnovoChiesto();
 }
 
-int PannelloArchivio::ElencaArchivio() {
-    const QSignalBlocker zitta(lista_);
-    const std::string scelta = Scelta();
-    auto misure = ElencaMisure(scrivania_);
-    if (scrivania_.setup.OrderForDate != 0)
-        std::stable_sort(misure.begin(), misure.end(), [](const auto& a, const auto& b) {
-            return ChiaveData(a.ultima) > ChiaveData(b.ultima);
-        });
-    lista_->clear();
-    for (const auto& misura : misure)
-        lista_->addItem(CreaVoceMisura(misura));
+/// The directory of the measures; while it is not there, the one that it will be made in.
+void PannelloArchivio::Sorveglia() {
+    for (const std::string_view percorso : {std::string_view(), cartella::kSweep}) {
+        const QString dove = QString::fromStdString(scrivania_.albero.Host(percorso).string());
+        if (!file_.directories().contains(dove) && QFileInfo::exists(dove))
+            file_.addPath(dove);
+    }
+}
+
+void PannelloArchivio::MostraElenco(const std::vector<std::string>& nomi) {
+    Sorveglia();
+    modello_->Elenca(nomi);
     MostraIncompiute();
-    Filtra(cerca_->text());
-    Scegli(scelta);
-    return lista_->count();
 }
 
 bool PannelloArchivio::Scegli(const std::string& nome) {
-    for (int i = 0; i < lista_->count(); ++i)
-        if (UgualiSenzaMaiuscole(S(lista_->item(i)->data(VoceMisura::Nome).toString()), nome)) {
-            lista_->setCurrentRow(i);
-            return true;
-        }
-    return false;
+    const QSignalBlocker zitta(lista_->selectionModel());
+    scelta_ = nome;
+    const int riga = modello_->Riga(nome);
+    lista_->setCurrentIndex(modello_->index(riga));
+    // What the silence kept from the list.
+    lista_->scrollTo(modello_->index(riga));
+    lista_->viewport()->update();
+    return riga >= 0;
 }
 
-std::string PannelloArchivio::Scelta() const {
-    const QListWidgetItem* voce = lista_->currentItem();
-    return voce ? S(voce->data(VoceMisura::Nome).toString()) : std::string();
+void PannelloArchivio::Passo(int verso) {
+    const int qui = lista_->currentIndex().isValid() ? lista_->currentIndex().row() : -1;
+    const int nuova = std::clamp(qui + verso, 0, std::max(0, modello_->rowCount() - 1));
+    if (nuova != qui && modello_->rowCount() > 0)
+        lista_->setCurrentIndex(modello_->index(nuova));
 }
 
-void PannelloArchivio::Filtra(const QString& cercato) {
-    int visibili = 0;
-    for (int i = 0; i < lista_->count(); ++i) {
-        const bool c = lista_->item(i)
-                           ->data(VoceMisura::Cercabile)
-                           .toString()
-                           .contains(cercato, Qt::CaseInsensitive);
-        lista_->item(i)->setHidden(!c);
-        visibili += c;
+/// Of the measure on show: what can be laid over it is asked for; of another: it is laid over.
+void PannelloArchivio::ApriMenu(const QModelIndex& riga, const QPoint& dove) {
+    const QString nome = riga.data(VoceMisura::Nome).toString();
+    const bool altra = !mostrata_.empty() && S(nome) != mostrata_;
+    struct VoceMenu {
+        AzioneMisura azione;
+        QString testo;
+    };
+    const QString ancora = altra ? QString() : QStringLiteral("…");
+    const VoceMenu voci[] = {
+        {AzioneMisura::Redo, tr("Open in Sweep")},
+        {AzioneMisura::Confronta,
+         altra ? tr("Compare with %1").arg(Q(mostrata_)) : tr("Compare With…")},
+        {AzioneMisura::Sovrapponi, tr("Overlay") + ancora},
+        {AzioneMisura::Cancella, tr("Delete…")},
+    };
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("MNUMeasure"));
+    for (const VoceMenu& voce : voci) {
+        QAction* azione = menu.addAction(voce.testo);
+        connect(azione, &QAction::triggered, this,
+                [this, nome, quale = voce.azione] { Q_EMIT Chiesta(quale, nome); });
     }
-    vuota_->setVisible(visibili == 0);
-    vuota_->setText(lista_->count() == 0 ? tr("No measures yet. Run a scan table in the Sweep tab.")
-                                         : tr("No measure matches \"%1\".").arg(cercato));
+    menu.exec(dove);
 }
 
-void PannelloArchivio::MostraMisura(const MisuraAperta& misura) {
+void PannelloArchivio::MostraMisura(const StatoArchivio& archivio, const RegiaMisura& regia) {
+    mostrata_ = archivio.misura.nome;
+    const AbilitazioniArchivio abilita = ControllaAbilitazioniArchivio(archivio);
+    albero_->Mostra(archivio.albero, archivio.nodo);
+    albero_->setVisible(!archivio.albero.empty());
+    MostraDetector(archivio);
+    detector_->setEnabled(abilita.CBXDetectorMeasSweep && detector_->count() > 2);
+    MostraSovrapposte(archivio, regia);
+    verdetto_->Carica(scrivania_.setup);
+    verdetto_->setVisible(archivio.Mostrata());
+    ScriviDettagli(archivio.misura);
+}
+
+void PannelloArchivio::MostraDetector(const StatoArchivio& archivio) {
     const QSignalBlocker zitto(detector_);
     detector_->clear();
-    detector_->addItem(tr("All"), -1);
+    detector_->addItem(tr("All"), kTuttiDetector);
     for (size_t d = 0; d < kNumDetector; ++d)
-        if (misura.detector[d])
+        if (archivio.misura.detector[d])
             detector_->addItem(QLatin1String(kNomiDetector[d]), static_cast<int>(d));
-    detector_->setEnabled(misura.leggibile && detector_->count() > 2);
-    ScriviDettagli(misura);
+    detector_->setCurrentIndex(std::max(0, detector_->findData(archivio.detector)));
+}
+
+void PannelloArchivio::MostraSovrapposte(const StatoArchivio& archivio, const RegiaMisura& regia) {
+    using Genere = Sovrapposte::Genere;
+    std::vector<Sovrapposte::Voce> voci;
+    const auto aggiungi = [&](Genere genere, const std::string& nome, const QString& testo,
+                              int32_t colore) {
+        voci.push_back({genere, Q(nome), testo, ColoreQt(colore), regia.Accesa(genere, nome)});
+    };
+    if (archivio.riferimento) {
+        const std::string& nome = archivio.riferimento->nome;
+        const EnvRecord& env = scrivania_.env;
+        aggiungi(Genere::Riferimento, nome, tr("Reference: %1").arg(Q(nome)),
+                 env.GraphColors[colore::kDetRefMeas]);
+        aggiungi(Genere::Differenza, nome, tr("Difference"), env.GraphColors[colore::kPicchi]);
+    }
+    for (size_t i = 0; i < archivio.sovrapposte.size(); ++i) {
+        const MisuraAperta& altra = archivio.sovrapposte[i];
+        const StratoQuadro strato = StratoSovrapposto(altra, i, archivio.detector, scrivania_.env);
+        aggiungi(Genere::Misura, altra.nome, Q(altra.nome), strato.colori[0]);
+    }
+    sovrapposte_->Mostra(voci);
+    sovrapposte_->setVisible(!voci.empty());
+    titoloSovrapposte_->setVisible(!voci.empty());
 }
 
 int PannelloArchivio::DetectorScelto() const {
-    return detector_->currentIndex() < 0 ? -1 : detector_->currentData().toInt();
+    return detector_->currentIndex() < 0 ? kTuttiDetector : detector_->currentData().toInt();
 }
 
 void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {

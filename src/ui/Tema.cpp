@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include "graph/TinteQuadro.h"
 #include "ui/StileConsole.h"
 
 namespace orvane {
@@ -22,19 +23,23 @@ struct VoceTinta {
     QRgb scura;
 };
 
+constexpr QRgb Opaco(int32_t colore) {
+    return qRgb(colore & 0xFF, colore >> 8 & 0xFF, colore >> 16 & 0xFF);
+}
+
 constexpr std::array<VoceTinta, static_cast<size_t>(Ruolo::NumRuoli)> kTinte = {{
     {Ruolo::Finestra, 0xFFFFFFFF, 0xFF1E252E},
     {Ruolo::Campo, 0xFFF7F9FB, 0xFF141A20},
     {Ruolo::Bordo, 0xFFDDE3EA, 0xFF2C3540},
     {Ruolo::BordoCampo, 0xFFC9D2DC, 0xFF38424F},
-    {Ruolo::Testo, 0xFF1D2733, 0xFFE8EDF3},
+    {Ruolo::Testo, Opaco(kScrittaChiara), Opaco(kScrittaScura)},
     {Ruolo::Tenue, 0xFF5B6675, 0xFF98A4B3},
     {Ruolo::Spento, 0xFF9AA5B1, 0xFF626E7C},
     {Ruolo::Accento, 0xFF1F6FEB, 0xFF3B82F6},
     {Ruolo::SuAccento, 0xFFFFFFFF, 0xFFFFFFFF},
     {Ruolo::Scelta, 0xFFE6EFFC, 0xFF24303D},
     {Ruolo::Sorvolo, 0xFFEEF2F7, 0xFF283240},
-    {Ruolo::Grafico, 0xFFFFFFFF, 0xFF0F141A},
+    {Ruolo::Grafico, Opaco(kFondoChiaro), Opaco(kFondoScuro)},
     {Ruolo::Velo, 0xF0F7F9FB, 0xE61B232B},
     {Ruolo::Stop, 0xFFD92D3A, 0xFFFF5A5F},
     {Ruolo::SuStop, 0xFFFFFFFF, 0xFF2A0A0C},

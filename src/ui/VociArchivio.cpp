@@ -50,19 +50,29 @@ void DisegnaNome(QPainter& p, const QStyleOptionViewItem& o, const QModelIndex& 
 
 } // namespace
 
-QListWidgetItem* CreaVoceMisura(const VoceArchivio& misura) {
-    auto* voce = new QListWidgetItem;
-    voce->setData(VoceMisura::Nome, Q(misura.nome));
-    voce->setData(VoceMisura::Data, DataCorta(misura.ultima));
-    voce->setData(VoceMisura::Guasta, !misura.leggibile);
-    voce->setData(VoceMisura::Cercabile,
-                  Q(misura.nome + " " + misura.prima + " " + misura.ultima + " ") +
-                      DataCorta(misura.ultima));
-    voce->setData(VoceMisura::Incompiuta, misura.incompiuta);
-    voce->setData(Qt::AccessibleTextRole, Q(misura.nome + (misura.leggibile ? "" : ", damaged") +
-                                            (misura.incompiuta ? ", incomplete" : "")));
-    voce->setToolTip(AiutoVoce(misura));
-    return voce;
+QVariant DatoVoce(const VoceArchivio& misura, int ruolo) {
+    switch (ruolo) {
+    case VoceMisura::Nome:
+        return Q(misura.nome);
+    case VoceMisura::Data:
+        return DataCorta(misura.ultima);
+    case VoceMisura::Guasta:
+        return !misura.leggibile;
+    case VoceMisura::Incompiuta:
+        return misura.incompiuta;
+    case Qt::AccessibleTextRole:
+        return Q(misura.nome + (misura.leggibile ? "" : ", damaged") +
+                 (misura.incompiuta ? ", incomplete" : ""));
+    case Qt::ToolTipRole:
+        return AiutoVoce(misura);
+    default:
+        return {};
+    }
+}
+
+QString TestoCercabile(const VoceArchivio& misura) {
+    return Q(misura.nome + " " + misura.prima + " " + misura.ultima + " ") +
+           DataCorta(misura.ultima);
 }
 
 void DelegatoMisura::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const {

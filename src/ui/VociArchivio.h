@@ -1,7 +1,6 @@
 // A row of the archive list: its data, and how it is drawn.
 #pragma once
 
-#include <QListWidgetItem>
 #include <QStyledItemDelegate>
 
 #include "data/Misure.h"
@@ -9,10 +8,13 @@
 namespace orvane {
 
 namespace VoceMisura {
-enum Ruolo { Nome = Qt::UserRole, Data, Guasta, Incompiuta, Cercabile };
+enum Ruolo { Nome = Qt::UserRole, Data, Guasta, Incompiuta };
 }
 
-QListWidgetItem* CreaVoceMisura(const VoceArchivio& misura);
+/// What a list shows of a measure, by role.
+QVariant DatoVoce(const VoceArchivio& misura, int ruolo);
+/// Name and dates, as a search looks through them.
+QString TestoCercabile(const VoceArchivio& misura);
 
 class DelegatoMisura : public QStyledItemDelegate {
 public:

@@ -17,13 +17,18 @@ Argomenti::Argomenti(std::span<const std::string> parole, std::set<std::string> 
         else if (++i == parole.size())
             errore_ = "--" + nome + " wants a value";
         else
-            opzioni_[nome] = parole[i];
+            opzioni_[nome].push_back(parole[i]);
     }
 }
 
 std::optional<std::string> Argomenti::Opzione(const std::string& nome) const {
     const auto voce = opzioni_.find(nome);
-    return voce == opzioni_.end() ? std::nullopt : std::optional(voce->second);
+    return voce == opzioni_.end() ? std::nullopt : std::optional(voce->second.back());
+}
+
+std::vector<std::string> Argomenti::Tutte(const std::string& nome) const {
+    const auto voce = opzioni_.find(nome);
+    return voce == opzioni_.end() ? std::vector<std::string>() : voce->second;
 }
 
 } // namespace orvane

@@ -20,12 +20,15 @@ public:
     /// What is wrong with the words; empty when nothing is.
     const std::string& Errore() const { return errore_; }
     const std::vector<std::string>& Posizioni() const { return posizioni_; }
+    /// The last one, of an option that was given more than once.
     std::optional<std::string> Opzione(const std::string& nome) const;
+    /// All of them, in their order.
+    std::vector<std::string> Tutte(const std::string& nome) const;
     bool Bandiera(const std::string& nome) const { return accese_.contains(nome); }
 
 private:
     std::vector<std::string> posizioni_;
-    std::map<std::string, std::string> opzioni_;
+    std::map<std::string, std::vector<std::string>> opzioni_;
     std::set<std::string> accese_;
     std::string errore_;
 };

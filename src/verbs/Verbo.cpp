@@ -34,11 +34,23 @@ constexpr std::array kVerbi = {
               VerboSweep},
     VoceVerbo{"command", "--scan NAME",
               "what a scan table makes the console send, without sending it", VerboCommand},
-    VoceVerbo{"archive", "[accept MEASURE]",
-              "the measures, with date and lines; accept takes the mark of a run that was cut off",
+    VoceVerbo{"archive",
+              "[list] [--search TEXT] | show MEASURE | accept MEASURE | delete MEASURE ...\n"
+              "        | rename MEASURE NAME | redo MEASURE [--name EST]\n"
+              "        | difference MEASURE REFERENCE [--detector D]\n"
+              "        | envelope MEASURE [--detector D] [--factors]",
+              "the measures; accept takes the mark of a run that was cut off, redo makes a scan\n"
+              "      table of a measure, difference and envelope print CSV",
               VerboArchive},
     VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{"picture",
+              "MEASURE --out FILE [--size WxH] [--sub NAME] [--detector D] ... [--unit U]\n"
+              "        [--limit NAME[:D]] ... [--factor NAME] ... [--from MHZ] [--to MHZ]\n"
+              "        [--reference DB] [--dynamics N|DB] [--peaks N] [--print|--dark|--light]\n"
+              "        [--no-settings]",
+              "a stored measure as a picture: BMP, PNG, JPG or SVG by the file's extension",
+              VerboPicture},
     VoceVerbo{
         "panel", "list | show [NAME|PATH]",
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"

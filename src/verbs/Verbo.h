@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "data/Scrivania.h"
+#include "graph/FabbricaQuadri.h"
 #include "link/Ricevitore.h"
 #include "records/ScanRecord.h"
 #include "sweep/Corsa.h"
@@ -40,6 +41,7 @@ struct Banco {
     std::ostream& dati;      ///< standard output
     std::ostream& messaggi;  ///< standard error
     bool json = false;
+    FabbricaQuadri* fabbrica = nullptr; ///< null: there are no pictures
     /// What a verb has done at each turn of the pump.
     std::function<void()> alGiro = {};
     TastoInvio tastiera = {};
@@ -74,6 +76,7 @@ EsitoVerbo VerboCommand(Banco& banco, Parole parole);
 EsitoVerbo VerboCheck(Banco& banco, Parole parole);
 EsitoVerbo VerboArchive(Banco& banco, Parole parole);
 EsitoVerbo VerboTrace(Banco& banco, Parole parole);
+EsitoVerbo VerboPicture(Banco& banco, Parole parole);
 EsitoVerbo VerboPanel(Banco& banco, Parole parole);
 EsitoVerbo VerboPorts(Banco& banco, Parole parole);
 EsitoVerbo VerboLimit(Banco& banco, Parole parole);

@@ -5,12 +5,12 @@
 #include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/ControllaRecord.h"
-#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "setup/ListaFrequenze.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
 #include "verbs/Json.h"
+#include "verbs/ParoleArchivio.h"
 #include "verbs/Verbo.h"
 
 namespace orvane {
@@ -79,33 +79,33 @@ void StampaTraccia(Banco& banco, const SweepTrace& traccia, DetectorKind detecto
     banco.dati << (banco.json ? json.Chiudi().Chiudi().Documento() + "\n" : testo);
 }
 
-/// The measure stands as it is: it no longer counts as cut off.
-EsitoVerbo Accetta(Banco& banco, Parole parole) {
-    const auto misura = parole.size() == 1 ? NomeDaParola(parole[0]) : std::nullopt;
-    if (!misura)
-        return UsoErrato(banco, "archive", "accept wants one MEASURE");
-    const AlberoDati& albero = banco.scrivania.albero;
-    if (!albero.EsisteCartella(CartellaMisura(*misura)))
-        return Guasto(banco, kGuastoFile, "there is no measure " + CartellaMisura(*misura));
-    if (MisuraIncompiuta(albero, *misura) && !TogliSegnoCorsa(albero, *misura))
-        return Guasto(banco, kGuastoFile, "cannot delete " + PercorsoSegnoCorsa(*misura));
+/// All measures, or those that contain the words of `--search`.
+EsitoVerbo Elenca(Banco& banco, Parole parole) {
+    const Argomenti argomenti(parole, {"search"});
+    if (!argomenti.Errore().empty() || !argomenti.Posizioni().empty())
+        return UsoErrato(banco, "archive",
+                         argomenti.Errore().empty()
+                             ? "unknown word \"" + argomenti.Posizioni()[0] + "\""
+                             : argomenti.Errore());
+    const std::string cercato = argomenti.Opzione("search").value_or("");
+    Json json;
+    json.Lista();
+    for (const std::string& nome : ElencaNomiMisure(banco.scrivania, OrdineArchivio::PerNome))
+        if (cercato.empty() || MisuraContiene(banco.scrivania, nome, cercato))
+            Stampa(banco, json, LeggiVoce(banco.scrivania, nome));
+    if (banco.json)
+        banco.dati << json.Chiudi().Documento() << "\n";
     return kFatto;
 }
 
 } // namespace
 
 EsitoVerbo VerboArchive(Banco& banco, Parole parole) {
-    if (!parole.empty() && parole[0] == "accept")
-        return Accetta(banco, parole.subspan(1));
-    if (!parole.empty())
-        return UsoErrato(banco, "archive", "takes no further words");
-    Json json;
-    json.Lista();
-    for (const VoceArchivio& voce : ElencaMisure(banco.scrivania))
-        Stampa(banco, json, voce);
-    if (banco.json)
-        banco.dati << json.Chiudi().Documento() << "\n";
-    return kFatto;
+    for (const ParolaArchivio& parola : ParoleArchivio())
+        if (!parole.empty() && parole[0] == parola.nome)
+            return parola.esegui(banco, parole.subspan(1));
+    const bool list = !parole.empty() && parole[0] == "list";
+    return Elenca(banco, list ? parole.subspan(1) : parole);
 }
 
 EsitoVerbo VerboTrace(Banco& banco, Parole parole) {

@@ -147,16 +147,6 @@ EsitoVerbo StampaValori(Banco& banco, TableKind kind, const std::string& nome,
     return kFatto;
 }
 
-/// A unit by its text, with "u" for the micro sign, or by its number.
-std::optional<int16_t> LeggiUnita(const std::string& testo) {
-    const std::string chiesta = Maiuscolo(Sostituisci(testo, "µ", "u"));
-    for (size_t i = 0; i < TabellaUnitaGrafico().size(); ++i)
-        if (Maiuscolo(Sostituisci(TabellaUnitaGrafico()[i].testo, "µ", "u")) == chiesta ||
-            TestoIntero(static_cast<long long>(i)) == chiesta)
-            return static_cast<int16_t>(i);
-    return std::nullopt;
-}
-
 /// The empty table that an import fills; what is wrong with the options in `errore`.
 ContenutoTabella TabellaDaOpzioni(TableKind kind, const Argomenti& argomenti, std::string& errore) {
     ContenutoTabella c{.kind = kind};
@@ -255,6 +245,15 @@ std::string_view VerboDiKind(TableKind kind) {
     if (!LimiteOFattore(kind))
         return "table";
     return kind == TableKind::Limite ? "limit" : "factor";
+}
+
+std::optional<int16_t> LeggiUnita(const std::string& testo) {
+    const std::string chiesta = Maiuscolo(Sostituisci(testo, "µ", "u"));
+    for (size_t i = 0; i < TabellaUnitaGrafico().size(); ++i)
+        if (Maiuscolo(Sostituisci(TabellaUnitaGrafico()[i].testo, "µ", "u")) == chiesta ||
+            TestoIntero(static_cast<long long>(i)) == chiesta)
+            return static_cast<int16_t>(i);
+    return std::nullopt;
 }
 
 std::optional<ContenutoTabella> CaricaContenuto(Banco& banco, TableKind kind,

@@ -19,6 +19,9 @@ std::optional<ContenutoTabella> CaricaContenuto(Banco& banco, TableKind kind,
 EsitoVerbo MemorizzaNelRicevitore(Banco& banco, TableKind kind, const std::string& nome,
                                   const Argomenti& argomenti);
 
+/// A unit by its text, with "u" for the micro sign, or by its number.
+std::optional<int16_t> LeggiUnita(const std::string& testo);
+
 std::string_view VerboDiKind(TableKind kind);
 
 } // namespace orvane

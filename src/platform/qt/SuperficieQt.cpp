@@ -4,10 +4,13 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QImage>
+#include <QPaintEngine>
 #include <QPen>
 #include <algorithm>
 #include <cmath>
 #include <vector>
+
+#include "platform/qt/ColonneImmagine.h"
 
 #if defined(__x86_64__) || defined(__i386__)
 #include <immintrin.h>
@@ -40,10 +43,19 @@ QPen PennaQt(const Penna& penna) {
     return qt;
 }
 
-QFont Carattere(double altezza) {
-    QFont font = QGuiApplication::font();
+QFont DiAltezza(QFont font, double altezza) {
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(altezza))));
     return font;
+}
+
+QFont Carattere(double altezza) {
+    return DiAltezza(QGuiApplication::font(), altezza);
+}
+
+QFont CarattereFisso(double altezza) {
+    QFont font(QStringLiteral("Courier New"));
+    font.setStyleHint(QFont::Monospace);
+    return DiAltezza(font, altezza);
 }
 
 /// Where the left end of the text's baseline lies for an anchor, against the anchor.
@@ -104,7 +116,7 @@ QColor ColoreQt(int32_t colore) {
 
 SuperficieQt::SuperficieQt(QPainter& painter, double larghezza, double altezza)
     : painter_(painter), larghezza_(larghezza), altezza_(altezza),
-      dispositivo_(painter.deviceTransform()) {
+      dispositivo_(painter.deviceTransform()), ritaglioAltrui_(painter.hasClipping()) {
     // A mirrored or turned painter has no such pixels; it draws as it comes.
     if (dispositivo_.m11() > 0 && dispositivo_.m22() > 0) {
         orizzontale_ = {.scala = dispositivo_.m11(), .inizio = dispositivo_.dx()};
@@ -115,7 +127,7 @@ SuperficieQt::SuperficieQt(QPainter& painter, double larghezza, double altezza)
 }
 
 SuperficieQt::~SuperficieQt() {
-    while (ritagli_ > 0)
+    while (!ritagli_.empty())
         FineRitaglio();
     LiberaRegistri();
 }
@@ -184,6 +196,56 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
                               static_cast<int>(std::min(pezzo + 2, pixel.size() - i)));
 }
 
+/// The image under the painter, where its pixels lie open and nothing comes between.
+const QImage* SuperficieQt::ImmagineDiretta() const {
+    const QPaintEngine* motore = painter_.paintEngine();
+    if (!motore || motore->type() != QPaintEngine::Raster || !motore->paintDevice() ||
+        motore->paintDevice()->devType() != QInternal::Image ||
+        dispositivo_.type() > QTransform::TxScale || ritaglioAltrui_ || painter_.opacity() != 1 ||
+        painter_.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return nullptr;
+    const auto* immagine = static_cast<const QImage*>(motore->paintDevice());
+    return AccettaColonne(*immagine) ? immagine : nullptr;
+}
+
+/// What may be written of it; empty where that is not a rectangle.
+std::optional<QRect> SuperficieQt::RitaglioDiretto(const QImage& immagine) const {
+    const QRegion sistema = painter_.paintEngine()->systemClip();
+    if (sistema.rectCount() > 1)
+        return std::nullopt;
+    QRect aperto = immagine.rect();
+    if (!sistema.isEmpty())
+        aperto &= sistema.boundingRect();
+    return ritagli_.empty() ? aperto : aperto & ritagli_.back();
+}
+
+bool SuperficieQt::Colonne(double sinistra, double passo, std::span<const TrattoColonna> colonne,
+                           const Penna& penna) {
+    constexpr double kScarto = 1e-6;
+    const QImage* immagine = ImmagineDiretta();
+    const double largo = passo * scalaX_ * orizzontale_.scala;
+    if (!immagine || penna.tratto != Tratto::Pieno || std::abs(largo - 1) > kScarto)
+        return false;
+    const auto ritaglio = RitaglioDiretto(*immagine);
+    if (!ritaglio)
+        return false;
+    std::vector<ColonnaPixel> pixel;
+    pixel.reserve(colonne.size());
+    const auto y = [&](double v) {
+        return (v - origine_.y) * scalaY_ * verticale_.scala + verticale_.inizio;
+    };
+    for (const TrattoColonna& c : colonne) {
+        const auto [alto, basso] = std::minmax({y(c.minimo), y(c.massimo)});
+        pixel.push_back({.alto = alto, .basso = basso, .entra = y(c.entra), .esce = y(c.esce)});
+    }
+    const double x = (sinistra - origine_.x) * scalaX_ * orizzontale_.scala + orizzontale_.inizio;
+    LiberaRegistri();
+    DipingiColonne(*immagine, *ritaglio, static_cast<int>(std::lround(x)), pixel,
+                   ColoreQt(penna.colore).rgb(), penna.larghezza * verticale_.scala,
+                   painter_.testRenderHint(QPainter::Antialiasing));
+    return true;
+}
+
 QRectF SuperficieQt::RettangoloPixel(Punto angolo, Punto opposto) const {
     QPointF a = Pixel(angolo);
     QPointF b = Pixel(opposto);
@@ -212,9 +274,8 @@ void SuperficieQt::TriangoloSfumato(const Punto (&vertici)[3], const int32_t (&c
     painter_.drawImage(logico, DipingiTriangolo(t, riquadro));
 }
 
-void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
-                         double altezza) {
-    const QFont font = Carattere(altezza);
+void SuperficieQt::Scrivi(const QFont& font, Punto dove, Ancora ancora, const std::string& testo,
+                          int32_t colore) {
     const QFontMetricsF misure(font, painter_.device());
     const QString scritta = QString::fromStdString(testo);
     QPointF base = Pixel(dove) + InizioTesto(ancora, misure.horizontalAdvance(scritta), misure);
@@ -224,22 +285,42 @@ void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, in
     painter_.drawText(base, scritta);
 }
 
-Punto SuperficieQt::DimensioneTesto(const std::string& testo, double altezza) const {
-    const QFontMetricsF misure(Carattere(altezza), painter_.device());
+Punto SuperficieQt::Misura(const QFont& font, const std::string& testo) const {
+    const QFontMetricsF misure(font, painter_.device());
     return {misure.horizontalAdvance(QString::fromStdString(testo)), misure.height()};
 }
 
+void SuperficieQt::Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
+                         double altezza) {
+    Scrivi(Carattere(altezza), dove, ancora, testo, colore);
+}
+
+Punto SuperficieQt::DimensioneTesto(const std::string& testo, double altezza) const {
+    return Misura(Carattere(altezza), testo);
+}
+
+void SuperficieQt::TestoPassoFisso(Punto dove, Ancora ancora, const std::string& testo,
+                                   int32_t colore, double altezza) {
+    Scrivi(CarattereFisso(altezza), dove, ancora, testo, colore);
+}
+
+Punto SuperficieQt::DimensionePassoFisso(const std::string& testo, double altezza) const {
+    return Misura(CarattereFisso(altezza), testo);
+}
+
 void SuperficieQt::Ritaglio(Punto angolo, Punto opposto) {
+    const QRectF dove = RettangoloPixel(angolo, opposto);
     painter_.save();
-    painter_.setClipRect(RettangoloPixel(angolo, opposto), Qt::IntersectClip);
-    ++ritagli_;
+    painter_.setClipRect(dove, Qt::IntersectClip);
+    const QRect pixel = dispositivo_.mapRect(dove).toRect();
+    ritagli_.push_back(ritagli_.empty() ? pixel : pixel & ritagli_.back());
 }
 
 void SuperficieQt::FineRitaglio() {
-    if (ritagli_ == 0)
+    if (ritagli_.empty())
         return;
     painter_.restore();
-    --ritagli_;
+    ritagli_.pop_back();
 }
 
 } // namespace orvane

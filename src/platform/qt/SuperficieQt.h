@@ -5,6 +5,8 @@
 #include <QFont>
 #include <QPainter>
 #include <QTransform>
+#include <optional>
+#include <vector>
 
 #include "graph/Superficie.h"
 
@@ -19,7 +21,8 @@ QColor ColoreQt(int32_t colore);
 void LiberaRegistri();
 
 /// Paints with an active painter, which it must not outlive. Lines along the axes and rectangles
-/// fall on whole pixels of the device, whatever its pixel ratio.
+/// fall on whole pixels of the device, whatever its pixel ratio. On an image, or a window that is
+/// kept as one, columns of traces go straight into its pixels; a QPixmap gives no way to them.
 class SuperficieQt : public Superficie {
 public:
     /// Size of the picture in logical pixels; its top left is the painter's origin.
@@ -33,11 +36,17 @@ public:
     void Scala(double sinistra, double alto, double destra, double basso) override;
     void Linea(Punto da, Punto a, const Penna& penna) override;
     void Spezzata(std::span<const Punto> punti, const Penna& penna) override;
+    bool Colonne(double sinistra, double passo, std::span<const TrattoColonna> colonne,
+                 const Penna& penna) override;
     void Rettangolo(Punto angolo, Punto opposto, int32_t riempimento, double opacita) override;
     void TriangoloSfumato(const Punto (&vertici)[3], const int32_t (&colori)[3]) override;
     void Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
                double altezza) override;
     Punto DimensioneTesto(const std::string& testo, double altezza) const override;
+    /// "Courier New", or the machine's own fixed-pitch face.
+    void TestoPassoFisso(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
+                         double altezza) override;
+    Punto DimensionePassoFisso(const std::string& testo, double altezza) const override;
     void Ritaglio(Punto angolo, Punto opposto) override;
     void FineRitaglio() override;
 
@@ -54,7 +63,12 @@ private:
         double Spessore(double larghezza) const;
     };
 
+    void Scrivi(const QFont& font, Punto dove, Ancora ancora, const std::string& testo,
+                int32_t colore);
+    Punto Misura(const QFont& font, const std::string& testo) const;
     QPointF Pixel(Punto p) const;
+    const QImage* ImmagineDiretta() const;
+    std::optional<QRect> RitaglioDiretto(const QImage& immagine) const;
     QRectF RettangoloPixel(Punto angolo, Punto opposto) const;
 
     QPainter& painter_;
@@ -66,7 +80,8 @@ private:
     double scalaX_ = 1;
     double scalaY_ = 1;
     Punto origine_;
-    int ritagli_ = 0;
+    bool ritaglioAltrui_ = false; ///< the painter came with a clip of its own
+    std::vector<QRect> ritagli_;  ///< pixels of the device, each inside the one before
 };
 
 } // namespace orvane

@@ -1,0 +1,50 @@
+// What is read off the picture, as rows of text in colours that can be read.
+#pragma once
+
+#include <vector>
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QPalette>
+#include <QString>
+
+#include "graph/Quadro.h"
+
+namespace orvane {
+
+/// A row of `LBMultiMK`; the first is the title.
+struct RigaLettura {
+    QString nome;
+    QString valore;
+    QString delta; ///< against the delta marker; empty without one
+    QColor colore;
+};
+
+/// The colour, lightened or darkened as far as it takes to read text in it on this ground.
+QColor ColoreLeggibile(const QColor& colore, const QColor& fondo);
+
+/// Frequency, levels, factors and distances at marker 0, with the differences to marker 1; at
+/// marker 1 where it is alone. Empty without a marker.
+std::vector<RigaLettura> RigheMarker(const ContenutoQuadro& contenuto, const SetupRecord& setup,
+                                     const QPalette& tavolozza);
+/// Rows as one sentence for a screen reader.
+QString TestoRighe(const std::vector<RigaLettura>& righe);
+
+/// "0.195 MHz", with the decimals that the step of the trace needs there.
+QString FrequenzaCampione(const SweepTrace& traccia, size_t indice);
+/// "Peak 51.32 dBµV at 0.195 MHz"
+QString TestoPicco(const SweepTrace& traccia, DetectorKind detector, const Picco& picco,
+                   const SetupRecord& setup);
+
+/// A name in the legend with the colours of its traces.
+struct VoceLegenda {
+    QString nome;
+    std::vector<QColor> colori;
+    bool viva = true; ///< in full text colour
+};
+/// From a point to the right, without a frame. Returns the height used; 0 for fewer than two names.
+double DisegnaLegenda(QPainter& p, QPointF angolo, const std::vector<VoceLegenda>& voci,
+                      const QPalette& tavolozza);
+
+} // namespace orvane
