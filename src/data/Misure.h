@@ -63,7 +63,8 @@ struct VoceArchivio {
     int righe = 0;      ///< scan lines in use
     long long passi = 0;
     bool leggibile = false;  ///< the header is there and whole
-    bool incompiuta = false; ///< its run was cut off, or is on
+    bool incompiuta = false; ///< its run was cut off
+    bool inCorso = false;    ///< its run is on, in this process or another
     std::string detector;    ///< letters of all detectors in use
 };
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s);

@@ -42,13 +42,19 @@ void Svolgimento::CompilaIntestazione() {
 }
 
 bool Svolgimento::PreparaFile() {
+    if (MisuraInCorso(s_.albero, misura_)) {
+        const std::string testo = "Sweep " + misura_ + " is being measured by another console";
+        r_.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione});
+        return Fallisci(EsitoCorsa::GuastoFile, testo);
+    }
     PreparaCartellaMisura(s_, misura_);
     preparata_ = true;
     CopiaFileLimSweep(s_, misura_, scan_.Righe);
     CopiaFileFacSweep(s_, misura_);
     // A power cut between the two leaves a header that is known to be one of no whole measure.
-    const bool segnata = SegnaCorsa(s_.albero, misura_);
-    return (SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup) && segnata) ||
+    const auto segno = SegnaCorsa(s_.albero, misura_);
+    segno_ = segno.value_or(nullptr);
+    return (SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup) && segno) ||
            Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
 }
 
