@@ -113,9 +113,26 @@ void AppendiInsLoss(Nodi& nodi, const ContestoNodi& c) {
                 nodi.push_back({.testo = std::string(s.titolo), .profondita = 1, .file = file});
 }
 
+/// What worst lists belong to that has no trace of its own: a heading for each.
+void AppendiWorstOrfani(Nodi& nodi, const ContestoNodi& c) {
+    std::vector<std::string> visti;
+    for (const std::string& file : c.file) {
+        const auto worst = SpezzaWorst(file);
+        if (!worst || worst->prefisso.empty() || StessoFile(worst->prefisso, c.misura) ||
+            c.Ha(worst->prefisso) || std::ranges::count(visti, ChiaveNome(worst->prefisso)) > 0)
+            continue;
+        visti.push_back(ChiaveNome(worst->prefisso));
+        nodi.push_back({.testo = NomeSubMisuraEsteso(worst->prefisso, c.priorita),
+                        .profondita = 1,
+                        .gruppo = true});
+        AppendiWorst(nodi, c, worst->prefisso, 2);
+    }
+}
+
 Nodi AlberoSemplice(const ContestoNodi& c) {
     Nodi nodi{{.testo = c.misura, .file = c.misura}};
     AppendiWorst(nodi, c, "", 1);
+    AppendiWorst(nodi, c, c.misura, 1);
     if (c.insertionLoss)
         AppendiInsLoss(nodi, c);
     const size_t prima = nodi.size();
@@ -127,6 +144,7 @@ Nodi AlberoSemplice(const ContestoNodi& c) {
     if (passate.size() > 1 || c.Ha(kBaseInviluppo))
         nodi.insert(nodi.begin() + static_cast<long>(prima),
                     {.testo = std::string(kBaseInviluppo), .profondita = 1});
+    AppendiWorstOrfani(nodi, c);
     return nodi;
 }
 
@@ -184,8 +202,10 @@ bool TestoPosizione(std::string_view testo) {
 
 FileDaNodo FilePosizione(const ContestoNodi& c, const NodoSubMisura& nodo) {
     const FaseMastTable fase = nodo.testo.starts_with(kMisura) ? FaseMastTable::Measure : nodo.fase;
-    return {BasePosizione(fase, NumeroDietro(nodo.testo, "Mast: ", "M. "),
-                          NumeroDietro(nodo.testo, "Table: ", "T. "), c.priorita)};
+    const std::string base = BasePosizione(fase, NumeroDietro(nodo.testo, "Mast: ", "M. "),
+                                           NumeroDietro(nodo.testo, "Table: ", "T. "), c.priorita);
+    // A file may name its axes the other way round than its neighbours.
+    return {nodo.file.empty() || c.Ha(base) ? base : nodo.file};
 }
 
 } // namespace

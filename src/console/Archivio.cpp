@@ -160,6 +160,8 @@ void LasciaSweepsArchive(Scrivania& s, StatoArchivio& a) {
 }
 
 EsitoMostra VisualizzaDatiSweepata(Scrivania& s, StatoArchivio& a, const std::string& nome) {
+    if (!a.attivo)
+        return {};
     EsitoMostra esito{.mostrata = nome};
     if (!nome.empty() && !HaHeader(s, nome)) {
         esito.mostrata = ProssimaConHeader(s, a, nome);

@@ -46,7 +46,7 @@ struct EsitoMostra {
 /// Opens a measure: the set-up becomes its own but for the view fields, tables, tree and trace are
 /// read, and `SweepPath` follows. Where its KSH is gone the list is read again and the next measure
 /// on the way is shown. A damaged header is told; the measure is then on show with `leggibile`
-/// false. An empty name blanks the view.
+/// false. An empty name blanks the view. Nothing without `attivo`: the set-up would be lost.
 EsitoMostra VisualizzaDatiSweepata(Scrivania& s, StatoArchivio& a, const std::string& nome);
 /// A row of the tree; false for a heading, and for one that is not there. Reads the trace, not the
 /// header.

@@ -3,6 +3,7 @@
 #include <ctime>
 #include <optional>
 
+#include "base/PaginaCodici.h"
 #include "base/Testo.h"
 #include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
@@ -28,6 +29,7 @@ std::string TestoData(fs::file_time_type ora) {
     return testo;
 }
 
+constexpr size_t kMassimoCommento = 1 << 20;
 constexpr std::string_view kSegnoCorsa = "RUNNING.RUN";
 
 /// "<anything>.RS<digit>", by the key of its name.
@@ -188,9 +190,10 @@ bool MisuraContiene(const Scrivania& s, const std::string& nome, std::string_vie
     const auto header = LeggiHeader(s, file, nome);
     if (header && Contiene(ChiaveNome(header->Scan.ScanComment), chiave))
         return true;
-    const std::string commento = PercorsoCommento(nome);
-    return s.albero.Esiste(commento) &&
-           Contiene(ChiaveNome(CaricaTesto(s, commento).value_or("")), chiave);
+    // Read without a box: one that cannot be loaded is no hit.
+    const auto commento = s.albero.Leggi(PercorsoCommento(nome), kMassimoCommento);
+    return commento &&
+           Contiene(ChiaveNome(DaAnsi(std::string(commento->begin(), commento->end()))), chiave);
 }
 
 } // namespace orvane

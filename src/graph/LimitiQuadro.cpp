@@ -1,6 +1,7 @@
 #include "graph/LimitiQuadro.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace orvane {
 namespace {
@@ -10,9 +11,37 @@ constexpr int kFascia = 4;
 /// Between a trace and a name, pixels.
 constexpr double kAria = 2;
 
+constexpr int kMassimoPezzi = 4000;
+
+Punto SulTratto(Punto da, Punto a, int k, int pezzi) {
+    const double parte = static_cast<double>(k) / pezzi;
+    return {std::lerp(da.x, a.x, parte), std::lerp(da.y, a.y, parte)};
+}
+
 double PixelY(double cent, const ScalaGrafico& scala, const RiquadroGriglia& dove) {
     const double livello = cent + scala.UnitOffset * 100;
     return dove.alto + (scala.alto - livello) * dove.altezza / (scala.alto - scala.basso);
+}
+
+/// What the lines of the limits cover, so that a name hides none.
+std::vector<RettangoloTesto> IngombroLinee(const std::vector<LimiteQuadro>& limiti,
+                                           const ScalaGrafico& scala, const RiquadroGriglia& dove) {
+    std::vector<RettangoloTesto> ingombri;
+    for (const LimiteQuadro& l : limiti)
+        for (const auto& linea : LineeLimite(l.limite, scala, l.soloFra))
+            for (size_t i = 1; i < linea.size(); ++i) {
+                const double largo = linea[i].x - linea[i - 1].x;
+                const int pezzi = std::clamp(static_cast<int>(largo / kFascia), 1, kMassimoPezzi);
+                for (int k = 0; k < pezzi; ++k) {
+                    const Punto da = SulTratto(linea[i - 1], linea[i], k, pezzi);
+                    const Punto a = SulTratto(linea[i - 1], linea[i], k + 1, pezzi);
+                    const double y = dove.altezza / (scala.alto - scala.basso);
+                    ingombri.push_back(
+                        {dove.sinistra + da.x, dove.alto + (scala.alto - std::max(da.y, a.y)) * y,
+                         dove.sinistra + a.x, dove.alto + (scala.alto - std::min(da.y, a.y)) * y});
+                }
+            }
+    return ingombri;
 }
 
 } // namespace
@@ -53,18 +82,21 @@ void AggiungiIngombro(const PicchiMisura& picchi, const ScalaGrafico& scala,
 void ScriviNomiLimiti(Superficie& superficie, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, const std::vector<LimiteQuadro>& limiti,
                       const TintaGrafico& tinta, const std::vector<RettangoloTesto>& ingombri) {
-    std::vector<RettangoloTesto> nomi;
+    // Of names and lines: what no name may hide.
+    std::vector<RettangoloTesto> nomi = IngombroLinee(limiti, scala, dove);
     for (const LimiteQuadro& l : limiti) {
         std::vector<RettangoloTesto> occupati = nomi;
         occupati.insert(occupati.end(), ingombri.begin(), ingombri.end());
         size_t prima = occupati.size();
-        ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore, tinta.altezzaTesto,
-                         occupati, l.soloFra);
+        const auto scrivi = [&] {
+            ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore,
+                             tinta.altezzaTesto, occupati, l.soloFra, tinta.sfondo);
+        };
+        scrivi();
         if (occupati.size() == prima) {
             occupati = nomi;
             prima = nomi.size();
-            ScriviNomeLimite(superficie, scala, dove, l.limite, l.nome, l.colore,
-                             tinta.altezzaTesto, occupati, l.soloFra, tinta.sfondo);
+            scrivi();
         }
         nomi.insert(nomi.end(), occupati.begin() + static_cast<std::ptrdiff_t>(prima),
                     occupati.end());

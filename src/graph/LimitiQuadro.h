@@ -17,7 +17,8 @@ void AggiungiIngombro(const PicchiMisura& picchi, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, double lato,
                       std::vector<RettangoloTesto>& ingombri);
 
-/// Each name stands over its line off `ingombri`, or else, on a thin ground, wherever it has room.
+/// Each name stands on a thin ground over its line, off `ingombri` or else wherever it has room; no
+/// name hides another, or a line of a limit.
 void ScriviNomiLimiti(Superficie& superficie, const ScalaGrafico& scala,
                       const RiquadroGriglia& dove, const std::vector<LimiteQuadro>& limiti,
                       const TintaGrafico& tinta, const std::vector<RettangoloTesto>& ingombri);

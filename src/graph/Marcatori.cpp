@@ -125,7 +125,9 @@ std::string DetFormatoVal(double mhz, double passoMhz) {
 }
 
 double PassoTraccia(const MisuraAperta& misura, size_t indice) {
-    const CampioneTraccia& campione = misura.traccia->at(indice);
+    if (indice >= misura.traccia->size())
+        return 0;
+    const CampioneTraccia& campione = (*misura.traccia)[indice];
     const ScanLine& riga = misura.header.Scan.Righe.at(static_cast<size_t>(campione.riga));
     if (riga.StepMode != 0 || !HaPasso(riga.Step))
         return campione.freqMhz;
@@ -133,7 +135,9 @@ double PassoTraccia(const MisuraAperta& misura, size_t indice) {
 }
 
 LetturaMarker LeggiMarker(const MisuraAperta& misura, const SetupRecord& setup, size_t indice) {
-    const CampioneTraccia& campione = misura.traccia->at(indice);
+    if (indice >= misura.traccia->size())
+        return {};
+    const CampioneTraccia& campione = (*misura.traccia)[indice];
     const double offsetCent = static_cast<double>(ImpostaUnita(setup.UnitId)) * 100;
     LetturaMarker lettura;
     lettura.frequenza = DetFormatoVal(campione.freqMhz, PassoTraccia(misura, indice)) + " MHz";
@@ -157,8 +161,10 @@ LetturaMarker LeggiMarker(const MisuraAperta& misura, const SetupRecord& setup, 
 }
 
 LetturaDelta LeggiDelta(const MisuraAperta& misura, size_t da, size_t a) {
-    const CampioneTraccia& primo = misura.traccia->at(da);
-    const CampioneTraccia& secondo = misura.traccia->at(a);
+    if (std::max(da, a) >= misura.traccia->size())
+        return {};
+    const CampioneTraccia& primo = (*misura.traccia)[da];
+    const CampioneTraccia& secondo = (*misura.traccia)[a];
     const double passoDa = PassoTraccia(misura, da);
     const double passoA = PassoTraccia(misura, a);
     LetturaDelta lettura;

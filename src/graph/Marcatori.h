@@ -48,7 +48,8 @@ struct LetturaMarker {
     std::optional<std::string> sommaFattori;                  ///< dB; while `SommaFact` is on
     std::vector<Distanza> distanze;
 };
-/// `setup` says which limits and factors are on, and the unit.
+/// `setup` says which limits and factors are on, and the unit. Nothing is read beyond the trace's
+/// end.
 LetturaMarker LeggiMarker(const MisuraAperta& misura, const SetupRecord& setup, size_t indice);
 
 /// From marker 0 to marker 1: difference of frequency and, detector by detector, of level.

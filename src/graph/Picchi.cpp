@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace orvane {
 namespace {
@@ -12,91 +13,98 @@ struct Tratta {
     size_t primo = 0; ///< indices into the trace
     size_t ultimo = 0;
 };
-/// Lowest level on the way to higher ground; empty where there is none before the end.
-using Valle = std::optional<int16_t>;
+/// Searches one unbroken piece after the other, each tratta once: on the stack stand those that no
+/// higher ground has followed yet, falling from its bottom to its top.
+class CercaPicchi {
+public:
+    CercaPicchi(const SweepTrace& traccia, int emergenzaCent)
+        : traccia_(traccia), emergenzaCent_(std::max(emergenzaCent, 1)) {}
 
-struct Gradino {
-    int16_t livello;
-    int16_t minimo; ///< on the way from the ground before it
-};
-/// One step of a walk over the tratte: those that are lower fall off the stack and leave their
-/// valley to the one that overtakes them. `pariSupera`: an equal one is overtaken too.
-Valle Avanza(std::vector<Gradino>& pila, int16_t livello, bool pariSupera) {
-    int16_t minimo = livello;
-    while (!pila.empty() &&
-           (pila.back().livello < livello || (pariSupera && pila.back().livello == livello))) {
-        minimo = std::min(minimo, pila.back().minimo);
-        pila.pop_back();
+    /// The next one of the piece, of another level than the one before.
+    void Aggiungi(const Tratta& t) {
+        minimo_ = std::min(minimo_, t.livello);
+        while (!pila_.empty() && pila_.back().tratta.livello < t.livello)
+            Togli(true);
+        Valle sinistra;
+        // Of two equal grounds the left one is the higher: a notch in a top makes no second peak.
+        if (!pila_.empty())
+            sinistra = std::min(t.livello, pila_.back().minimoDopo);
+        pila_.push_back({.tratta = t, .sinistra = sinistra});
     }
-    const bool piuAlta = !pila.empty();
-    pila.push_back({livello, minimo});
-    return piuAlta ? Valle(minimo) : std::nullopt;
-}
+    void FinePezzo() {
+        while (!pila_.empty())
+            Togli(false);
+        minimo_ = kMassimo;
+    }
+    std::vector<Picco> Trovati() && { return std::move(picchi_); }
 
-/// Valleys on the left. Of two equal grounds the left one counts as the higher, so that a notch in
-/// a top makes no second peak.
-std::vector<Valle> ValliASinistra(const std::vector<Tratta>& tratte) {
-    std::vector<Valle> valli;
-    std::vector<Gradino> pila;
-    for (const Tratta& t : tratte)
-        valli.push_back(Avanza(pila, t.livello, false));
-    return valli;
-}
+private:
+    /// Lowest level on the way to higher ground; empty where there is none before the end.
+    using Valle = std::optional<int16_t>;
+    static constexpr int16_t kMassimo = std::numeric_limits<int16_t>::max();
+    struct Cima {
+        Tratta tratta;
+        Valle sinistra;
+        int16_t minimoDopo = kMassimo; ///< lowest level since
+    };
 
-std::vector<Valle> ValliADestra(const std::vector<Tratta>& tratte) {
-    std::vector<Valle> valli(tratte.size());
-    std::vector<Gradino> pila;
-    for (size_t i = tratte.size(); i-- > 0;)
-        valli[i] = Avanza(pila, tratte[i].livello, true);
-    return valli;
-}
-
-/// What a peak is measured from. The highest of a piece rises from its lowest point.
-int Base(Valle sinistra, Valle destra, int16_t minimo) {
-    if (sinistra && destra)
-        return std::max(*sinistra, *destra);
-    return sinistra.value_or(destra.value_or(minimo));
-}
-
-/// Peaks of one unbroken piece.
-void CercaNelPezzo(const SweepTrace& traccia, const std::vector<Tratta>& tratte, int emergenzaCent,
-                   std::vector<Picco>& picchi) {
-    if (tratte.size() < 2)
-        return;
-    const int16_t minimo = std::ranges::min(tratte, {}, &Tratta::livello).livello;
-    const auto sinistra = ValliASinistra(tratte);
-    const auto destra = ValliADestra(tratte);
-    for (size_t i = 0; i < tratte.size(); ++i) {
-        const Tratta& t = tratte[i];
+    void Togli(bool superata) {
+        const Cima cima = pila_.back();
+        pila_.pop_back();
+        const int16_t valle = std::min(cima.tratta.livello, cima.minimoDopo);
+        if (!pila_.empty())
+            pila_.back().minimoDopo = std::min(pila_.back().minimoDopo, valle);
         // On a slope the valley is the place itself, and nothing rises.
-        if (t.livello - Base(sinistra[i], destra[i], minimo) < std::max(emergenzaCent, 1))
-            continue;
-        const size_t mezzo = t.primo + (t.ultimo - t.primo) / 2;
-        picchi.push_back(
-            {.freqMhz = traccia[mezzo].freqMhz, .livelloCent = t.livello, .indice = mezzo});
+        if (cima.tratta.livello - Base(cima.sinistra, superata ? Valle(valle) : Valle()) >=
+            emergenzaCent_)
+            Annota(cima.tratta);
     }
-}
+    /// What a peak is measured from. The highest of a piece rises from its lowest point.
+    int Base(Valle sinistra, Valle destra) const {
+        if (sinistra && destra)
+            return std::max(*sinistra, *destra);
+        return sinistra.value_or(destra.value_or(minimo_));
+    }
+    void Annota(const Tratta& t) {
+        const size_t mezzo = t.primo + (t.ultimo - t.primo) / 2;
+        picchi_.push_back(
+            {.freqMhz = traccia_[mezzo].freqMhz, .livelloCent = t.livello, .indice = mezzo});
+    }
 
-/// All of them, by frequency.
+    const SweepTrace& traccia_;
+    int emergenzaCent_;
+    std::vector<Cima> pila_;
+    int16_t minimo_ = kMassimo; ///< of the piece
+    std::vector<Picco> picchi_;
+};
+
+/// All of them, in no order.
 std::vector<Picco> CercaOvunque(const SweepTrace& traccia, size_t d, int emergenzaCent) {
-    std::vector<Picco> picchi;
-    std::vector<Tratta> pezzo;
+    CercaPicchi cerca(traccia, emergenzaCent);
+    std::optional<Tratta> aperta;
+    const auto chiudi = [&](bool pezzo) {
+        if (aperta)
+            cerca.Aggiungi(*aperta);
+        aperta.reset();
+        if (pezzo)
+            cerca.FinePezzo();
+    };
     for (size_t i = 0; i < traccia.size(); ++i) {
         const int16_t livello = traccia[i].livello[d];
         const bool assente = livello <= kNessunLivello;
-        if (assente || traccia[i].stacco) {
-            CercaNelPezzo(traccia, pezzo, emergenzaCent, picchi);
-            pezzo.clear();
-        }
+        if (assente || traccia[i].stacco)
+            chiudi(true);
         if (assente)
             continue;
-        if (!pezzo.empty() && pezzo.back().livello == livello)
-            pezzo.back().ultimo = i;
-        else
-            pezzo.push_back({livello, i, i});
+        if (aperta && aperta->livello == livello) {
+            aperta->ultimo = i;
+            continue;
+        }
+        chiudi(false);
+        aperta = {livello, i, i};
     }
-    CercaNelPezzo(traccia, pezzo, emergenzaCent, picchi);
-    return picchi;
+    chiudi(true);
+    return std::move(cerca).Trovati();
 }
 
 int Centesimi(double db) {
@@ -107,8 +115,13 @@ int Centesimi(double db) {
 
 /// The highest first, and not more than asked for.
 std::vector<Picco> Ordina(std::vector<Picco> picchi, int quanti) {
-    std::ranges::stable_sort(picchi, std::ranges::greater{}, &Picco::livelloCent);
-    picchi.resize(std::min(picchi.size(), static_cast<size_t>(std::max(quanti, 0))));
+    const size_t tenuti = std::min(picchi.size(), static_cast<size_t>(std::max(quanti, 0)));
+    std::ranges::partial_sort(
+        picchi, picchi.begin() + static_cast<long>(tenuti), [](const Picco& a, const Picco& b) {
+            return a.livelloCent != b.livelloCent ? a.livelloCent > b.livelloCent
+                                                  : a.indice < b.indice;
+        });
+    picchi.resize(tenuti);
     return picchi;
 }
 
@@ -163,8 +176,10 @@ std::optional<size_t> PiccoDaTastiera(const std::vector<Picco>& picchi, size_t i
 std::optional<PiccoTrovato> TrovaPicco(const PicchiMisura& picchi, const ScalaGrafico& scala,
                                        const RiquadroGriglia& dove, Punto punto,
                                        double raggioPixel) {
-    const Punto pixel = Pixel(scala, dove);
     std::optional<PiccoTrovato> trovato;
+    if (!(dove.larghezza > 0) || !(dove.altezza > 0))
+        return trovato;
+    const Punto pixel = Pixel(scala, dove);
     double entro = raggioPixel;
     for (size_t d = 0; d < kNumDetector; ++d)
         for (size_t i = 0; i < picchi[d].size(); ++i) {

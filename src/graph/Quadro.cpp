@@ -110,15 +110,17 @@ std::vector<RettangoloTesto> DisegnaStrati(Superficie& superficie, const Disposi
 }
 
 void DisegnaMarcatori(Superficie& superficie, const Disposizione& d,
-                      const ContenutoQuadro& contenuto, const EnvRecord& env, double spessore) {
+                      const ContenutoQuadro& contenuto, const EnvRecord& env,
+                      const StileQuadro& stile) {
     if (contenuto.strati.empty())
         return;
     for (size_t i = 0; i < contenuto.marcatori.indice.size(); ++i)
         if (const auto indice = contenuto.marcatori.indice[i])
-            DisegnaMarkerSweep(
-                superficie, d.scala, d.dove, contenuto.misura, contenuto.strati[0].detector,
-                *indice, static_cast<int>(i),
-                {.colore = env.GraphColors[colore::kMarcatori + i], .larghezza = spessore});
+            DisegnaMarkerSweep(superficie, d.scala, d.dove, contenuto.misura,
+                               contenuto.strati[0].detector, *indice, static_cast<int>(i) + 1,
+                               {.colore = env.GraphColors[colore::kMarcatori + i],
+                                .larghezza = stile.spessoreTracce},
+                               stile.tinta.altezzaTesto);
 }
 
 /// What lies in the grid, from below.
@@ -135,7 +137,7 @@ void DisegnaInterno(Superficie& superficie, const Disposizione& d, const Contenu
     DisegnaPicchi(superficie, d.scala, d.dove, contenuto.picchi, colori, lato);
     AggiungiIngombro(contenuto.picchi, d.scala, d.dove, lato, ingombri);
     if (stile.marcatori)
-        DisegnaMarcatori(superficie, d, contenuto, env, spessore);
+        DisegnaMarcatori(superficie, d, contenuto, env, stile);
     ScriviNomiLimiti(superficie, d.scala, d.dove, contenuto.limiti, stile.tinta, ingombri);
 }
 

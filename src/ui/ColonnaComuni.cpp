@@ -80,7 +80,7 @@ RegoleComuni ColonnaComuni::Regole() {
 void ColonnaComuni::Carica() {
     const RegoleComuni regole = Regole();
     frontEnd_->Carica(regole);
-    livello_->Carica();
+    livello_->Carica(scheda_);
     CaricaTabelle();
     Sorveglia();
     ancillary_->Carica();

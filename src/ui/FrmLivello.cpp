@@ -2,21 +2,20 @@
 
 #include <cmath>
 
-#include "console/CambioUnita.h"
 #include "graph/Scala.h"
+#include "graph/UnitaGrafico.h"
 #include "link/Dinamica.h"
 #include "ui/Testi.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kUnitaScelte = 7;
 constexpr int kMaxRiferimento = 60;
 constexpr int kPassoRiferimento = 10;
 
 /// The last unit of the table is dBm to the graph.
 int UnitaMostrata(const SetupRecord& setup) {
-    return setup.UnitId == kUnitaScelte ? 0 : std::clamp<int>(setup.UnitId, 0, kUnitaScelte - 1);
+    return setup.UnitId == kUnitaGrafico ? 0 : std::clamp<int>(setup.UnitId, 0, kUnitaGrafico - 1);
 }
 
 } // namespace
@@ -28,13 +27,15 @@ FrmLivello::FrmLivello(ScritturaComuni& scrittura, QWidget* padre)
           AggiungiLista("CBXRefLevel", tr("Reference"), tr("Level at the top of the picture"))),
       dinamica_(AggiungiLista("CBXDinamica", tr("Dynamics"), tr("Vertical range"))) {
     SetupRecord& setup = scrittura_.scrivania.setup;
-    for (int i = 0; i < kUnitaScelte; ++i)
-        unita_->addItem(Q(TabellaUnitaGrafico()[static_cast<size_t>(i)].testo));
+    for (int i = 0; i < kUnitaGrafico; ++i)
+        unita_->addItem(Q(VoceUnitaGrafico(i)));
     for (const int dB : kDinamicaTable)
         dinamica_->addItem(TestoDb(dB));
-    connect(unita_, &QComboBox::activated, this, [this](int unita) {
-        CambiaUnita(scrittura_.scrivania, unita);
-        scrittura_.scritto(ParComune::Unita);
+    connect(unita_, &QComboBox::activated, this, [this, &setup](int unita) {
+        if (CambiaUnita(scrittura_.scrivania.ambiente, setup, scheda_, unita))
+            scrittura_.scritto(ParComune::Unita);
+        else
+            Carica(scheda_);
     });
     connect(riferimento_, &QComboBox::activated, this, [this, &setup] {
         setup.RefLevel = static_cast<int16_t>(riferimento_->currentData().toInt());
@@ -54,9 +55,10 @@ void FrmLivello::RiempiRiferimento() {
     const auto aggiungi = [&](int riferimento) {
         prova.RefLevel = static_cast<int16_t>(riferimento);
         const ScalaGrafico scala = SetScaleGraph(prova, 0.15, 30, true, 1000, 0);
-        riferimento_->addItem(
-            QStringLiteral("%1 %2").arg(std::lround(scala.alto / 100)).arg(unita_->currentText()),
-            riferimento);
+        riferimento_->addItem(QStringLiteral("%1 %2")
+                                  .arg(std::lround(scala.alto / 100))
+                                  .arg(unita_->currentText().trimmed()),
+                              riferimento);
     };
     if (std::abs(ora) > kMaxRiferimento || ora % kPassoRiferimento != 0)
         aggiungi(ora);
@@ -65,7 +67,8 @@ void FrmLivello::RiempiRiferimento() {
     riferimento_->setCurrentIndex(riferimento_->findData(ora));
 }
 
-void FrmLivello::Carica() {
+void FrmLivello::Carica(Modalita scheda) {
+    scheda_ = scheda;
     const SetupRecord& setup = scrittura_.scrivania.setup;
     unita_->setCurrentIndex(UnitaMostrata(setup));
     RiempiRiferimento();

@@ -12,6 +12,7 @@
 #include "data/Cartelle.h"
 #include "data/Incompiute.h"
 #include "graph/Confronto.h"
+#include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
 #include "platform/qt/SuperficieQt.h"
 #include "setup/TabellaScan.h"

@@ -27,6 +27,11 @@ void Stampa(Banco& banco, std::string_view nome, std::string_view valore) {
         banco.dati << valore << "\n";
 }
 
+/// What follows stores the environment, and asks as the panel has it.
+void CaricaPannelli(Banco& banco) {
+    AvviaInLettura(banco.scrivania, banco.ricevitore.porta.link, banco.linkScelto);
+}
+
 } // namespace
 
 std::span<const ParolaArchivio> ParoleArchivio() {
@@ -72,6 +77,7 @@ EsitoVerbo ArchivioDelete(Banco& banco, Parole parole) {
             return esito;
         misure.push_back(*misura);
     }
+    CaricaPannelli(banco);
     for (const std::string& misura : misure) {
         const auto voce = LeggiVoce(banco.scrivania, misura);
         if (CancellaMisura(banco.scrivania, misura))
@@ -96,6 +102,7 @@ EsitoVerbo ArchivioRename(Banco& banco, Parole parole) {
         return UsoErrato(banco, "archive", "\"" + parole[1] + "\" is no valid name");
     if (banco.scrivania.albero.EsisteCartella(CartellaMisura(*nuovo)))
         return Guasto(banco, kRifiutato, "there is a measure " + *nuovo);
+    CaricaPannelli(banco);
     return RinominaMisura(banco.scrivania, *misura, *nuovo) ? kFatto : kGuastoFile;
 }
 
@@ -115,6 +122,7 @@ EsitoVerbo ArchivioRedo(Banco& banco, Parole parole) {
     const MisuraAperta aperta = ApriIntestazione(banco.scrivania, *misura);
     if (!aperta.leggibile)
         return kGuastoFile;
+    CaricaPannelli(banco);
     ScanRecord scan;
     const auto percorso = RedoTabella(banco.scrivania, aperta.header.Scan, *nome, scan);
     if (!percorso)

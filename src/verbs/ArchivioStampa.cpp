@@ -1,6 +1,5 @@
 // `orvane archive` with the words that print what a measure is, and what its traces give.
 #include <algorithm>
-#include <cmath>
 #include <ostream>
 
 #include "base/Numeri.h"
@@ -13,6 +12,7 @@
 #include "verbs/Json.h"
 #include "verbs/MisuraDaOpzioni.h"
 #include "verbs/ParoleArchivio.h"
+#include "verbs/RigheCsv.h"
 
 namespace orvane {
 namespace {
@@ -91,11 +91,6 @@ void StampaIntestazione(Scheda& scheda, const MisuraAperta& misura) {
     scheda.Lista("factor", Accese(setup.FactorName, setup.FactorOn));
 }
 
-/// Frequencies are multiples of a step: the noise of the last binary digits is no information.
-double SenzaRumore(double mhz) {
-    return std::round(mhz * 1e9) / 1e9;
-}
-
 /// CSV, or an object whose samples are lists; `valore` names the middle column.
 void StampaCampioni(Banco& banco, const SweepTrace& traccia, DetectorKind detector,
                     std::string_view valore) {
@@ -106,9 +101,12 @@ void StampaCampioni(Banco& banco, const SweepTrace& traccia, DetectorKind detect
     for (const CampioneTraccia& c : traccia) {
         if (c.livello[d] <= kNessunLivello)
             continue;
-        const double mhz = SenzaRumore(c.freqMhz);
-        json.Lista().Numero(mhz).Numero(c.livello[d] / 100.0).Numero(c.riga + 1).Chiudi();
-        testo += TestoDaNumero(mhz) + "," + TestoFisso(c.livello[d] / 100.0, 2) + "," +
+        json.Lista()
+            .Numero(FreqPulita(c.freqMhz))
+            .Numero(c.livello[d] / 100.0)
+            .Numero(c.riga + 1)
+            .Chiudi();
+        testo += TestoFreqPulita(c.freqMhz) + "," + TestoFisso(c.livello[d] / 100.0, 2) + "," +
                  TestoIntero(c.riga + 1) + "\n";
     }
     banco.dati << (banco.json ? json.Chiudi().Chiudi().Documento() + "\n" : testo);

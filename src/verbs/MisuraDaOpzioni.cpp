@@ -6,6 +6,7 @@
 #include "console/CambioUnita.h"
 #include "data/Interpolazione.h"
 #include "data/NomiDisco.h"
+#include "data/NomiTabelle.h"
 #include "data/SubMisure.h"
 #include "records/Unita.h"
 #include "setup/TabellaScan.h"
@@ -35,7 +36,7 @@ struct Richiesta {
 };
 
 bool Nessuno(const std::string& nome) {
-    return UgualiSenzaMaiuscole(Rifila(nome), "NONE");
+    return UgualiSenzaMaiuscole(Rifila(nome), kNessunaTabella);
 }
 
 void LeggiNomi(Richiesta& r, const Argomenti& argomenti) {

@@ -42,8 +42,19 @@ constexpr std::array kVerbi = {
               "the measures; accept takes the mark of a run that was cut off, redo makes a scan\n"
               "      table of a measure, difference and envelope print CSV",
               VerboArchive},
-    VoceVerbo{"trace", "MEASURE [--detector D] [--sub NAME]",
+    VoceVerbo{"trace",
+              "MEASURE [--detector D] [--sub NAME] [--unit U] [--factors | --factor F ...]\n"
+              "        [--limit A ...]",
               "a stored trace as CSV: frequency_mhz,level_db,line", VerboTrace},
+    VoceVerbo{"peaks",
+              "MEASURE [--detector D] [--sub NAME] [--count N] [--excursion DB] [--from MHZ]\n"
+              "        [--to MHZ] [--unit U] [--factor F ...] [--limit A ...] [--save-table NAME]",
+              "the highest peaks of a stored trace as CSV", VerboPeaks},
+    VoceVerbo{"verdict",
+              "MEASURE [--sub NAME] [--limit A[:D] ...] [--factor F ...] [--uncertainty DB]\n"
+              "        [--unit U]",
+              "PASS, FAIL or INCONCLUSIVE for each limit, and for all of them; status 0 for PASS",
+              VerboVerdict},
     VoceVerbo{"picture",
               "MEASURE --out FILE [--size WxH] [--sub NAME] [--detector D] ... [--unit U]\n"
               "        [--limit NAME[:D]] ... [--factor NAME] ... [--from MHZ] [--to MHZ]\n"
@@ -51,6 +62,13 @@ constexpr std::array kVerbi = {
               "        [--no-settings]",
               "a stored measure as a picture: BMP, PNG, JPG or SVG by the file's extension",
               VerboPicture},
+    VoceVerbo{"report",
+              "MEASURE --out F [--kind 1det|2det|2full] [--detector D] [--detector2 D]\n"
+              "        [--margin DB] [--limit A]... [--factor F]... [--unit U] [--sub NAME]\n"
+              "        [--header] [--summary] [--separator comma|semicolon|tab]\n"
+              "        [--decimal point|comma] [--paper portrait|landscape] [--save-table NAME]",
+              "what comes near a limit, as TXT, PDF, RTF, CSV or HTML by the name of F",
+              VerboReport},
     VoceVerbo{
         "panel", "list | show [NAME|PATH]",
         "settings field by field, with their places: EAM, or by extension EPN, EST, PTH, COL,\n"

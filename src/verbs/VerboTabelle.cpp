@@ -15,6 +15,8 @@
 #include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "records/Unita.h"
+#include "report/SalvaTabella.h"
+#include "verbs/AttesaMuta.h"
 #include "verbs/Json.h"
 
 namespace orvane {
@@ -191,7 +193,9 @@ EsitoVerbo Importa(Banco& banco, TableKind kind, const std::string& nome, const 
 
 EsitoVerbo Esporta(Banco& banco, TableKind kind, const std::string& nome, const std::string& file) {
     const auto c = CaricaContenuto(banco, kind, nome);
-    return c && SalvaComeTesto(banco.scrivania, PathDaUtf8(file), *c) ? kFatto : kGuastoFile;
+    AttesaMuta attesa;
+    return c && SalvaTabellaCome(banco.scrivania, *c, nome, PathDaUtf8(file), attesa) ? kFatto
+                                                                                      : kGuastoFile;
 }
 
 std::string_view StatoLibreria(const EsitoLibreria& esito) {

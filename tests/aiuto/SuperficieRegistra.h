@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,11 @@ struct SuperficieRegistra : Superficie {
         Penna penna;
         bool ritagliata;
     };
+    struct ColonneFatte {
+        double sinistra;
+        double passo;
+        std::vector<TrattoColonna> colonne;
+    };
     struct TestoFatto {
         Punto dove;
         Ancora ancora;
@@ -39,11 +45,14 @@ struct SuperficieRegistra : Superficie {
 
     std::vector<LineaFatta> linee;
     std::vector<SpezzataFatta> spezzate;
+    std::vector<ColonneFatte> colonne;
     std::vector<TestoFatto> testi;
     std::vector<RettangoloFatto> rettangoli;
+    std::vector<std::array<Punto, 3>> triangoli;
     Punto angolo; ///< the picture's corners in the present user coordinates
     Punto opposto;
     int ritagli = 0;
+    bool prendeColonne = false; ///< as a surface of pixels does
 
     double LarghezzaPixel() const override { return larghezza_; }
     double AltezzaPixel() const override { return altezza_; }
@@ -55,10 +64,18 @@ struct SuperficieRegistra : Superficie {
     void Spezzata(std::span<const Punto> punti, const Penna& penna) override {
         spezzate.push_back({{punti.begin(), punti.end()}, penna, ritagli > 0});
     }
+    bool Colonne(double sinistra, double passo, std::span<const TrattoColonna> tratti,
+                 const Penna&) override {
+        if (prendeColonne)
+            colonne.push_back({sinistra, passo, {tratti.begin(), tratti.end()}});
+        return prendeColonne;
+    }
     void Rettangolo(Punto da, Punto a, int32_t riempimento, double) override {
         rettangoli.push_back({da, a, riempimento});
     }
-    void TriangoloSfumato(const Punto (&)[3], const int32_t (&)[3]) override {}
+    void TriangoloSfumato(const Punto (&v)[3], const int32_t (&)[3]) override {
+        triangoli.push_back({v[0], v[1], v[2]});
+    }
     void Testo(Punto dove, Ancora ancora, const std::string& testo, int32_t colore,
                double) override {
         testi.push_back({dove, ancora, testo, colore});

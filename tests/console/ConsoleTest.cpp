@@ -7,6 +7,7 @@
 
 #include "aiuto/BancoSimulato.h"
 #include "base/Testo.h"
+#include "console/Archivio.h"
 #include "console/Titolo.h"
 #include "link/Comandi.h"
 #include "link/Protocollo.h"
@@ -89,6 +90,25 @@ TEST_F(ConsoleTest, ALiveModeIdentifiesTheReceiverAndLeavesItQuiet) {
     EXPECT_EQ(comandi.back(), "#SSTP*");
     EXPECT_FALSE(banco.porta.Aperta());
     EXPECT_EQ(stato.modalita, Modalita::SweepsArchive);
+}
+
+TEST_F(ConsoleTest, RedoLeadsFromTheArchiveToItsScanTableWithTheOperatorsSetUp) {
+    Scrivania& s = banco.scrivania;
+    AvviaDati(s, banco.porta.link, banco.scan);
+    SweepHeader header{.Setup = SetupDefault()};
+    header.Setup.SommaFact = 1;
+    ImpostaBanda(header.Scan.Righe[0], TabellaBande()[1], 0);
+    ASSERT_TRUE(SalvaHeaderSweep(s, PercorsoKSH("Lamp"), header.Scan, header.Setup));
+    VisualizzazioneIniziale(console);
+    EXPECT_EQ(stato.archivio.misura.nome, "Lamp");
+    EXPECT_EQ(s.setup.SommaFact, 1);
+    ASSERT_TRUE(RedoDaMeasureAScanTab(console));
+    EXPECT_EQ(stato.modalita, Modalita::Sweep);
+    EXPECT_EQ(s.env.ScanPanelPath, "Panels\\Lamp.EST");
+    EXPECT_EQ(banco.scan.Righe[0].Stop, header.Scan.Righe[0].Stop);
+    EXPECT_EQ(s.setup.SommaFact, 0);
+    EXPECT_FALSE(s.NoSaveSetup);
+    EXPECT_FALSE(stato.archivio.attivo);
 }
 
 TEST_F(ConsoleTest, AnotherTabDuringARetryingStartLeadsThere) {

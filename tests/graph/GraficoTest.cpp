@@ -203,6 +203,33 @@ TEST(Traccia, TrecentomilaCampioniTengonoLaPunta) {
     EXPECT_NEAR(dove[12], FreqToX(q.scala, 0.15 + 123456 * kPasso), 1);
 }
 
+/// Full columns go as columns, joined to each other; what is sparse around them stays a line up to
+/// the first and on from the last.
+TEST(Traccia, FitteAColonneRadeALinea) {
+    Quadro q(10, 20, false);
+    q.superficie.prendeColonne = true;
+    ColonneTraccia traccia = q.Colonne();
+    traccia.Aggiungi(11, 1000);
+    for (int k = 0; k < 10000; ++k)
+        traccia.Aggiungi(12 + k * 1e-4, static_cast<int16_t>(k % 50));
+    traccia.Aggiungi(14, 2000);
+    traccia.Aggiungi(15, kNessunLivello);
+    for (int k = 0; k < 10000; ++k)
+        traccia.Aggiungi(16 + k * 1e-4, 500);
+    q.Disegna(traccia);
+    ASSERT_EQ(q.superficie.colonne.size(), 2u);
+    const auto& prime = q.superficie.colonne[0];
+    EXPECT_NEAR(prime.sinistra, FreqToX(q.scala, 12), 1);
+    EXPECT_NEAR(static_cast<double>(prime.colonne.size()), q.dove.larghezza / 10, 2);
+    for (size_t i = 1; i < prime.colonne.size(); ++i)
+        EXPECT_EQ(prime.colonne[i].entra, prime.colonne[i - 1].esce);
+    EXPECT_EQ(prime.colonne[20].massimo, 49);
+    ASSERT_EQ(q.superficie.spezzate.size(), 2u);
+    EXPECT_NEAR(q.superficie.spezzate[0].punti.back().x, FreqToX(q.scala, 12), 1.5);
+    EXPECT_NEAR(q.superficie.spezzate[1].punti.front().x, FreqToX(q.scala, 13), 1.5);
+    EXPECT_EQ(q.superficie.spezzate[1].punti.back().y, 2000);
+}
+
 TEST(Degenere, NullaSiFermaONuoce) {
     const double nonNumero = std::numeric_limits<double>::quiet_NaN();
     const std::pair<double, double> assi[] = {{30, 1}, {1, 1}, {0, 30}, {nonNumero, 30}};

@@ -150,6 +150,7 @@ void Finestra::UnitaDiCampoRifiutata() {
     QCOMPARE(banco.posto->scrivania.setup.UnitId, int16_t{1});
     QCOMPARE(banco.riquadri.size(), 1);
     QVERIFY(banco.riquadri[0].contains(QStringLiteral("Should have an active Conversion Factor")));
+    QCOMPARE(unita->itemText(0), QStringLiteral("dBm   "));
 }
 
 void Finestra::UnitaTieneIlPostoDellaTraccia() {

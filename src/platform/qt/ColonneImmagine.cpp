@@ -16,21 +16,23 @@ constexpr double kLontano = std::numeric_limits<double>::infinity();
 
 /// One end of a run, measured away from it: upwards for the top, downwards for the bottom. The edge
 /// of a line that crosses the column aslant covers it bit by bit, over `pendenza` pixels up to
-/// `fine`; nothing shows beyond `limite`.
+/// `fine`; nothing of it shows beyond `limite`.
 struct Estremo {
     double fine = 0;
     double pendenza = 0;
     double limite = 0;
-    double sbavatura = -kLontano; ///< how far a neighbour's spike reaches with the edge of its pen
+    double accanto = -kLontano;   ///< how far the pen reaches over from columns beside it, whole...
+    double sbavatura = -kLontano; ///< ...and in part
 
     /// Share of the pixel from `y` to `y` + 1 that lies on this side of the edge.
     double Copre(double y) const {
         const double bordo =
             std::clamp((fine - pendenza / 2 - y - 0.5) / (1 + pendenza) + 0.5, 0.0, 1.0);
-        return std::min(bordo, std::clamp(limite - y, 0.0, 1.0));
+        return std::max(std::min(bordo, std::clamp(limite - y, 0.0, 1.0)),
+                        std::clamp(accanto - y, 0.0, 1.0));
     }
-    double Pieno() const { return std::min(fine - pendenza, limite); }
-    double Ultimo() const { return std::max(std::min(fine, limite), sbavatura); }
+    double Pieno() const { return std::max(std::min(fine - pendenza, limite), accanto); }
+    double Ultimo() const { return std::max({std::min(fine, limite), accanto, sbavatura}); }
 };
 
 /// A column as it reaches one way, with `verso` -1 for upwards.
@@ -47,23 +49,45 @@ Portata PortataDi(const ColonnaPixel& c, bool su) {
               : Portata{c.basso, std::max(c.entra, c.esce), s};
 }
 
+/// How far a pen reaches over into the columns beside its own.
+struct Raggio {
+    int sinistra = 0; ///< whole columns
+    int destra = 0;
+    double parte = 0; ///< of the column behind those
+};
+Raggio RaggioPenna(double larghezza, bool liscia) {
+    const double fuori = (larghezza - 1) / 2;
+    if (liscia)
+        return {.sinistra = static_cast<int>(fuori),
+                .destra = static_cast<int>(fuori),
+                .parte = fuori - std::floor(fuori)};
+    const int colonne = static_cast<int>(std::ceil(larghezza - 0.5)) - 1;
+    return {.sinistra = colonne / 2, .destra = colonne - colonne / 2};
+}
+
 /// The ends one way of all columns.
 class EstremiColonne {
 public:
-    EstremiColonne(std::span<const ColonnaPixel> colonne, bool su, double larghezza)
-        : colonne_(colonne), su_(su), mezza_(larghezza / 2),
-          raggio_(static_cast<int>(std::ceil(mezza_ - 0.5))) {}
+    EstremiColonne(std::span<const ColonnaPixel> colonne, bool su, double larghezza,
+                   const Raggio& raggio)
+        : colonne_(colonne), su_(su), mezza_(larghezza / 2), raggio_(raggio) {}
 
     Estremo Trova(int i) const {
         const Portata p = Di(i);
         // A line that only passes through is thicker along the column the steeper it is; a spike
         // that turns in it ends flat.
         const double passa = std::clamp(1 - p.Oltre(), 0.0, 1.0);
-        const double mezza = mezza_ * (1 + passa * (std::sqrt(1 + p.pendenza * p.pendenza) - 1));
+        const double mezza = mezza_ * (1 + passa * (std::hypot(1, p.pendenza) - 1));
         Estremo e{.fine = p.Cima() + mezza,
                   .pendenza = passa * std::min(p.pendenza, 2 * mezza),
                   .limite = Intorno(i) + mezza_};
-        Allarga(e, i);
+        for (int d = 1; d <= raggio_.destra; ++d)
+            e.accanto = std::max(e.accanto, Accanto(i - d, d));
+        for (int d = 1; d <= raggio_.sinistra; ++d)
+            e.accanto = std::max(e.accanto, Accanto(i + d, d));
+        if (raggio_.parte > 0)
+            e.sbavatura = std::max(Accanto(i - raggio_.destra - 1, raggio_.destra + 1),
+                                   Accanto(i + raggio_.sinistra + 1, raggio_.sinistra + 1));
         return e;
     }
 
@@ -79,23 +103,19 @@ private:
                 cima = std::max(cima, Di(j).Cima());
         return cima;
     }
-    /// A spike is as wide as the pen: whole columns beside it, and a part of the last.
-    void Allarga(Estremo& e, int i) const {
-        for (int j = i - raggio_; j <= i + raggio_; ++j) {
-            if (j == i || !Dentro(j) || Di(j).Oltre() <= 1)
-                continue;
-            const double fine = Di(j).punta + mezza_;
-            if (std::abs(j - i) == raggio_)
-                e.sbavatura = std::max(e.sbavatura, fine);
-            else if (fine > e.fine)
-                e = {.fine = fine, .limite = fine, .sbavatura = e.sbavatura};
-        }
+    /// How far a column at a distance reaches with the pen's edge: a spike all the way, a line that
+    /// only passes through falls off, for its thickness has counted already.
+    double Accanto(int j, int distanza) const {
+        if (!Dentro(j))
+            return -kLontano;
+        const Portata p = Di(j);
+        return p.Cima() + mezza_ - (p.Oltre() > 1 ? 0 : distanza);
     }
 
     std::span<const ColonnaPixel> colonne_;
     bool su_;
     double mezza_;
-    int raggio_;
+    Raggio raggio_;
 };
 
 /// A run between its ends: rows from `prima` on that show, and those from `piena` to `finePiena`
@@ -198,14 +218,13 @@ void DipingiColonne(const QImage& immagine, const QRect& ritaglio, int primaX,
     if (dentro.isEmpty() || !AccettaColonne(immagine))
         return;
     const double penna = std::max(larghezza, 1.0);
-    const EstremiColonne alti(colonne, true, penna);
-    const EstremiColonne bassi(colonne, false, penna);
-    // As much of the outermost column as the pen covers of it.
-    const double peso = (penna - 1) / 2 - std::ceil((penna - 1) / 2) + 1;
+    const Raggio raggio = RaggioPenna(penna, liscia);
+    const EstremiColonne alti(colonne, true, penna, raggio);
+    const EstremiColonne bassi(colonne, false, penna, raggio);
     const Tela tela{.pixel = reinterpret_cast<uint32_t*>(const_cast<uchar*>(immagine.constBits())),
                     .passo = immagine.bytesPerLine() / ptrdiff_t{sizeof(uint32_t)},
                     .colore = colore | 0xff000000u,
-                    .pesoSbavatura = peso,
+                    .pesoSbavatura = raggio.parte,
                     .liscia = liscia};
     const int da = std::max(dentro.left() - primaX, 0);
     const int fino = std::min(dentro.right() + 1 - primaX, static_cast<int>(colonne.size()));

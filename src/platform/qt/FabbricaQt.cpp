@@ -2,10 +2,10 @@
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QImage>
 #include <QPainter>
 #include <QSvgGenerator>
 
+#include "base/Versione.h"
 #include "platform/qt/SuperficieQt.h"
 
 namespace orvane {
@@ -35,19 +35,17 @@ void Disegna(QPaintDevice& dove, int larghezza, int altezza,
 
 bool InPixel(QIODevice& file, int larghezza, int altezza, FormatoImmagine formato,
              const std::function<void(Superficie&)>& disegna) {
-    QImage immagine(larghezza, altezza, QImage::Format_RGB888);
-    if (immagine.isNull())
-        return false;
-    immagine.fill(Qt::white);
-    Disegna(immagine, larghezza, altezza, disegna);
-    return immagine.save(&file, NomeQt(formato),
-                         formato == FormatoImmagine::Jpg ? kQualitaJpg : -1);
+    const QImage immagine = DipingiImmagine(larghezza, altezza, disegna);
+    return !immagine.isNull() && immagine.save(&file, NomeQt(formato),
+                                               formato == FormatoImmagine::Jpg ? kQualitaJpg : -1);
 }
 
 bool InLinee(QIODevice& file, int larghezza, int altezza,
              const std::function<void(Superficie&)>& disegna) {
     QSvgGenerator disegno;
     disegno.setOutputDevice(&file);
+    disegno.setTitle(QLatin1String(kNomeProgramma));
+    disegno.setDescription(QString());
     disegno.setSize({larghezza, altezza});
     disegno.setViewBox(QRect(0, 0, larghezza, altezza));
     disegno.setResolution(kPuntiPollice);
@@ -56,6 +54,16 @@ bool InLinee(QIODevice& file, int larghezza, int altezza,
 }
 
 } // namespace
+
+QImage DipingiImmagine(int larghezza, int altezza,
+                       const std::function<void(Superficie&)>& disegna) {
+    QImage immagine(larghezza, altezza, QImage::Format_RGB32);
+    if (immagine.isNull())
+        return immagine;
+    immagine.fill(Qt::white);
+    Disegna(immagine, larghezza, altezza, disegna);
+    return immagine;
+}
 
 std::vector<uint8_t> FabbricaQt::Dipingi(int larghezza, int altezza, FormatoImmagine formato,
                                          const std::function<void(Superficie&)>& disegna) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/qt/ColonneImmagine.h"
+#include "platform/qt/RitaglioLinee.h"
 
 #if defined(__x86_64__) || defined(__i386__)
 #include <immintrin.h>
@@ -187,6 +188,15 @@ void SuperficieQt::Spezzata(std::span<const Punto> punti, const Penna& penna) {
         pixel.push_back(Pixel(p));
     painter_.setPen(PennaQt(penna));
     painter_.setBrush(Qt::NoBrush);
+    // A drawing of lines is written without its clip.
+    if (!ritagli_.empty() && painter_.paintEngine()->type() == QPaintEngine::SVG)
+        for (const auto& pezzo : RitagliaSpezzata(pixel, QRectF(ritagli_.back())))
+            Traccia(pezzo, penna);
+    else
+        Traccia(pixel, penna);
+}
+
+void SuperficieQt::Traccia(std::span<const QPointF> pixel, const Penna& penna) {
     // Qt strokes a wide line as one shape, at a cost that grows with the square of its points. The
     // pieces share a segment, so that the joint between them is round too.
     const bool larga = penna.larghezza * orizzontale_.scala > 1 && penna.tratto == Tratto::Pieno;
