@@ -83,13 +83,33 @@ LineaGriglia Verticale(const ScalaGrafico& scala, double x, GenereLinea genere) 
     return {{x, scala.basso}, {x, scala.alto}, genere};
 }
 
+/// A zoomed axis that holds fewer lines of its decades is divided evenly in their place.
+constexpr size_t kPocheTacche = 4;
+constexpr double kPartiFitte = 5;
+
+/// At whole multiples of 1, 2 or 5 times a power of ten.
+std::vector<Tacca> TaccheFitte(double startMhz, double stopMhz) {
+    const double parte = (stopMhz - startMhz) / kPartiFitte;
+    const double potenza = std::pow(10, std::floor(std::log10(parte)));
+    const double cifra = parte / potenza;
+    const double passo = potenza * (cifra < 2 ? 1 : cifra < 5 ? 2 : 5);
+    std::vector<Tacca> tacche;
+    const double prima = std::ceil(startMhz / passo);
+    for (int i = 0; i <= 2 * kPartiFitte; ++i)
+        if (const double f = (prima + i) * passo; f <= stopMhz)
+            tacche.push_back({.freqMhz = f, .etichetta = FormatFreqLabel(f)});
+    return tacche;
+}
+
 /// The vertical lines of either axis with their labels.
 std::vector<Tacca> TaccheAsse(const ScalaGrafico& scala) {
     if (!AsseValido(scala.start, scala.stop, scala.logaritmica))
         return {};
-    if (scala.logaritmica)
-        return CalcolaDecade(scala.start, scala.stop);
     std::vector<Tacca> tacche;
+    if (scala.logaritmica) {
+        tacche = CalcolaDecade(scala.start, scala.stop);
+        return tacche.size() < kPocheTacche ? TaccheFitte(scala.start, scala.stop) : tacche;
+    }
     for (int i = 0; i <= kPartiLineare; ++i) {
         const double f = scala.start + (scala.stop - scala.start) * i / kPartiLineare;
         tacche.push_back({.freqMhz = f, .etichetta = FormatFreqLabel(f)});

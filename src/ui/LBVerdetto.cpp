@@ -19,13 +19,27 @@ constexpr std::array<const char*, kNumDetector> kSigle = {"PK", "QP",     "RMS",
                                                           "AV", "RMS-AV", "CISPR-AV"};
 constexpr double kBordoX = 10;
 constexpr double kBordoY = 4;
+/// How much of its colour a badge lets through, alone and under the pointer.
+constexpr float kTinta = 0.22f;
+constexpr float kTintaSorvolo = 0.34f;
 
-/// With the typographic minus and a sign in front of everything but zero.
+/// The ground of the words, under the pointer, where it is nearest to them.
+QColor Sopra(const QColor& tinta, const QColor& fondo) {
+    const auto mescola = [](float sopra, float sotto) {
+        return sopra * kTintaSorvolo + sotto * (1 - kTintaSorvolo);
+    };
+    return QColor::fromRgbF(mescola(tinta.redF(), fondo.redF()),
+                            mescola(tinta.greenF(), fondo.greenF()),
+                            mescola(tinta.blueF(), fondo.blueF()));
+}
+
+/// With the typographic minus and a sign in front of everything but zero; what one decimal would
+/// make zero has two.
 QString TestoDb(double db) {
-    const double arrotondato = std::round(db * 10) / 10;
-    const QString cifre = Q(TestoFisso(std::abs(arrotondato), 1));
-    return arrotondato == 0 ? cifre
-                            : (arrotondato < 0 ? QStringLiteral("−") : QStringLiteral("+")) + cifre;
+    constexpr double kMezzoDecimo = 0.05;
+    const QString cifre =
+        Q(TestoFisso(std::abs(db), std::abs(db) < kMezzoDecimo && db != 0 ? 2 : 1));
+    return db == 0 ? cifre : (db < 0 ? QStringLiteral("−") : QStringLiteral("+")) + cifre;
 }
 
 } // namespace
@@ -82,13 +96,13 @@ void LBVerdetto::paintEvent(QPaintEvent*) {
     p.setBrush(Tinta(palette(), Ruolo::Grafico));
     p.drawRoundedRect(riquadro, 4, 4);
     QColor tinta = colore;
-    tinta.setAlphaF(underMouse() ? 0.34f : 0.22f);
+    tinta.setAlphaF(underMouse() ? kTintaSorvolo : kTinta);
     p.setBrush(tinta);
     p.drawRoundedRect(riquadro, 4, 4);
     QFont carattere = font();
     carattere.setWeight(QFont::DemiBold);
     p.setFont(carattere);
-    p.setPen(ColoreLeggibile(colore, Tinta(palette(), Ruolo::Grafico)));
+    p.setPen(ColoreLeggibile(colore, Sopra(colore, Tinta(palette(), Ruolo::Grafico))));
     p.drawText(rect(), Qt::AlignCenter, text());
 }
 

@@ -165,13 +165,11 @@ QString TestoRighe(const std::vector<RigaLettura>& righe) {
     return pezzi.join(QStringLiteral(", ")).replace(QStringLiteral("Δ"), Tr("delta"));
 }
 
-QString FrequenzaCampione(const SweepTrace& traccia, size_t indice) {
-    const double freq = traccia[indice].freqMhz;
-    const size_t altro = indice + 1 < traccia.size() ? indice + 1 : indice - (indice > 0);
-    return Q(DetFormatoVal(freq, std::abs(traccia[altro].freqMhz - freq))) + QStringLiteral(" MHz");
+QString FrequenzaCampione(const MisuraAperta& misura, size_t indice) {
+    return Q(LeggiMarker(misura, {}, indice).frequenza);
 }
 
-QString TestoPicco(const SweepTrace& traccia, DetectorKind detector, const Picco& picco,
+QString TestoPicco(const MisuraAperta& misura, DetectorKind detector, const Picco& picco,
                    const SetupRecord& setup) {
     const auto unita = static_cast<size_t>(std::clamp<int>(setup.UnitId, 0, 7));
     const double livello =
@@ -179,8 +177,8 @@ QString TestoPicco(const SweepTrace& traccia, DetectorKind detector, const Picco
     return Tr("%1 %2 %3 at %4")
         .arg(QLatin1String(kNomiDetector[static_cast<size_t>(detector)]), Q(TestoFisso(livello, 2)),
              Q(TabellaUnitaGrafico()[unita].testo),
-             picco.indice < traccia.size() ? FrequenzaCampione(traccia, picco.indice)
-                                           : TestoFrequenza(picco.freqMhz));
+             picco.indice < misura.traccia->size() ? FrequenzaCampione(misura, picco.indice)
+                                                   : TestoFrequenza(picco.freqMhz));
 }
 
 double DisegnaLegenda(QPainter& p, QPointF angolo, const std::vector<VoceLegenda>& voci,

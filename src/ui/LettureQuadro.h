@@ -31,10 +31,10 @@ std::vector<RigaLettura> RigheMarker(const ContenutoQuadro& contenuto, const Set
 /// Rows as one sentence for a screen reader.
 QString TestoRighe(const std::vector<RigaLettura>& righe);
 
-/// "0.195 MHz", with the decimals that the step of the trace needs there.
-QString FrequenzaCampione(const SweepTrace& traccia, size_t indice);
+/// "0.195 MHz", as at a marker there. The trace must have the sample.
+QString FrequenzaCampione(const MisuraAperta& misura, size_t indice);
 /// "Peak 51.32 dBµV at 0.195 MHz"
-QString TestoPicco(const SweepTrace& traccia, DetectorKind detector, const Picco& picco,
+QString TestoPicco(const MisuraAperta& misura, DetectorKind detector, const Picco& picco,
                    const SetupRecord& setup);
 
 /// A name in the legend with the colours of its traces.

@@ -8,6 +8,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "base/Interruttori.h"
 #include "base/Versione.h"
 #include "data/Panels.h"
 #include "link/Protocollo.h"
@@ -110,6 +111,8 @@ QWidget* MainForm::CreaCentro() {
     conPiede->setObjectName(QStringLiteral("SplitPiede"));
     conPiede->setChildrenCollapsible(false);
     quadro_ = new MainPict(scrivania_.env, scrivania_.setup, conPiede);
+    if (Acceso(scrivania_.ambiente.RigaComando(), interruttore::kNoWheel))
+        quadro_->SpegniRotella();
     piede_ = new QStackedWidget(conPiede);
     sweep_ = new PannelloSweep(scrivania_, scan_, piede_);
     piedeArchivio_ = new PiedeArchivio(piede_);

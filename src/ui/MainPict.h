@@ -21,6 +21,8 @@
 #include "ui/TracceMisura.h"
 #include "ui/TraccePassate.h"
 
+class QMenu;
+
 namespace orvane {
 
 class LBMultiMK;
@@ -97,6 +99,8 @@ Q_SIGNALS:
     void ZoomCambiato();
     /// A symbol was clicked; its marker has moved.
     void PiccoScelto(int detector, qulonglong indice);
+    /// The pointer has come upon a symbol.
+    void PiccoSorvolato(qulonglong indice);
     /// `InterceptMousewheelSelMeas`: the next measure of the archive (1) or the one before (-1).
     void MisuraSuccessiva(int verso);
 
@@ -168,7 +172,6 @@ private:
     void ScegliPicco(const PiccoTrovato& trovato);
     void TrascinaMarker(double x);
     void Sorvola(QPointF dove);
-    void FineGesto();
     void MuoviDi(int campioni);
     void VaiAlPicco(VersoPicco verso);
     void CommutaDelta();
@@ -176,6 +179,8 @@ private:
     void ZoomAlMarker(int scatti);
     void ScorriVista(int scatti);
     const std::vector<Picco>& PicchiTasti();
+    void VociMarker(QMenu& menu, size_t indice);
+    void VociComandi(QMenu& menu);
 
     const EnvRecord& env_;
     const SetupRecord& setup_;

@@ -1,11 +1,8 @@
-// What mouse and keys do on the picture.
+// What the mouse does on the picture, and what the picture says to it.
 #include <algorithm>
 #include <cmath>
 
-#include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -19,58 +16,12 @@ namespace {
 /// A marker is taken hold of from this far, logical pixels.
 constexpr double kPresaMarker = 5;
 constexpr double kPresaPicco = 9;
-constexpr int kPassoLungo = 10;
-/// Peaks that the keys walk.
-constexpr int kPicchiTasti = 200;
 /// Eighths of a degree of one step of the wheel.
 constexpr int kScattoRotella = 120;
 /// Part of the zoom window by which the wheel moves it.
 constexpr double kParteScorri = 0.1;
 
 } // namespace
-
-struct MainPict::Comando {
-    Qt::Key tasto;
-    Qt::KeyboardModifiers con;
-    void (*esegui)(MainPict&);
-    const char* voce; ///< in the context menu; null for keys alone
-    bool separa = false;
-};
-
-std::span<const MainPict::Comando> MainPict::Comandi() {
-    using M = MainPict;
-    static constexpr Qt::KeyboardModifiers kSolo = Qt::NoModifier;
-    static const std::array kComandi = {
-        Comando{Qt::Key_P, kSolo, [](M& m) { m.VaiAlPicco(VersoPicco::PiuAlto); },
-                QT_TR_NOOP("Highest Peak")},
-        Comando{Qt::Key_N, kSolo, [](M& m) { m.VaiAlPicco(VersoPicco::Prossimo); },
-                QT_TR_NOOP("Next Lower Peak")},
-        Comando{Qt::Key_Left, Qt::ControlModifier, [](M& m) { m.VaiAlPicco(VersoPicco::Sinistra); },
-                QT_TR_NOOP("Peak to the Left")},
-        Comando{Qt::Key_Right, Qt::ControlModifier, [](M& m) { m.VaiAlPicco(VersoPicco::Destra); },
-                QT_TR_NOOP("Peak to the Right")},
-        Comando{Qt::Key_D, kSolo, [](M& m) { m.CommutaDelta(); },
-                QT_TR_NOOP("Delta Marker On/Off")},
-        Comando{Qt::Key_Escape, kSolo, [](M& m) { m.TogliMarkerTutti(); },
-                QT_TR_NOOP("Remove Markers")},
-        Comando{Qt::Key_Z, kSolo, [](M& m) { m.OKZoomMK(); },
-                QT_TR_NOOP("Zoom Between the Markers"), true},
-        Comando{Qt::Key_Plus, kSolo, [](M& m) { m.ZoomAlMarker(1); }, QT_TR_NOOP("Zoom In")},
-        Comando{Qt::Key_Minus, kSolo, [](M& m) { m.ZoomAlMarker(-1); }, QT_TR_NOOP("Zoom Out")},
-        Comando{Qt::Key_Backspace, kSolo, [](M& m) { m.ZoomIndietro(); }, QT_TR_NOOP("Zoom Back")},
-        Comando{Qt::Key_Right, Qt::AltModifier, [](M& m) { m.ZoomAvanti(); },
-                QT_TR_NOOP("Zoom Forward")},
-        Comando{Qt::Key_0, kSolo, [](M& m) { m.CancelZoomMK(); }, QT_TR_NOOP("Whole Span")},
-        Comando{Qt::Key_Left, Qt::AltModifier, [](M& m) { m.ZoomIndietro(); }, nullptr},
-        Comando{Qt::Key_Left, kSolo, [](M& m) { m.MuoviDi(-1); }, nullptr},
-        Comando{Qt::Key_Right, kSolo, [](M& m) { m.MuoviDi(1); }, nullptr},
-        Comando{Qt::Key_Left, Qt::ShiftModifier, [](M& m) { m.MuoviDi(-kPassoLungo); }, nullptr},
-        Comando{Qt::Key_Right, Qt::ShiftModifier, [](M& m) { m.MuoviDi(kPassoLungo); }, nullptr},
-        Comando{Qt::Key_Home, kSolo, [](M& m) { m.TrascinaMarker(m.Griglia().left()); }, nullptr},
-        Comando{Qt::Key_End, kSolo, [](M& m) { m.TrascinaMarker(m.Griglia().right()); }, nullptr},
-    };
-    return kComandi;
-}
 
 bool MainPict::event(QEvent* evento) {
     if (evento->type() != QEvent::ToolTip)
@@ -80,7 +31,7 @@ bool MainPict::event(QEvent* evento) {
     if (picco)
         QToolTip::showText(
             aiuto->globalPos(),
-            TestoPicco(Traccia(), picco->detector,
+            TestoPicco(contenuto_.misura, picco->detector,
                        contenuto_.picchi[static_cast<size_t>(picco->detector)][picco->quale],
                        setup_),
             this);
@@ -192,13 +143,17 @@ void MainPict::Sorvola(QPointF dove) {
     puntataX_ = x;
     Q_EMIT Puntata(XToFreq(scala_, x), LivelloA(dove.y()));
     if (!haMisura_) {
-        AggiornaLettura();
-        return update();
+        if (!ridisegno_.isActive())
+            ridisegno_.start();
+        return;
     }
     const auto picco = gesto_ == Gesto::Nessuno ? PiccoSotto(dove) : std::nullopt;
     if (picco.has_value() != sorvolato_.has_value() ||
         (picco && (picco->detector != sorvolato_->detector || picco->quale != sorvolato_->quale))) {
         sorvolato_ = picco;
+        if (picco)
+            Q_EMIT PiccoSorvolato(
+                contenuto_.picchi[static_cast<size_t>(picco->detector)][picco->quale].indice);
         update();
     }
     setCursor(picco                         ? Qt::PointingHandCursor
@@ -266,123 +221,6 @@ void MainPict::ScorriVista(int scatti) {
     const int passo = scatti * std::max(1, static_cast<int>(barra.larghezza * kParteScorri));
     DopoZoom(zoom_.Scorri(
         std::clamp(barra.posto + passo, 0, std::max(0, kPassiBarraZoom - barra.larghezza))));
-}
-
-void MainPict::keyPressEvent(QKeyEvent* evento) {
-    if (!haMisura_)
-        return QWidget::keyPressEvent(evento);
-    const int tasto = evento->key();
-    Qt::KeyboardModifiers con = evento->modifiers() & ~Qt::KeypadModifier;
-    // Where + needs Shift it is the same key.
-    if (tasto == Qt::Key_Plus || tasto == Qt::Key_Minus)
-        con &= ~Qt::ShiftModifier;
-    const auto comandi = Comandi();
-    const auto comando = std::ranges::find_if(
-        comandi, [&](const Comando& c) { return c.tasto == tasto && c.con == con; });
-    if (comando == comandi.end())
-        return QWidget::keyPressEvent(evento);
-    comando->esegui(*this);
-}
-
-void MainPict::MuoviDi(int campioni) {
-    if (Traccia().empty())
-        return;
-    const auto qui = contenuto_.marcatori.indice[attivo_];
-    const auto ultimo = static_cast<ptrdiff_t>(Traccia().size()) - 1;
-    const ptrdiff_t posto = qui ? static_cast<ptrdiff_t>(*qui) + campioni : 0;
-    MuoviMarker(static_cast<int>(attivo_),
-                static_cast<size_t>(std::clamp<ptrdiff_t>(posto, 0, ultimo)));
-}
-
-/// Of the first detector on show.
-const std::vector<Picco>& MainPict::PicchiTasti() {
-    if (!picchiTasti_) {
-        const auto quali = DetectorMisura();
-        const auto primo = std::ranges::find(quali, true);
-        picchiTasti_.emplace();
-        if (primo != quali.end())
-            *picchiTasti_ = TrovaPicchi(Traccia(), static_cast<DetectorKind>(primo - quali.begin()),
-                                        kPicchiTasti);
-    }
-    return *picchiTasti_;
-}
-
-void MainPict::VaiAlPicco(VersoPicco verso) {
-    const size_t qui = contenuto_.marcatori.indice[attivo_].value_or(0);
-    if (const auto picco = PiccoDaTastiera(PicchiTasti(), qui, verso))
-        MuoviMarker(static_cast<int>(attivo_), *picco);
-}
-
-/// The delta marker starts where the marker is, and the keys move it from there.
-void MainPict::CommutaDelta() {
-    if (contenuto_.marcatori.indice[1])
-        return TogliMarker(1);
-    if (const auto qui = contenuto_.marcatori.indice[0]) {
-        attivo_ = 1;
-        MuoviMarker(1, *qui);
-    }
-}
-
-void MainPict::TogliMarkerTutti() {
-    if (gesto_ == Gesto::Riquadro) {
-        gesto_ = Gesto::Nessuno;
-        return update();
-    }
-    TogliMarker(1);
-    TogliMarker(0);
-}
-
-void MainPict::ZoomAlMarker(int scatti) {
-    const CampoMhz vista = zoom_.Vista();
-    double attorno = std::sqrt(vista.start * vista.stop);
-    const auto qui = contenuto_.marcatori.indice[attivo_];
-    if (qui && *qui < Traccia().size())
-        if (const double mhz = Traccia()[*qui].freqMhz; mhz >= vista.start && mhz <= vista.stop)
-            attorno = mhz;
-    DopoZoom(zoom_.Rotella(attorno, scatti));
-}
-
-void MainPict::contextMenuEvent(QContextMenuEvent* evento) {
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("MenuQuadro"));
-    const bool daMouse = evento->reason() == QContextMenuEvent::Mouse;
-    std::optional<size_t> qui = contenuto_.marcatori.indice[attivo_];
-    if (daMouse && haMisura_)
-        qui = CampioneA(evento->pos().x());
-    if (haMisura_ && qui && daMouse) {
-        menu.addAction(tr("Marker Here"), this, [this, qui] {
-            attivo_ = 0;
-            MuoviMarker(0, *qui);
-        });
-        menu.addAction(tr("Delta Marker Here\tShift+Click"), this, [this, qui] {
-            attivo_ = 1;
-            MuoviMarker(1, *qui);
-        });
-        menu.addSeparator();
-    }
-    for (const Comando& comando : haMisura_ ? Comandi() : std::span<const Comando>{}) {
-        if (!comando.voce)
-            continue;
-        if (comando.separa)
-            menu.addSeparator();
-        const QString tasti =
-            QKeySequence(static_cast<int>(comando.tasto) | static_cast<int>(comando.con.toInt()))
-                .toString(QKeySequence::NativeText);
-        menu.addAction(tr(comando.voce) + QLatin1Char('\t') + tasti, this,
-                       [this, &comando] { comando.esegui(*this); });
-    }
-    const double mhz = haMisura_ && qui && *qui < Traccia().size() ? Traccia()[*qui].freqMhz
-                       : puntataX_ >= 0                            ? XToFreq(scala_, puntataX_)
-                                                                   : 0;
-    if (mhz > 0) {
-        menu.addSeparator();
-        const QString testo =
-            haMisura_ && qui ? FrequenzaCampione(Traccia(), *qui) : TestoFrequenza(mhz);
-        menu.addAction(QStringLiteral("Tune Manual @") + testo, this,
-                       [this, mhz] { Q_EMIT SintonizzaManuale(mhz); });
-    }
-    if (!menu.isEmpty())
-        menu.exec(evento->globalPos());
 }
 
 } // namespace orvane

@@ -38,6 +38,8 @@ MisuraAperta Misura() {
     misura.stopMhz = 11;
     misura.leggibile = true;
     misura.header.Setup.UnitId = 1;
+    misura.header.Scan.Righe[0].Start = 1;
+    misura.header.Scan.Righe[0].Step = 0.1;
     return misura;
 }
 
@@ -329,7 +331,7 @@ void QuadroUi::ColoriLeggibili() {
     for (const QColor fondo : {Tinta(true, Ruolo::Velo), Tinta(false, Ruolo::Velo)})
         for (const int32_t colore : kColoriDefault) {
             const QColor c = ColoreLeggibile(ColoreQt(colore), fondo);
-            QVERIFY(std::abs(c.lightness() - fondo.lightness()) > 60);
+            QVERIFY(std::abs(qGray(c.rgb()) - qGray(fondo.rgb())) > 60);
         }
     const QColor arancio(244, 151, 23); // is left alone where it can be read
     QCOMPARE(ColoreLeggibile(arancio, Tinta(true, Ruolo::Velo)), arancio);
