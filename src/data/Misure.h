@@ -41,7 +41,8 @@ bool SalvaHeaderSweep(Scrivania& s, std::string_view percorso, const ScanRecord&
 bool CaricaHeaderSweep(Scrivania& s, std::string_view percorso, ScanRecord& scan,
                        SetupRecord& setup);
 
-/// Empties the measure's directory and makes it and "Sub_Measure\" afresh.
+/// Empties the measure's directory, but for the mark of its run, and makes it and "Sub_Measure\"
+/// afresh.
 void PreparaCartellaMisura(Scrivania& s, std::string_view misura);
 /// Copies of the limits and factors in use into the measure.
 void CopiaFileLimSweep(Scrivania& s, std::string_view misura, const ScanTable& tabella);

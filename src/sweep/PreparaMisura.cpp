@@ -1,6 +1,7 @@
 // A run's preparation: what the receiver is told ahead of the first line, and the measure's files.
 #include "base/Testo.h"
 #include "base/Versione.h"
+#include "data/Avvisi.h"
 #include "data/Incompiute.h"
 #include "data/Panels.h"
 #include "setup/FrontEndSweep.h"
@@ -47,15 +48,19 @@ bool Svolgimento::PreparaFile() {
         r_.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione});
         return Fallisci(EsitoCorsa::GuastoFile, testo);
     }
-    PreparaCartellaMisura(s_, misura_);
-    preparata_ = true;
-    CopiaFileLimSweep(s_, misura_, scan_.Righe);
-    CopiaFileFacSweep(s_, misura_);
-    // A power cut between the two leaves a header that is known to be one of no whole measure.
+    // The mark comes first: whatever a power cut leaves is known to be no whole measure.
+    s_.albero.AssicuraCartella(CartellaMisura(misura_));
     const auto segno = SegnaCorsa(s_.albero, misura_);
-    segno_ = segno.value_or(nullptr);
-    return (SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup) && segno) ||
-           Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
+    bool fatto = segno || AvvisaScrittura(s_, PercorsoKSH(misura_));
+    if (fatto) {
+        segno_ = *segno;
+        PreparaCartellaMisura(s_, misura_);
+        preparata_ = true;
+        CopiaFileLimSweep(s_, misura_, scan_.Righe);
+        CopiaFileFacSweep(s_, misura_);
+        fatto = SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup);
+    }
+    return fatto || Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
 }
 
 /// Each pass is asked for with the hold times of the user, whatever the receiver made of them in
