@@ -9,7 +9,7 @@ namespace orvane {
 namespace {
 
 /// Wide enough for the level labels of every unit.
-constexpr const char* kLivelloPiuLargo = "-000.0";
+constexpr const char* kLivelloPiuLargo = "-000.0 dBµV/m";
 constexpr const char* kFrequenzaPiuLarga = "500 M";
 constexpr double kMargine = 8;
 /// No scale is higher; what is comes from a damaged record.

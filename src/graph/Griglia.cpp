@@ -22,7 +22,6 @@ constexpr int kPartiLineare = 10;
 // Pixels.
 constexpr double kStaccoLivello = 8;
 constexpr double kStaccoFrequenza = 5;
-constexpr double kStaccoUnita = 4;
 constexpr double kStampaLarghezza = 2;
 /// Height of a label's place, in text heights; free width between two labels, in pixels.
 constexpr double kPostoLivello = 1.2;
@@ -148,7 +147,7 @@ std::vector<LineaGriglia> LineeGriglia(const ScalaGrafico& scala, LineeVisibili 
 }
 
 void ScriviLivelli(Superficie& superficie, const ScalaGrafico& scala, const PassoPixel& passo,
-                   const TintaGrafico& tinta) {
+                   const TintaGrafico& tinta, const std::string& unita) {
     const double posto =
         kPostoLivello * superficie.DimensioneTesto("0", tinta.altezzaTesto).y * passo.y;
     int ogni = kPassoSub;
@@ -156,8 +155,10 @@ void ScriviLivelli(Superficie& superficie, const ScalaGrafico& scala, const Pass
         ogni *= 2;
     for (const LivelloGriglia& livello : LivelliGriglia(scala, ogni)) {
         const double y = std::min<double>(livello.mostrato, scala.alto - kSottoCornice);
-        superficie.Testo({-kStaccoLivello * passo.x, y}, Ancora::DestraMezzo,
-                         TestoDaNumero(livello.mostrato / 100.0), tinta.scritte,
+        std::string testo = TestoDaNumero(livello.mostrato / 100.0);
+        if (GenereLivello(livello.base) == GenereLinea::Principale)
+            testo += " " + unita;
+        superficie.Testo({-kStaccoLivello * passo.x, y}, Ancora::DestraMezzo, testo, tinta.scritte,
                          tinta.altezzaTesto);
     }
 }
@@ -232,9 +233,7 @@ void GridLabel(Superficie& superficie, const ScalaGrafico& scala, const Riquadro
         return;
     const PassoPixel passo = UnitaPerPixel(scala, dove);
     const double riga = superficie.DimensioneTesto("0", tinta.altezzaTesto).y;
-    ScriviLivelli(superficie, scala, passo, tinta);
-    superficie.Testo({0, scala.alto + kStaccoUnita * passo.y}, Ancora::SinistraBasso, unita,
-                     tinta.scritte, tinta.altezzaTesto);
+    ScriviLivelli(superficie, scala, passo, tinta, unita);
     ScriviFrequenze(superficie, scala, passo, tinta);
     superficie.Testo({scala.larghezzaPixel, scala.basso - (kStaccoFrequenza + riga) * passo.y},
                      Ancora::DestraAlto, "Hz", tinta.scritte, tinta.altezzaTesto);

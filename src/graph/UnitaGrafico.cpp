@@ -1,3 +1,4 @@
+// Field units ask for a factor, and the reference level goes along.
 #include "graph/UnitaGrafico.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +17,8 @@ constexpr double kSpazio = 14; ///< between columns
 constexpr double kRiga = 1.3;  ///< in line heights
 /// Kept free around a marker and the edges of the grid.
 constexpr double kDistanza = 12;
+/// Places that are tried across the picture.
+constexpr int kPosti = 12;
 
 } // namespace
 
@@ -64,37 +67,56 @@ QSize LBMultiMK::sizeHint() const {
                  static_cast<int>(passo * double(righe_.size())) + 12);
 }
 
-void LBMultiMK::Posiziona(const QRectF& campo, const std::vector<double>& evita,
-                          const QRectF& occupato) {
-    campo_ = campo;
-    evita_ = evita;
-    occupato_ = occupato;
-    const QSizeF mia = size();
-    const QSizeF gioco(std::max(0.0, campo.width() - mia.width()),
-                       std::max(0.0, campo.height() - mia.height()));
-    const QPointF dove = posto_ ? campo.topLeft() + QPointF(posto_->x() * gioco.width(),
-                                                            posto_->y() * gioco.height())
-                                : PostoDaSolo(mia);
+void LBMultiMK::Posiziona(Intorno intorno) {
+    intorno_ = std::move(intorno);
+    Riposiziona();
+}
+
+void LBMultiMK::Riposiziona() {
+    const QRectF& campo = intorno_.campo;
+    const QPointF gioco(std::max(0.0, campo.width() - width()),
+                        std::max(0.0, campo.height() - height()));
+    const QPointF dove =
+        posto_ ? campo.topLeft() + QPointF(posto_->x() * gioco.x(), posto_->y() * gioco.y())
+               : PostoDaSolo();
     move(dove.toPoint());
 }
 
-/// Of the places along the top, from the left, the first that is free.
-QPointF LBMultiMK::PostoDaSolo(const QSizeF& mia) const {
-    std::vector<double> inizi = {campo_.left()};
-    for (const double x : evita_)
+/// At the top from this place on, or under what is taken there; empty where a line runs through.
+std::optional<QRectF> LBMultiMK::PostoLibero(double x) const {
+    QRectF posto(QPointF(x, intorno_.campo.top()), QSizeF(size()));
+    if (posto.intersects(intorno_.occupato))
+        posto.moveTop(intorno_.occupato.bottom() + kDistanza);
+    const bool libero = std::ranges::none_of(intorno_.evita, [&](double linea) {
+        return linea > posto.left() - kDistanza && linea < posto.right() + kDistanza;
+    });
+    return libero && intorno_.campo.contains(posto) ? std::optional(posto) : std::nullopt;
+}
+
+/// Along the top from the left, the first place that hides no trace, or the one that hides least.
+QPointF LBMultiMK::PostoDaSolo() const {
+    const QRectF& campo = intorno_.campo;
+    std::vector<double> inizi = {campo.left()};
+    for (const double x : intorno_.evita)
         inizi.push_back(x + kDistanza);
-    inizi.push_back(campo_.right() - mia.width());
+    const double ultimo = campo.right() - width();
+    for (int i = 1; i <= kPosti; ++i)
+        inizi.push_back(campo.left() + (ultimo - campo.left()) * i / kPosti);
+    QPointF scelto = campo.topLeft();
+    double migliore = -std::numeric_limits<double>::infinity();
     for (const double x : inizi) {
-        QRectF posto(QPointF(x, campo_.top()), mia);
-        if (posto.intersects(occupato_))
-            posto.moveTop(occupato_.bottom() + kDistanza);
-        const bool libero = std::ranges::none_of(evita_, [&](double linea) {
-            return linea > posto.left() - kDistanza && linea < posto.right() + kDistanza;
-        });
-        if (libero && campo_.contains(posto))
-            return posto.topLeft();
+        const auto posto = PostoLibero(x);
+        if (!posto)
+            continue;
+        const double aria = std::min(
+            0.0,
+            intorno_.cima ? intorno_.cima(posto->left(), posto->right()) - posto->bottom() : 0.0);
+        if (aria > migliore) {
+            migliore = aria;
+            scelto = posto->topLeft();
+        }
     }
-    return campo_.topLeft();
+    return scelto;
 }
 
 void LBMultiMK::paintEvent(QPaintEvent*) {
@@ -129,13 +151,13 @@ void LBMultiMK::mousePressEvent(QMouseEvent* evento) {
 void LBMultiMK::mouseMoveEvent(QMouseEvent* evento) {
     if (!presa_)
         return;
-    const QPointF dove = mapToParent(evento->position() - *presa_) - campo_.topLeft();
+    const QPointF dove = mapToParent(evento->position() - *presa_) - intorno_.campo.topLeft();
     const auto parte = [](double valore, double gioco) {
         return gioco > 0 ? std::clamp(valore / gioco, 0.0, 1.0) : 0.0;
     };
-    posto_ = QPointF(parte(dove.x(), campo_.width() - width()),
-                     parte(dove.y(), campo_.height() - height()));
-    Posiziona(campo_, evita_, occupato_);
+    posto_ = QPointF(parte(dove.x(), intorno_.campo.width() - width()),
+                     parte(dove.y(), intorno_.campo.height() - height()));
+    Riposiziona();
 }
 
 void LBMultiMK::mouseReleaseEvent(QMouseEvent*) {
@@ -145,7 +167,7 @@ void LBMultiMK::mouseReleaseEvent(QMouseEvent*) {
 void LBMultiMK::mouseDoubleClickEvent(QMouseEvent*) {
     posto_.reset();
     presa_.reset();
-    Posiziona(campo_, evita_, occupato_);
+    Riposiziona();
 }
 
 void LBMultiMK::changeEvent(QEvent* evento) {

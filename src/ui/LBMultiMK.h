@@ -1,6 +1,7 @@
 // `LBMultiMK`: the reading at the marker, a small panel over the picture.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -17,9 +18,16 @@ public:
 
     /// Takes the size of its rows; without rows it is hidden.
     void Mostra(std::vector<RigaLettura> righe);
-    /// `PosizionaLBMultiMK`: inside `campo`, off the vertical lines at `evita` and off `occupato`,
-    /// as far as there is room; where the user dragged it, there it stays.
-    void Posiziona(const QRectF& campo, const std::vector<double>& evita, const QRectF& occupato);
+    /// What it keeps away from: `campo` holds it, at `evita` run vertical lines, `occupato` is
+    /// taken, and `cima` tells how high the traces reach between two places along the picture.
+    struct Intorno {
+        QRectF campo;
+        std::vector<double> evita;
+        QRectF occupato;
+        std::function<double(double, double)> cima;
+    };
+    /// `PosizionaLBMultiMK`: as far as there is room; where the user dragged it, there it stays.
+    void Posiziona(Intorno intorno);
 
     QSize sizeHint() const override;
 
@@ -37,12 +45,12 @@ private:
     };
     Colonne Misura() const;
     QFont Grassetto() const;
-    QPointF PostoDaSolo(const QSizeF& mia) const;
+    void Riposiziona();
+    QPointF PostoDaSolo() const;
+    std::optional<QRectF> PostoLibero(double x) const;
 
     std::vector<RigaLettura> righe_;
-    QRectF campo_;
-    std::vector<double> evita_;
-    QRectF occupato_;
+    Intorno intorno_;
     std::optional<QPointF> posto_; ///< where it was dragged, as shares of the room around it
     std::optional<QPointF> presa_;
 };

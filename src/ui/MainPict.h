@@ -140,6 +140,8 @@ private:
 
     void Riscala();
     void DisponiFigli();
+    double CimaTracce(double da, double a);
+    double AltezzaDi(double cent) const;
     void InvalidaTracce();
     void DisegnaSfondo();
     void DisegnaStratoTracce();

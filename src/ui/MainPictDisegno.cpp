@@ -94,7 +94,31 @@ void MainPict::DisponiFigli() {
                 evita.push_back(*x);
     const double legenda =
         VociLegenda().size() > 1 ? QFontMetricsF(CarattereLettura()).height() + kOrlo : 0;
-    lettura_->Posiziona(griglia.adjusted(kOrlo, kOrlo + legenda, -kOrlo, -kOrlo), evita, occupato);
+    lettura_->Posiziona({.campo = griglia.adjusted(kOrlo, kOrlo + legenda, -kOrlo, -kOrlo),
+                         .evita = std::move(evita),
+                         .occupato = occupato,
+                         .cima = [this](double da, double a) { return CimaTracce(da, a); }});
+}
+
+/// The highest place of the measure's traces between two others along the picture.
+double MainPict::CimaTracce(double da, double a) {
+    double livello = scala_.basso;
+    if (haMisura_)
+        misurate_.Vista(CampoMostrato(), std::max(1, static_cast<int>(griglia_.larghezza)));
+    for (size_t i = 0; haMisura_ && i < contenuto_.strati.size(); ++i)
+        for (size_t d = 0; d < kNumDetector; ++d) {
+            const ColonneTraccia* traccia = misurate_.Traccia(i, d);
+            if (!traccia || !mostrati_[d])
+                continue;
+            const auto colonna = [&](double x) {
+                return std::clamp(static_cast<int>(x * Rapporto() - griglia_.sinistra), 0,
+                                  traccia->Quante());
+            };
+            for (int k = colonna(da); k < colonna(a); ++k)
+                if (const auto& c = traccia->Colonna(k); !c.vuota)
+                    livello = std::max(livello, c.massimo + scala_.UnitOffset * 100);
+        }
+    return AltezzaDi(livello);
 }
 
 void MainPict::DisegnaSfondo() {
@@ -231,6 +255,12 @@ void MainPict::DisegnaMarker(QPainter& p) {
     }
 }
 
+/// Height in the picture of a level of the axis, hundredths of a dB.
+double MainPict::AltezzaDi(double cent) const {
+    const double parte = (scala_.alto - cent) / std::max(1.0, scala_.alto - scala_.basso);
+    return Griglia().top() + parte * Griglia().height();
+}
+
 /// A ring round the symbol under the pointer.
 void MainPict::DisegnaSorvolo(QPainter& p) {
     if (!sorvolato_)
@@ -242,9 +272,7 @@ void MainPict::DisegnaSorvolo(QPainter& p) {
     const auto x = PostoX(picco.freqMhz);
     if (!x)
         return;
-    const double parte = (scala_.alto - picco.livelloCent - scala_.UnitOffset * 100) /
-                         std::max(1.0, scala_.alto - scala_.basso);
-    const QPointF cima(*x, Griglia().top() + parte * Griglia().height());
+    const QPointF cima(*x, AltezzaDi(picco.livelloCent + scala_.UnitOffset * 100));
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(Tinta(palette(), Ruolo::Accento), 2));
     p.setBrush(Qt::NoBrush);

@@ -38,9 +38,9 @@ struct Quadro {
         dove = DisponiGriglia(superficie, tinta);
         scala = SetScaleGraph(setup, start, stop, logaritmica, dove.larghezza, 0);
     }
-    void Griglia() {
+    void Griglia(size_t unitId = 1) {
         Grid(superficie, scala, dove, env, tinta);
-        const auto unita = TabellaUnitaGrafico()[1].testo;
+        const auto unita = TabellaUnitaGrafico()[unitId].testo;
         GridLabel(superficie, scala, dove, tinta, unita);
     }
     ColonneTraccia Colonne() const {
@@ -71,9 +71,23 @@ struct Quadro {
 
 /// Lines of 20 dB, 10 dB and 5 dB are told apart, counted from 0 dBuV whatever the unit.
 TEST(Griglia, LivelliGenereEColore) {
-    for (const auto& [unitId, offset] : {std::pair{1, 0}, std::pair{0, 10700}}) {
-        Quadro q(0.15, 30, true, unitId);
-        q.Griglia();
+    const std::tuple<size_t, int, std::string, std::string> casi[] = {
+        {0, 10700, "-27 dBm", "-97"},
+        {1, 0, "20 dB\xC2\xB5V", "10"},
+        {2, 3400,
+         "6 dB\xC2\xB5"
+         "A",
+         "-4"},
+        {3, 1700, "23 dBpW", "13"},
+        {4, 0, "20 dB\xC2\xB5V/m", "10"},
+        {5, 5150,
+         "-11.5 dB\xC2\xB5"
+         "A/m",
+         "-1.5"},
+        {6, 4950, "10.5 dBpT", "0.5"}};
+    for (const auto& [unitId, offset, principale20, sub10] : casi) {
+        Quadro q(0.15, 30, true, static_cast<int>(unitId));
+        q.Griglia(unitId);
         EXPECT_EQ(q.superficie.rettangoli.at(0).colore, q.tinta.sfondo);
         const auto righe = q.Orizzontali();
         EXPECT_GE(righe.size(), 19u);
@@ -89,8 +103,8 @@ TEST(Griglia, LivelliGenereEColore) {
             EXPECT_EQ(penna.tratto, principale || sub ? Tratto::Pieno : Tratto::Punteggiato);
             EXPECT_EQ(penna.larghezza, 1);
         }
-        EXPECT_TRUE(q.Testi(Ancora::DestraMezzo).contains(unitId == 1 ? "10" : "-97"));
-        EXPECT_FALSE(q.Testi(Ancora::DestraMezzo).contains("-100"));
+        EXPECT_TRUE(q.Testi(Ancora::DestraMezzo).contains(principale20)) << principale20;
+        EXPECT_TRUE(q.Testi(Ancora::DestraMezzo).contains(sub10)) << sub10;
     }
 }
 
@@ -121,11 +135,12 @@ TEST(Griglia, StampaSempreContinuaLarghezzaDue) {
 TEST(Scritte, NumeriEUnita) {
     Quadro q;
     q.Griglia();
-    EXPECT_EQ(q.Testi(Ancora::DestraMezzo),
-              (std::set<std::string>{"0", "10", "20", "30", "40", "50", "60", "70", "80", "90"}));
+    EXPECT_EQ(
+        q.Testi(Ancora::DestraMezzo),
+        (std::set<std::string>{"0 dB\xC2\xB5V", "10", "20 dB\xC2\xB5V", "30", "40 dB\xC2\xB5V",
+                               "50", "60 dB\xC2\xB5V", "70", "80 dB\xC2\xB5V", "90"}));
     EXPECT_EQ(q.Testi(Ancora::CentroAlto),
               (std::set<std::string>{"200 k", "500 k", "1 M", "2 M", "5 M", "10 M", "20 M"}));
-    EXPECT_EQ(q.Testi(Ancora::SinistraBasso), std::set<std::string>{"dB\xC2\xB5V"});
     EXPECT_EQ(q.Testi(Ancora::DestraAlto), std::set<std::string>{"Hz"});
     for (const auto& testo : q.superficie.testi) {
         EXPECT_EQ(testo.colore, q.tinta.scritte);

@@ -36,7 +36,7 @@ def SetupRecord(seme):
         Testo(byte, 2562 + 60 * i, 60, "NONE")
     Campo(byte, 2982, "7hhh5h", *[0] * 7, 0, 1, *[0] * 5)
     Campo(byte, 3610, "hhhhhhhh", -1, -1, 0, 1, 0, -1, 0, 0)  # menu marks among them
-    Campo(byte, 3626, "hfhh", 1, 1.5, 0, 2)  # report and verdict
+    Campo(byte, 3626, "hfhh", 2, 3.5, 0, 4)
     Testo(byte, 3664, 60, "Biconical")
     Campo(byte, 3822, "f", 2.0)
     byte[4924:] = bytes(170)

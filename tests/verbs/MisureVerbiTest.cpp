@@ -71,10 +71,13 @@ struct MisureVerbiTest : ::testing::Test {
     }
     /// Words parted by "|", the verb first.
     EsitoVerbo Esegui(const std::string& riga) {
+        const auto parole = Dividi(riga, '|');
+        return Esegui(parole[0], {parole.begin() + 1, parole.end()});
+    }
+    EsitoVerbo Esegui(const std::string& verbo, const std::vector<std::string>& parole) {
         dati.str("");
         messaggi.str("");
-        const auto parole = Dividi(riga, '|');
-        return TrovaVerbo(parole[0])->esegui(banco, std::span(parole).subspan(1));
+        return TrovaVerbo(verbo)->esegui(banco, parole);
     }
 };
 

@@ -35,7 +35,7 @@ struct Estremo {
     double Ultimo() const { return std::max({std::min(fine, limite), accanto, sbavatura}); }
 };
 
-/// A column as it reaches one way, with `verso` -1 for upwards.
+/// How far a column reaches one way.
 struct Portata {
     double punta;    ///< farthest sample
     double corda;    ///< farther one of the places where the line comes in and goes out
