@@ -14,6 +14,17 @@ namespace {
 
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
 
+/// The record of a console that has no EPN yet.
+EnvRecord EnvDefault() {
+    EnvRecord env;
+    env.LinkKind = 1;
+    env.LinkPort = 1;
+    env.WaterfallScale = {0, 400};
+    ApplicaEnv(env, false);
+    ControllaParStand(env); // names the panels
+    return env;
+}
+
 /// An older release kept the Manual level as an integer; that field stays as it is.
 void ApplicaManualOld(SetupRecord& setup) {
     if (setup.ManualLevel == 0 && setup.ManualOld != 0)
@@ -58,10 +69,9 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
 }
 
 void CaricaEnvCheCe(Scrivania& s) {
+    s.env = EnvDefault();
     if (s.albero.Esiste(kPannelloEPN))
         CaricaPanelEPN(s, kPannelloEPN);
-    else
-        ImpostaEnvDefault(s.env);
 }
 
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {
@@ -142,16 +152,6 @@ void ApplicaEnv(EnvRecord& env, bool caricato) {
 
 void ImpostaColoriDefault(EnvRecord& env) {
     env.GraphColors = kColoriDefault;
-}
-
-EnvRecord EnvDefault() {
-    EnvRecord env;
-    env.LinkKind = 1;
-    env.LinkPort = 1;
-    env.WaterfallScale = {0, 400};
-    ApplicaEnv(env, false);
-    ControllaParStand(env); // names the panels
-    return env;
 }
 
 SetupRecord SetupDefault() {

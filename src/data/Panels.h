@@ -51,8 +51,7 @@ bool ConfrontaScanTab(const ScanRecord& a, const ScanRecord& b);
 /// `caricato` false sets the default colours first.
 void ApplicaEnv(EnvRecord& env, bool caricato);
 void ImpostaColoriDefault(EnvRecord& env);
-/// The records of a console that has no EPN, or no EAM, yet.
-EnvRecord EnvDefault();
+/// The record of a console that has no EAM yet.
 SetupRecord SetupDefault();
 /// The last line of "Orvane Console.DAT"; empty without the file.
 void LeggiDatiSetup(Scrivania& s);
