@@ -101,9 +101,6 @@ def main():
         time.sleep(SECONDI)
         utente, sistema = (b - a for a, b in zip(prima, Consumo(console.pid)))
         durata, arrivati = time.monotonic() - inizio, Passi(dati) - passi
-        foto = os.environ.get("FOTO")
-        if foto:
-            subprocess.run(["import", "-window", "root", foto], env=ambiente, check=True)
     print(f"window at 115200 baud, {arrivati / durata:.0f} steps of 2 detectors a second: "
           f"{utente:.2f} s user, {sistema:.2f} s system in {durata:.1f} s, "
           f"{(utente + sistema) / durata:.1%} of one core")  # fmt: skip
