@@ -13,7 +13,6 @@
 #include "data/Incompiute.h"
 #include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
-#include "platform/qt/SuperficieQt.h"
 #include "setup/TabellaScan.h"
 #include "ui/IconeScan.h"
 #include "ui/Moduli.h"
