@@ -65,13 +65,13 @@ std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& r) {
     case EsitoDocumento::Fatto:
         return {};
     case EsitoDocumento::SenzaImmagine:
-        return "Failed loading " + Utf8DaPath(r.ImagePath) + "\rThe report has no picture";
+        return "Failed loading" + Utf8DaPath(r.ImagePath) + "\rThe report has no picture";
     case EsitoDocumento::AltraEstensione:
         return Utf8DaPath(r.OutPath) + " is neither PDF nor RTF";
     case EsitoDocumento::Occupato:
         return Utf8DaPath(r.OutPath) + " Is already open";
     case EsitoDocumento::TabellaIllegibile:
-        return "Failed loading " + Utf8DaPath(r.TablePath);
+        return "Failed loading" + Utf8DaPath(r.TablePath);
     case EsitoDocumento::NonScritto:
         break;
     }

@@ -10,9 +10,12 @@
 #include "data/NomiDisco.h"
 #include "records/ImpostazioniReport.h"
 #include "report/CatturaImmagine.h"
+#include "report/LeggiBMP.h"
 #include "report/ReportHTML.h"
 #include "report/RiassuntoReport.h"
+#include "report/RiduciColori.h"
 #include "report/RigheReport.h"
+#include "report/ScriviBMP.h"
 #include "report/TestoReport.h"
 
 namespace orvane {
@@ -70,15 +73,28 @@ std::vector<std::string> Righe(const std::string& testo) {
 }
 
 bool ScriviTesto(const ReportPronto& report, const OpzioniReport& opzioni,
-                 const std::string& separatore, const std::vector<std::string>& davanti,
-                 const fs::path& percorso) {
+                 const std::vector<std::string>& davanti, const fs::path& percorso) {
     const auto riassunto = opzioni.riassunto ? RigheRiassunto(CalcolaRiassunto(report.fonte))
                                              : std::vector<std::string>{};
     std::string testo;
     for (const std::string& riga : TestoReport(report.griglia, report.model, report.fonte.misura,
-                                               separatore, davanti, riassunto))
+                                               opzioni.ColumnSeparator, davanti, riassunto))
         testo += riga + "\r\n";
     return Scrivi(percorso, InAnsi(testo));
+}
+
+/// The picture as "TPI": a BMP of few colours, which is how a document holds it. Where it cannot be
+/// made there is no such file, and the converter says so.
+fs::path SalvaImmagine(const Scrivania& s, const FonteReport& fonte, FabbricaQuadri* fabbrica,
+                       const fs::path& documento) {
+    const fs::path percorso = fs::path(documento).replace_extension("TPI");
+    const bool rtf = FormatoReportDaPercorso(documento) == FormatoReport::Rtf;
+    std::error_code errore;
+    fs::remove(percorso, errore); // of a run that was killed
+    const auto bmp = CatturaImmagineMisura(s, fonte, fabbrica, FormatoImmagine::Bmp, rtf);
+    if (const auto pixel = LeggiBMP(bmp))
+        SalvaFuori(percorso, InBMP(RiduciColori(*pixel)));
+    return percorso;
 }
 
 /// PDF and RTF: the text beside the target as "TPT", the picture as "TPI", and both through the
@@ -87,22 +103,20 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
                     FabbricaQuadri* fabbrica, VistaAttesa& vista, const fs::path& percorso) {
     const MisuraAperta& misura = report.fonte.misura;
     const auto colonne = static_cast<int>(report.griglia.colonne.size());
+    const bool orizzontale = opzioni.orizzontale.value_or(
+        DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale);
     RichiestaDocumento r{.TablePath = fs::path(percorso).replace_extension("TPT"),
                          .HeaderPath = PercorsoHeader(s.albero, misura.nome),
                          .HeaderOn = opzioni.HeaderOn,
                          .Title = misura.nome,
-                         .carattere =
-                             DetCarattereEOrientazione(opzioni.orizzontale, HaDatiMast(misura)),
+                         .carattere = DetCarattereEOrientazione(orizzontale, HaDatiMast(misura)),
                          .OutPath = percorso};
     r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
-    // A tab has no width on a sheet; and the header is printed by the layout, ahead of the picture.
-    if (!ScriviTesto(report, opzioni, " ", {}, r.TablePath))
+    // The header is printed by the layout, ahead of the picture.
+    if (!ScriviTesto(report, opzioni, {}, r.TablePath))
         return Avvisa(s, percorso);
-    const auto bmp = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Bmp,
-                                           FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
-    const fs::path immagine = fs::path(percorso).replace_extension("TPI");
-    if (!bmp.empty() && SalvaFuori(immagine, bmp))
-        r.ImagePath = immagine;
+    if (fabbrica)
+        r.ImagePath = SalvaImmagine(s, report.fonte, fabbrica, percorso);
     const EsitoDocumento esito = ConvertiTestoInPDFRTF(s, vista, r);
     if (esito != EsitoDocumento::Fatto && esito != EsitoDocumento::Occupato)
         s.ambiente.Mostra({.testo = TestoEsito(esito, r), .icona = Icona::Esclamazione});
@@ -157,8 +171,7 @@ fs::path PercorsoHeader(const AlberoDati& albero, const std::string& misura) {
 
 bool SalvaReportComTesto(const Scrivania& s, const ReportPronto& report,
                          const OpzioniReport& opzioni, const fs::path& percorso) {
-    return ScriviTesto(report, opzioni, opzioni.ColumnSeparator,
-                       Righe(TestoHeader(s, report, opzioni)), percorso);
+    return ScriviTesto(report, opzioni, Righe(TestoHeader(s, report, opzioni)), percorso);
 }
 
 bool SalvaReport(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,

@@ -21,10 +21,10 @@ std::string TitoloSalvaReport(FormatoReport formato);
 std::string NomeReport(const std::string& misura, FormatoReport formato);
 
 struct OpzioniReport {
-    bool HeaderOn = true;   ///< with the header text, where there is one
-    bool riassunto = false; ///< with the summary ahead of the table
-    bool orizzontale = false;
-    std::string ColumnSeparator = "\t"; ///< of the text
+    bool HeaderOn = true;               ///< with the header text, where there is one
+    bool riassunto = false;             ///< with the summary ahead of the table
+    std::optional<bool> orizzontale;    ///< sheet of PDF and RTF; by the columns without it
+    std::string ColumnSeparator = "\t"; ///< of the text; on a sheet a tab is one blank
     FormaCsv csv;
 };
 OpzioniReport OpzioniDaPannello(const EnvRecord& env);

@@ -33,7 +33,8 @@ constexpr std::array kTipi = {Scelta<TipoReport>{"1det", TipoReport::UnDetector}
 constexpr std::array kSeparatori = {Scelta<char>{"comma", ','}, Scelta<char>{"semicolon", ';'},
                                     Scelta<char>{"tab", '\t'}};
 constexpr std::array kDecimali = {Scelta<char>{"point", '.'}, Scelta<char>{"comma", ','}};
-constexpr std::array kFogli = {Scelta<bool>{"portrait", false}, Scelta<bool>{"landscape", true}};
+constexpr std::array kFogli = {Scelta<std::optional<bool>>{"portrait", false},
+                               Scelta<std::optional<bool>>{"landscape", true}};
 
 /// What the options of the verb itself say.
 struct RichiestaReport {
