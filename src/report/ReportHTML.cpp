@@ -142,7 +142,8 @@ std::string ReportHtml(const GrigliaReport& griglia, const ReportModel& model,
                        Elemento("title", "Report " + misura.nome) + "\n<style>" +
                        std::string(kStileHtml) + "</style>\n</head>\n<body>\n";
     if (!parte.intestazione.empty())
-        html += Elemento("pre", parte.intestazione) + "\n";
+        html +=
+            Elemento("pre", "\n" + parte.intestazione) + "\n"; // its first line end is not shown
     html += Elemento("h1", TitoloReport(misura)) + "\n";
     for (const std::string& riga : RigheDati(model, misura))
         html += Elemento("p", riga) + "\n";
