@@ -70,7 +70,8 @@ std::string Testa(const ColonnaReport& colonna) {
         testo += "<br>" + TestoHtml(colonna.nome);
     if (!colonna.unita.empty())
         testo += "<br>[" + TestoHtml(colonna.unita) + "]";
-    return "<th scope=\"col\"><button type=\"button\">" + testo + "</button></th>";
+    // No button element: what one holds is missing where a printer repeats the head.
+    return "<th scope=\"col\"><span role=\"button\" tabindex=\"0\">" + testo + "</span></th>";
 }
 
 bool OltreLimite(const ColonnaReport& colonna, const std::string& cella) {
