@@ -29,6 +29,7 @@ td.over { color: #a11212; font-weight: 600; }
   body { margin: 0; max-width: none; font-size: 10pt; }
   .summary, figure { break-inside: avoid; }
   .summary { break-after: page; }
+  th, td { padding: .15rem .4rem; }
   thead { display: table-header-group; }
   tr { break-inside: avoid; }
   th [role=button]::after { content: none !important; }

@@ -11,6 +11,7 @@
 #include "records/ImpostazioniReport.h"
 #include "report/CatturaImmagine.h"
 #include "report/LeggiBMP.h"
+#include "report/NomeProprio.h"
 #include "report/ReportHTML.h"
 #include "report/RiassuntoReport.h"
 #include "report/RiduciColori.h"
@@ -84,13 +85,11 @@ bool ScriviTesto(const ReportPronto& report, const OpzioniReport& opzioni,
 }
 
 /// The picture as "TPI": a BMP of few colours, which is how a document holds it. Where it cannot be
-/// made there is no such file, and the converter says so.
+/// made the file is empty, and the converter says so.
 fs::path SalvaImmagine(const Scrivania& s, const FonteReport& fonte, FabbricaQuadri* fabbrica,
                        const fs::path& documento) {
-    const fs::path percorso = fs::path(documento).replace_extension("TPI");
+    const fs::path percorso = NomeProprio(fs::path(documento).replace_extension("TPI"));
     const bool rtf = FormatoReportDaPercorso(documento) == FormatoReport::Rtf;
-    std::error_code errore;
-    fs::remove(percorso, errore); // of a run that was killed
     const auto bmp = CatturaImmagineMisura(s, fonte, fabbrica, FormatoImmagine::Bmp, rtf);
     if (const auto pixel = LeggiBMP(bmp))
         SalvaFuori(percorso, InBMP(RiduciColori(*pixel)));
@@ -105,7 +104,7 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
     const auto colonne = static_cast<int>(report.griglia.colonne.size());
     const bool orizzontale = opzioni.orizzontale.value_or(
         DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale);
-    RichiestaDocumento r{.TablePath = fs::path(percorso).replace_extension("TPT"),
+    RichiestaDocumento r{.TablePath = NomeProprio(fs::path(percorso).replace_extension("TPT")),
                          .HeaderPath = PercorsoHeader(s.albero, misura.nome),
                          .HeaderOn = opzioni.HeaderOn,
                          .Title = misura.nome,
@@ -113,8 +112,11 @@ bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniRepor
                          .OutPath = percorso};
     r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
     // The header is printed by the layout, ahead of the picture.
-    if (!ScriviTesto(report, opzioni, {}, r.TablePath))
+    if (!ScriviTesto(report, opzioni, {}, r.TablePath)) {
+        std::error_code errore;
+        fs::remove(r.TablePath, errore);
         return Avvisa(s, percorso);
+    }
     if (fabbrica)
         r.ImagePath = SalvaImmagine(s, report.fonte, fabbrica, percorso);
     const EsitoDocumento esito = ConvertiTestoInPDFRTF(s, vista, r);

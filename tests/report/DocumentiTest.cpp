@@ -153,7 +153,9 @@ TEST_F(Documenti, FailedWriteLeavesTheOldFile) {
 TEST_F(Documenti, APictureThatCannotBeMadeIsTold) {
     FabbricaFinta fabbrica;
     for (const char* nome : {"a.pdf", "a.rtf"}) {
-        Metti("a.TPI", LogoBMP()); // left behind by a run that was killed
+        Metti("a.TPI", LogoBMP()); // another run's
+        Metti("a.TPT", std::string("other"));
+        Metti("Untitled" + std::string(nome + 1), std::string("other"));
         ASSERT_TRUE(Salva(nome, {}, &fabbrica)) << nome;
         EXPECT_TRUE(Contiene(Riquadro(), "Failed loading"));
         EXPECT_FALSE(Contiene(Prendi(nome), "/Img1")) << nome;
@@ -161,7 +163,10 @@ TEST_F(Documenti, APictureThatCannotBeMadeIsTold) {
     fabbrica.byte = LogoBMP();
     ASSERT_TRUE(Salva("a.pdf", {}, &fabbrica));
     EXPECT_TRUE(Contiene(Prendi("a.pdf"), "/Img1 Do"));
-    EXPECT_EQ(Nomi(""), (Righe{"a.pdf", "a.rtf"}));
+    EXPECT_EQ(Nomi(""),
+              (Righe{"Untitled.pdf", "Untitled.rtf", "a.TPI", "a.TPT", "a.pdf", "a.rtf"}));
+    for (const char* nome : {"a.TPT", "Untitled.pdf", "Untitled.rtf"})
+        EXPECT_EQ(Prendi(nome), "other");
 }
 
 TEST_F(Documenti, ManyColumnsLieOnALandscapeSheet) {
