@@ -39,6 +39,13 @@ struct ReportPronto {
 /// The header text that reports of a measure begin with: its own, or else the one in `DataRoot`.
 std::filesystem::path PercorsoHeader(const AlberoDati& albero, const std::string& misura);
 
+/// Header, title, letters and sheet of a report as PDF or RTF; no paths.
+RichiestaDocumento RichiestaDelReport(const Scrivania& s, const ReportPronto& report,
+                                      const OpzioniReport& opzioni);
+/// Its lines behind the picture.
+std::vector<std::string> RigheDelDocumento(const ReportPronto& report,
+                                           const OpzioniReport& opzioni);
+
 /// The canonical text, in Windows-1252 with CR LF. False when it cannot be written; an old file
 /// then stays.
 bool SalvaReportComTesto(const Scrivania& s, const ReportPronto& report,
