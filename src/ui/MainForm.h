@@ -123,6 +123,7 @@ private:
     void CambiaNumPicchi(int quanti);
     void SalvaTabellaPicchi();
     void AzioneQuadro(AzioneMenu azione);
+    void PortaFuori(AzioneMenu azione);
     void SintonizzaManuale(double mhz);
     void MostraCorsaFinita(const std::string& misura);
     void PreparaCurveCorsa(const ScanTable& tabella);

@@ -44,13 +44,14 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     elenco->addLayout(testa);
     elenco->addWidget(vuota_);
     elenco->addWidget(lista_, 1);
-    sopra->setMinimumHeight(8 * (fontMetrics().height() + 12));
+    sopra->setMinimumHeight(7 * (fontMetrics().height() + 12));
     auto* divisore = new QSplitter(Qt::Vertical, this);
     divisore->setObjectName(QStringLiteral("SplitArchivio"));
     divisore->setChildrenCollapsible(false);
     divisore->addWidget(sopra);
     divisore->addWidget(CreaDettagli());
     divisore->setStretchFactor(0, 1);
+    divisore->setSizes({300, 400});
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(divisore);

@@ -125,14 +125,6 @@ std::string DetectorAssente(const RichiestaReport& r, const MisuraAperta& misura
     return {};
 }
 
-/// Colours, margin and separator of the running panel, or the default ones; none is written.
-void CaricaPannelloReport(Scrivania& s) {
-    if (s.albero.Esiste(kPannelloEPN))
-        CaricaPanelEPN(s, kPannelloEPN);
-    else
-        ApplicaEnv(s.env, false);
-}
-
 /// The frequencies of the rows as a frequency table; it must have room for all of them.
 EsitoVerbo SalvaInTabella(Banco& banco, const GrigliaReport& griglia, const FonteReport& fonte,
                           const std::string& nome) {
@@ -191,7 +183,7 @@ EsitoVerbo VerboReport(Banco& banco, Parole parole) {
     RichiestaReport r = LeggiRichiesta(argomenti);
     if (!r.errore.empty())
         return UsoErrato(banco, "report", r.errore);
-    CaricaPannelloReport(banco.scrivania);
+    CaricaEnvCheCe(banco.scrivania);
     r.opzioni.ColumnSeparator = ColumnSeparator(banco.scrivania.env.ExportMode);
     MisuraChiesta chiesta;
     const EsitoVerbo esito =
