@@ -41,8 +41,7 @@ QFont FontDi(const TestoPagina& posto) {
 
 } // namespace
 
-FoglioQt::FoglioQt(const PagineReport& pagine, QWidget* padre)
-    : QWidget(padre), pagine_(pagine) {
+FoglioQt::FoglioQt(const PagineReport& pagine, QWidget* padre) : QWidget(padre), pagine_(pagine) {
     setObjectName(QStringLiteral("FoglioReport"));
     const std::vector<uint8_t> logo = LogoBMP();
     logo_ = QImage::fromData(logo.data(), static_cast<int>(logo.size()), "BMP");
@@ -86,10 +85,10 @@ void FoglioQt::DisegnaRiga(QPainter& p, const RigaFoglio& riga) const {
     const double larga = QFontMetricsF(carattere).horizontalAdvance(testo);
     if (larga <= 0)
         return;
-    const double voluta = riga.posto.font == FontPagina::Numero
-                              ? larga
-                              : kPassoCourier * carattere.pixelSize() *
-                                    static_cast<double>(testo.size());
+    const double voluta =
+        riga.posto.font == FontPagina::Numero
+            ? larga
+            : kPassoCourier * carattere.pixelSize() * static_cast<double>(testo.size());
     const double unita = scala_ * kCmPerPunto / kFinezza;
     p.save();
     p.translate(riga.posto.x * scala_, -riga.posto.y * scala_);
@@ -101,8 +100,7 @@ void FoglioQt::DisegnaRiga(QPainter& p, const RigaFoglio& riga) const {
 }
 
 void FoglioQt::DisegnaImmagine(QPainter& p, const ImmagineFoglio& immagine) {
-    const QRectF dove(immagine.dove.x * scala_,
-                      -(immagine.dove.y + immagine.dove.altezza) * scala_,
+    const QRectF dove(immagine.dove.x * scala_, -(immagine.dove.y + immagine.dove.altezza) * scala_,
                       immagine.dove.larghezza * scala_, immagine.dove.altezza * scala_);
     if (immagine.quale == ImmaginePagina::Logo)
         return p.drawImage(dove, logo_);
@@ -207,8 +205,7 @@ void AnteprimaReport::AggiornaScala() {
     if (fattore < 0)
         scala = (spazio.width() - barra) / pagine_.larghezzaCm;
     if (fattore == 0)
-        scala = std::min(spazio.width() / pagine_.larghezzaCm,
-                         spazio.height() / pagine_.altezzaCm);
+        scala = std::min(spazio.width() / pagine_.larghezzaCm, spazio.height() / pagine_.altezzaCm);
     foglio_->Scala(std::max(scala, 2.0));
 }
 

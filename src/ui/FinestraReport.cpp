@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 
 #include "base/Numeri.h"
+#include "data/ModificaTabella.h"
+#include "data/NomiDisco.h"
 #include "data/TabelleFrequenza.h"
 #include "platform/qt/FabbricaQt.h"
 #include "records/ImpostazioniReport.h"
@@ -50,8 +52,8 @@ QVBoxLayout* CreaRiquadro(QWidget& riquadro, const QString& titolo) {
 FinestraReport::FinestraReport(Scrivania& scrivania, const MisuraAperta& misura, TipoReport tipo,
                                std::span<const GruppoDetector> gruppi, ChiediTabella chiediTabella,
                                QWidget* padre)
-    : QDialog(padre), scrivania_(scrivania), misura_(misura), setup_(scrivania.setup),
-      fonte_{.misura = misura_, .setup = setup_, .env = scrivania_.env},
+    : QDialog(padre), scrivania_(scrivania), misura_(misura),
+      setup_(scrivania.setup), fonte_{.misura = misura_, .setup = setup_, .env = scrivania_.env},
       model_(ReportDellaMisura(scrivania.env, tipo, misura)),
       chiediTabella_(std::move(chiediTabella)) {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -98,8 +100,8 @@ QWidget* FinestraReport::CreaColonna(std::span<const GruppoDetector> gruppi) {
 
 /// The detectors that the measure has; the others are off.
 QWidget* FinestraReport::CreaGruppo(const GruppoDetector& gruppo) {
-    auto* riquadro = Nomina(new QWidget(colonna_), QLatin1String(gruppo.riquadro),
-                            tr(gruppo.titolo));
+    auto* riquadro =
+        Nomina(new QWidget(colonna_), QLatin1String(gruppo.riquadro), tr(gruppo.titolo));
     auto* colonna = CreaRiquadro(*riquadro, tr(gruppo.titolo));
     auto* scelta = new QButtonGroup(riquadro);
     for (size_t d = 0; d < kNumDetector; ++d) {
@@ -232,10 +234,11 @@ void FinestraReport::Compila() {
     RaccogliRigheRep(model_, fonte_);
     griglia_ = ImpostaGridReport(model_, fonte_, GridReport_->Misura());
     MostraCompilazione(true);
-    CompilaReport(griglia_, model_, fonte_, scrivania_.ambiente, [this](size_t fatte, size_t tutte) {
-        PBReport_->setRange(0, static_cast<int>(tutte));
-        PBReport_->setValue(static_cast<int>(fatte));
-    });
+    CompilaReport(griglia_, model_, fonte_, scrivania_.ambiente,
+                  [this](size_t fatte, size_t tutte) {
+                      PBReport_->setRange(0, static_cast<int>(tutte));
+                      PBReport_->setValue(static_cast<int>(fatte));
+                  });
     MostraCompilazione(false);
     if (model_.ReportUnloadRequested)
         return QDialog::reject();
@@ -254,12 +257,12 @@ void FinestraReport::MostraCompilazione(bool si) {
     PBReport_->reset();
     PBReport_->setVisible(si);
     setWindowTitle(si ? tr("Compilation report... please wait") : Q(griglia_.didascalia));
-    const QString righe = griglia_.righe.size() == 1 ? tr("1 row")
-                                                     : tr("%1 rows").arg(griglia_.righe.size());
-    nota_->setText(si                                ? QString()
-                   : griglia_.tagliata               ? tr("Cut short after %1").arg(righe)
-                   : LimitiAttivi(setup_).empty()    ? tr("No limit is on: there are no rows")
-                                                     : righe);
+    const QString righe =
+        griglia_.righe.size() == 1 ? tr("1 row") : tr("%1 rows").arg(griglia_.righe.size());
+    nota_->setText(si                             ? QString()
+                   : griglia_.tagliata            ? tr("Cut short after %1").arg(righe)
+                   : LimitiAttivi(setup_).empty() ? tr("No limit is on: there are no rows")
+                                                  : righe);
 }
 
 /// As wide as the columns need, as far as the screen allows.

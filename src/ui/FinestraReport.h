@@ -1,5 +1,5 @@
-// What the report windows share: the grid and its filling, margin and detectors, and the ways out to
-// a file.
+// What the report windows share: the grid and its filling, margin and detectors, and the ways out
+// to a file.
 #pragma once
 
 #include <functional>
@@ -50,8 +50,8 @@ private:
     QWidget* CreaMargine();
     QWidget* CreaDocumento();
     QWidget* CreaCsv();
-    QCheckBox* CreaScelta(const char* nome, const QString& testo, const QString& aiuto,
-                          size_t voce, bool acceso, int16_t siVale);
+    QCheckBox* CreaScelta(const char* nome, const QString& testo, const QString& aiuto, size_t voce,
+                          bool acceso, int16_t siVale);
     QLayout* CreaPulsanti();
 
     void Compila();

@@ -37,7 +37,7 @@ public:
         setMinimumSectionSize(20);
     }
     QSize sizeHint() const override {
-        return {QHeaderView::sizeHint().width(), 
+        return {QHeaderView::sizeHint().width(),
                 2 * fontMetrics().lineSpacing() + kAltezzaBarra + 2 * kSopraBarra + kSottoTesta};
     }
 
@@ -167,8 +167,8 @@ void GrigliaReportQt::DisponiColonne() {
             larga = std::max(larga, horizontalHeader()->fontMetrics().horizontalAdvance(riga));
         // The last row has the widest number, and frequencies are padded to one width.
         if (!righe.empty())
-            larga = std::max(larga,
-                             fontMetrics().horizontalAdvance(Allineato(righe.back().celle[i])));
+            larga =
+                std::max(larga, fontMetrics().horizontalAdvance(Allineato(righe.back().celle[i])));
         setColumnWidth(sezione, larga + 2 * kMargineCella);
     }
 }

@@ -49,11 +49,14 @@ void MainForm::ApriReport(AzioneMenu azione) {
     if (azione == AzioneMenu::Report1)
         finestra = new FrmReport(scrivania_, a.misura, chiedi, this);
     else
-        finestra = new FrmReportDSD(scrivania_, a.misura, azione == AzioneMenu::Report2Full, chiedi,
-                                    this);
+        finestra =
+            new FrmReportDSD(scrivania_, a.misura, azione == AzioneMenu::Report2Full, chiedi, this);
     finestra->setAttribute(Qt::WA_DeleteOnClose);
     ApriMenu(*menuBar(), false);
-    connect(finestra, &QDialog::finished, this, [this] { ApriMenu(*menuBar(), true); });
+    connect(finestra, &QDialog::finished, this, [this] {
+        ApriMenu(*menuBar(), true);
+        SegnaMenuReport();
+    });
     finestra->open();
 }
 
@@ -79,11 +82,10 @@ void MainForm::ScegliAutoReport(AzioneMenu azione) {
 /// The marks of the group follow the records.
 void MainForm::SegnaMenuReport() {
     const EnvRecord& env = scrivania_.env;
-    SegnaAutoReport(*menuBar(),
-                    {.modo = scrivania_.setup.AutoReportMode,
-                     .tipo = env.ReportList[voce_report::kTipoAuto],
-                     .intestazione = env.ReportList[voce_report::kIntestazione] != 1,
-                     .riassunto = env.ReportList[voce_report::kRiassunto] == 1});
+    SegnaAutoReport(*menuBar(), {.modo = scrivania_.setup.AutoReportMode,
+                                 .tipo = env.ReportList[voce_report::kTipoAuto],
+                                 .intestazione = env.ReportList[voce_report::kIntestazione] != 1,
+                                 .riassunto = env.ReportList[voce_report::kRiassunto] == 1});
 }
 
 /// Behind a completed run; what the status line says of it, empty for no report.

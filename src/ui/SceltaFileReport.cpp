@@ -44,8 +44,7 @@ fs::path PrimaCartella(Scrivania& s) {
 std::optional<fs::path> ChiediFileReport(QWidget* padre, Scrivania& s, const std::string& misura,
                                          FormatoReport formato) {
     const FiltroReport& filtro = kFiltri.at(static_cast<size_t>(formato));
-    QFileDialog dialogo(padre, Q(TitoloSalvaReport(formato)),
-                        Q(Utf8DaPath(PrimaCartella(s))));
+    QFileDialog dialogo(padre, Q(TitoloSalvaReport(formato)), Q(Utf8DaPath(PrimaCartella(s))));
     dialogo.setObjectName(QStringLiteral("FrmSalvaReport"));
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
     dialogo.setNameFilters({QLatin1String(filtro.filtro)});
