@@ -1,4 +1,6 @@
 // The main window as it stands: names, tabs, menus, marks, settings, archive.
+#include <fstream>
+
 #include <QMenu>
 #include <QStandardPaths>
 
@@ -182,7 +184,9 @@ void Finestra::DinamicaSiSalvaSubito() {
 
 void Finestra::ArchivioMostraLaMisuraGuasta() {
     Banco banco;
-    std::filesystem::create_directories(banco.cartella.Percorso() / "Sweep" / "Torn");
+    const auto cartella = banco.cartella.Percorso() / "Sweep" / "Torn";
+    std::filesystem::create_directories(cartella);
+    std::ofstream(cartella / "Torn.KSH") << "torn";
     banco.Scheda(Modalita::Sweep);
     banco.Scheda(Modalita::SweepsArchive);
     auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
