@@ -78,6 +78,10 @@ FinestraReport::FinestraReport(Scrivania& scrivania, const MisuraAperta& misura,
     tutto->addLayout(corpo, 1);
     tutto->addWidget(nota_);
     tutto->addLayout(CreaPulsanti());
+    const QSize schermo = screen()->availableSize();
+    const int m = fontMetrics().averageCharWidth();
+    resize(std::min(120 * m, schermo.width() * 9 / 10),
+           std::min(90 * m, schermo.height() * 9 / 10));
 }
 
 QWidget* FinestraReport::CreaColonna(std::span<const GruppoDetector> gruppi) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 
 namespace orvane {
@@ -33,10 +34,12 @@ constexpr VoceMenu kMisura(const char* menu, const char* nome, const char* testo
                            const char* scorciatoia) {
     return {menu, nullptr, nome, testo, azione, nullptr, scorciatoia, true};
 }
-/// In "Auto Save Report", one mark of several, or with `kSeparatore` between the groups.
+/// In "Auto Save Report".
 constexpr VoceMenu kAuto(const char* nome, const char* testo, AzioneMenu azione) {
     return {"Report", "MNUAutoSaveReport", nome, testo, azione, nullptr, nullptr, true};
 }
+constexpr VoceMenu kSeparatoreAuto = {
+    "Report", "MNUAutoSaveReport", nullptr, nullptr, kNessuna, nullptr, nullptr, false};
 /// A mark whose effect belongs to what is not there yet.
 constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
@@ -74,11 +77,11 @@ constexpr VoceMenu kMenu[] = {
     kAuto("MNUAutoSaveRep1", "Text", AzioneMenu::AutoTesto),
     kAuto("MNUAutoSaveRep2", "PDF", AzioneMenu::AutoPdf),
     kAuto("MNUAutoSaveRep3", "RTF", AzioneMenu::AutoRtf),
-    kAuto(nullptr, nullptr, kNessuna),
+    kSeparatoreAuto,
     kAuto("MNUAutoSaveKind0", "1 detector 2 limits", AzioneMenu::AutoUno),
     kAuto("MNUAutoSaveKind1", "2 detectors 2 limits", AzioneMenu::AutoDue),
     kAuto("MNUAutoSaveKind2", "2 full detectors 2 limits", AzioneMenu::AutoDueInteri),
-    kAuto(nullptr, nullptr, kNessuna),
+    kSeparatoreAuto,
     kAuto("MNUAutoSaveHeader", "Header text", AzioneMenu::AutoIntestazione),
     kAuto("MNUAutoSaveSummary", "Summary", AzioneMenu::AutoRiassunto),
     kMisura("View", "CHKShowHighestPeaks", "Highest Peaks", AzioneMenu::PicchiAlti, "F6"),
@@ -163,6 +166,30 @@ void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
     }
 }
 
+/// Marks of which one is on.
+struct GruppoMarche {
+    AzioneMenu prima;
+    AzioneMenu ultima;
+    const char* nome;
+};
+constexpr GruppoMarche kGruppi[] = {
+    {AzioneMenu::AutoNessuno, AzioneMenu::AutoRtf, "MNUAutoSaveRep"},
+    {AzioneMenu::AutoUno, AzioneMenu::AutoDueInteri, "MNUAutoSaveKind"},
+};
+
+void AggiungiAlGruppo(QMenu& menu, QAction* azione, AzioneMenu quale) {
+    for (const GruppoMarche& gruppo : kGruppi) {
+        if (quale < gruppo.prima || quale > gruppo.ultima)
+            continue;
+        auto* marche = menu.findChild<QActionGroup*>(QLatin1String(gruppo.nome));
+        if (!marche) {
+            marche = new QActionGroup(&menu);
+            marche->setObjectName(QLatin1String(gruppo.nome));
+        }
+        marche->addAction(azione);
+    }
+}
+
 void AggiungiVoce(QMenu& menu, const VoceMenu& voce, const AzioniMenu& azioni) {
     QMenu& dove = voce.sotto ? *TrovaSotto(menu, voce.sotto) : menu;
     if (!voce.nome) {
@@ -173,6 +200,7 @@ void AggiungiVoce(QMenu& menu, const VoceMenu& voce, const AzioniMenu& azioni) {
     azione->setObjectName(QLatin1String(voce.nome));
     azione->setCheckable(voce.segno != nullptr || voce.azione == AzioneMenu::PicchiAlti ||
                          voce.azione >= AzioneMenu::AutoNessuno);
+    AggiungiAlGruppo(dove, azione, voce.azione);
     if (voce.scorciatoia)
         azione->setShortcut(QKeySequence(QLatin1String(voce.scorciatoia)));
     Collega(azione, voce, azioni);

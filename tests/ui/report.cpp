@@ -37,9 +37,9 @@ void Misura(Banco& banco) {
     InserisciPunto(limite, {.freqMhz = 0.1, .livelloCent = -6000});
     InserisciPunto(limite, {.freqMhz = 100, .livelloCent = -6000});
     QVERIFY(SalvaTabella(s, limite, "Limits\\Low.5SL"));
+    banco.Scheda(Modalita::Sweep);
     s.setup.LimitName[0] = "Low";
     s.setup.LimitOn[0] = 1;
-    banco.Scheda(Modalita::Sweep);
     banco.RigaCorta();
     banco.Trova<QLineEdit>("TBMisura")->setText(QStringLiteral("Lamp"));
     QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
