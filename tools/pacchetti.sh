@@ -1,6 +1,6 @@
 # What the project needs of Debian 12, and how it gets it. Sourced by run, test and .ci/run.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache qt6-base-dev libqt6svg6-dev libftdi1-dev libgtest-dev python3"
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache qt6-base-dev qt6-svg-dev libftdi1-dev libgtest-dev python3"
 RUN_PACKAGES="fonts-inter fonts-liberation"
 CHECK_PACKAGES="clang-format qpdf poppler-utils"
 

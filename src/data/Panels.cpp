@@ -65,6 +65,13 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
     return letto;
 }
 
+void CaricaEnvCheCe(Scrivania& s) {
+    if (s.albero.Esiste(kPannelloEPN))
+        CaricaPanelEPN(s, kPannelloEPN);
+    else
+        ImpostaEnvDefault(s.env);
+}
+
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {
     s.albero.AssicuraCartella(cartella::kPanels);
     return SalvaFileRecord(s, percorso, s.env);

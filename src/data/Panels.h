@@ -26,6 +26,8 @@ std::string PercorsoPannello(std::string_view nome, std::string_view estensione)
 // harmless by the checks of `data/ControllaRecord.h`; a file in order is taken as it stands.
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso);
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso);
+/// The running EPN where there is one, or the defaults; nothing is written.
+void CaricaEnvCheCe(Scrivania& s);
 bool CaricaPanelEAM(Scrivania& s, std::string_view percorso);
 bool SalvaPanelEAM(Scrivania& s, std::string_view percorso); ///< nothing with `NoSaveSetup`
 bool CaricaPanelEST(Scrivania& s, std::string_view percorso, ScanRecord& scan);

@@ -203,10 +203,10 @@ void SegnaStacchi(SweepTrace& traccia, const ScanTable& tabella) {
         CampioneTraccia& c = traccia[i];
         if (i > 0 && c.riga == traccia[i - 1].riga)
             continue;
-        const double passo =
-            i == 0 ? 0
-                   : std::max(tabella[static_cast<size_t>(c.riga)].Step,
-                              tabella[static_cast<size_t>(traccia[i - 1].riga)].Step);
+        const double passo = i == 0
+                                 ? 0
+                                 : std::max(tabella[static_cast<size_t>(c.riga)].Step,
+                                            tabella[static_cast<size_t>(traccia[i - 1].riga)].Step);
         c.stacco = i == 0 || c.freqMhz - traccia[i - 1].freqMhz > 2 * passo;
     }
 }

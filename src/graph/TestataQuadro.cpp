@@ -5,6 +5,7 @@
 #include <span>
 
 #include "base/Numeri.h"
+#include "graph/RighePicchi.h"
 #include "graph/TinteQuadro.h"
 
 namespace orvane {
@@ -18,9 +19,6 @@ constexpr double kStaccoInsegna = 0.35; ///< above and below the ground of a bad
 constexpr double kLunghezzaTratto = 1.6;
 constexpr double kDietroTratto = 0.5;
 constexpr double kFraPezzi = 0.9;
-
-constexpr std::array<const char*, kNumDetector> kSigle = {"PK", "QP",     "RMS",
-                                                          "AV", "RMS-AV", "C-AV"};
 
 size_t Accesi(const StratoQuadro& strato) {
     return static_cast<size_t>(std::count(strato.detector.begin(), strato.detector.end(), true));
@@ -129,7 +127,7 @@ void Disegna(Superficie& superficie, const PezzoTestata& p, const TestataQuadro&
 std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura) {
     const double delta = verdetto.Delta();
     const double passo = PassoTraccia(misura, verdetto.indice);
-    return std::string(kSigle[static_cast<size_t>(verdetto.detector)]) + (delta > 0 ? " +" : " ") +
+    return std::string(SiglaDetector(verdetto.detector)) + (delta > 0 ? " +" : " ") +
            TestoFisso(delta, 1) + " dB at " + DetFormatoVal(verdetto.freqMhz, passo) + " MHz";
 }
 

@@ -71,8 +71,8 @@ struct SetupRecord {
     int16_t CheckSweepArchiveSize = 0;
     int16_t ZoomModeA = 0;
     int16_t ZoomModeB = 0;
-    int16_t AutoReportMode = 0;              ///< 0 none, 1 text, 2 PDF, 3 RTF, after each sweep
-    float MeasUncertainty = 0;               ///< dB, of the verdict; 0 and more
+    int16_t AutoReportMode = 0;               ///< 0 none, 1 text, 2 PDF, 3 RTF, after each sweep
+    float MeasUncertainty = 0;                ///< dB, of the verdict; 0 and more
     std::array<int16_t, 2> VerdictDetector{}; ///< of each limit: 0 by its title, 1 to 6 a detector
     std::array<uint8_t, 28> Riserva3636{};
     std::string AntennaName;

@@ -55,6 +55,10 @@ EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool 
 
 } // namespace
 
+std::string TestoAttesa(const fs::path& file) {
+    return "Creating File " + Utf8DaPath(file.filename()) + "...\rPlease wait";
+}
+
 std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& r) {
     switch (esito) {
     case EsitoDocumento::Fatto:
@@ -83,7 +87,7 @@ EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
     fs::path scelto = r.OutPath;
     if (pdf && !ControllaFilePDFAperto(s.ambiente, scelto))
         return EsitoDocumento::Occupato;
-    vista.MostraAttesa("Creating File " + Utf8DaPath(r.OutPath.filename()) + "...\rPlease wait");
+    vista.MostraAttesa(TestoAttesa(r.OutPath));
     s.ambiente.ElaboraEventi(0, Veglia::Eventi); // so that it is drawn
     const EsitoDocumento esito = CreaECopia(s, r, pdf);
     vista.ChiudiAttesa();

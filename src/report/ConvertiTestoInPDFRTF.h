@@ -17,6 +17,9 @@ struct VistaAttesa {
     virtual void ChiudiAttesa() = 0;
 };
 
+/// "Creating File " and the name of the file, "..." and "Please wait" behind it.
+std::string TestoAttesa(const std::filesystem::path& file);
+
 /// Paths are the host's; texts in UTF-8.
 struct RichiestaDocumento {
     std::filesystem::path TablePath = {};  ///< "TPT": the report's lines, in Windows-1252

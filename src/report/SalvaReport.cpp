@@ -73,13 +73,17 @@ std::vector<std::string> Righe(const std::string& testo) {
     return righe;
 }
 
-bool ScriviTesto(const ReportPronto& report, const OpzioniReport& opzioni,
-                 const std::vector<std::string>& davanti, const fs::path& percorso) {
+std::vector<std::string> RigheTesto(const ReportPronto& report, const OpzioniReport& opzioni,
+                                    const std::vector<std::string>& davanti) {
     const auto riassunto = opzioni.riassunto ? RigheRiassunto(CalcolaRiassunto(report.fonte))
                                              : std::vector<std::string>{};
+    return TestoReport(report.griglia, report.model, report.fonte.misura, opzioni.ColumnSeparator,
+                       davanti, riassunto);
+}
+
+bool ScriviTesto(const std::vector<std::string>& righe, const fs::path& percorso) {
     std::string testo;
-    for (const std::string& riga : TestoReport(report.griglia, report.model, report.fonte.misura,
-                                               opzioni.ColumnSeparator, davanti, riassunto))
+    for (const std::string& riga : righe)
         testo += riga + "\r\n";
     return Scrivi(percorso, InAnsi(testo));
 }
@@ -100,19 +104,10 @@ fs::path SalvaImmagine(const Scrivania& s, const FonteReport& fonte, FabbricaQua
 /// converter, which takes them away.
 bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,
                     FabbricaQuadri* fabbrica, VistaAttesa& vista, const fs::path& percorso) {
-    const MisuraAperta& misura = report.fonte.misura;
-    const auto colonne = static_cast<int>(report.griglia.colonne.size());
-    const bool orizzontale = opzioni.orizzontale.value_or(
-        DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale);
-    RichiestaDocumento r{.TablePath = NomeProprio(fs::path(percorso).replace_extension("TPT")),
-                         .HeaderPath = PercorsoHeader(s.albero, misura.nome),
-                         .HeaderOn = opzioni.HeaderOn,
-                         .Title = misura.nome,
-                         .carattere = DetCarattereEOrientazione(orizzontale, HaDatiMast(misura)),
-                         .OutPath = percorso};
-    r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
-    // The header is printed by the layout, ahead of the picture.
-    if (!ScriviTesto(report, opzioni, {}, r.TablePath)) {
+    RichiestaDocumento r = RichiestaDelReport(s, report, opzioni);
+    r.TablePath = NomeProprio(fs::path(percorso).replace_extension("TPT"));
+    r.OutPath = percorso;
+    if (!ScriviTesto(RigheDelDocumento(report, opzioni), r.TablePath)) {
         std::error_code errore;
         fs::remove(r.TablePath, errore);
         return Avvisa(s, percorso);
@@ -161,6 +156,7 @@ OpzioniReport OpzioniDaPannello(const EnvRecord& env) {
     return {
         .HeaderOn = voce(voce_report::kIntestazione) != 1,
         .riassunto = voce(voce_report::kRiassunto) == 1,
+        .orizzontale = voce(voce_report::kOrizzontale) == 1,
         .ColumnSeparator = ColumnSeparator(env.ExportMode),
         .csv = {.separatore = kSeparatoriCsv[separatore < kSeparatoriCsv.size() ? separatore : 0],
                 .decimale = voce(voce_report::kDecimaleCsv) == 1 ? ',' : '.'}};
@@ -171,9 +167,30 @@ fs::path PercorsoHeader(const AlberoDati& albero, const std::string& misura) {
     return albero.Host(albero.Esiste(suo) ? suo : std::string(kFileHeader));
 }
 
+RichiestaDocumento RichiestaDelReport(const Scrivania& s, const ReportPronto& report,
+                                      const OpzioniReport& opzioni) {
+    const MisuraAperta& misura = report.fonte.misura;
+    const auto colonne = static_cast<int>(report.griglia.colonne.size());
+    const bool tante = DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale;
+    const bool orizzontale = opzioni.orizzontale || (tante && !opzioni.verticale);
+    RichiestaDocumento r{.HeaderPath = PercorsoHeader(s.albero, misura.nome),
+                         .HeaderOn = opzioni.HeaderOn,
+                         .Title = misura.nome,
+                         .carattere = DetCarattereEOrientazione(orizzontale, HaDatiMast(misura))};
+    r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
+    return r;
+}
+
+std::vector<std::string> RigheDelDocumento(const ReportPronto& report,
+                                           const OpzioniReport& opzioni) {
+    // The header is printed by the layout, ahead of the picture.
+    return RigheTesto(report, opzioni, {});
+}
+
 bool SalvaReportComTesto(const Scrivania& s, const ReportPronto& report,
                          const OpzioniReport& opzioni, const fs::path& percorso) {
-    return ScriviTesto(report, opzioni, Righe(TestoHeader(s, report, opzioni)), percorso);
+    return ScriviTesto(RigheTesto(report, opzioni, Righe(TestoHeader(s, report, opzioni))),
+                       percorso);
 }
 
 bool SalvaReport(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,

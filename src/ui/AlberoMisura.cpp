@@ -2,7 +2,9 @@
 
 #include <QHeaderView>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
+#include "ui/Tema.h"
 #include "ui/Testi.h"
 
 namespace orvane {
@@ -11,6 +13,23 @@ namespace {
 constexpr int kIndice = Qt::UserRole;
 /// Rows that are seen without scrolling.
 constexpr int kMassimoRighe = 7;
+
+/// The chosen row as in the list of measures.
+class DelegatoNodo : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* o, const QModelIndex& i) const override {
+        QStyledItemDelegate::initStyleOption(o, i);
+        o->font.setWeight(o->state & QStyle::State_Selected ? QFont::DemiBold : QFont::Normal);
+        o->palette.setColor(QPalette::Highlight, Tinta(o->palette, Ruolo::Scelta));
+        o->palette.setColor(QPalette::HighlightedText, Tinta(o->palette, Ruolo::Testo));
+    }
+    QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex&) const override {
+        return {o.rect.width(), o.fontMetrics.height() + 6};
+    }
+};
 
 int RigheAperte(const QTreeWidgetItem& voce) {
     int righe = 0;
@@ -24,8 +43,10 @@ int RigheAperte(const QTreeWidgetItem& voce) {
 AlberoMisura::AlberoMisura(QWidget* padre) : QTreeWidget(padre) {
     setFrameShape(QFrame::NoFrame);
     setHeaderHidden(true);
+    setRootIsDecorated(false);
     setIndentation(14);
     setUniformRowHeights(true);
+    setItemDelegate(new DelegatoNodo(this));
     viewport()->setBackgroundRole(QPalette::Window);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -53,7 +74,6 @@ void AlberoMisura::Mostra(const std::vector<NodoSubMisura>& nodi, size_t scelto)
             setCurrentItem(voce);
     }
     expandAll();
-    setRootIsDecorated(std::ranges::any_of(nodi, [](const auto& n) { return n.profondita > 0; }));
     updateGeometry();
 }
 
@@ -61,7 +81,7 @@ QSize AlberoMisura::sizeHint() const {
     const int riga = topLevelItemCount() > 0 ? rowHeight(indexFromItem(topLevelItem(0)))
                                              : fontMetrics().height();
     const int righe = std::clamp(RigheAperte(*invisibleRootItem()), 1, kMassimoRighe);
-    return {160, righe * std::max(riga, fontMetrics().height() + 4) + 2};
+    return {160, righe * std::max(riga, fontMetrics().height() + 6) + 2};
 }
 
 } // namespace orvane

@@ -1,11 +1,11 @@
 #include "ui/LBVerdetto.h"
 
-#include <array>
 #include <cmath>
 
 #include <QPainter>
 
 #include "base/Numeri.h"
+#include "graph/RighePicchi.h"
 #include "records/ScanRecord.h"
 #include "ui/LettureQuadro.h"
 #include "ui/Tema.h"
@@ -14,9 +14,6 @@
 namespace orvane {
 namespace {
 
-/// By `DetectorKind`, as they are written beside limits.
-constexpr std::array<const char*, kNumDetector> kSigle = {"PK", "QP",     "RMS",
-                                                          "AV", "RMS-AV", "CISPR-AV"};
 constexpr double kBordoX = 10;
 constexpr double kBordoY = 4;
 /// How much of its colour a badge lets through, alone and under the pointer.
@@ -47,18 +44,19 @@ QString TestoDb(double db) {
 LBVerdetto::LBVerdetto(const VerdettoLimite& verdetto, const QString& frequenza, QWidget* padre)
     : QAbstractButton(padre), giudizio_(verdetto.giudizio) {
     setObjectName(QStringLiteral("LBVerdetto%1").arg(verdetto.slot));
-    const auto d = static_cast<size_t>(verdetto.detector);
-    const QString sigla = QLatin1String(kSigle[d]);
+    const QString sigla = QLatin1String(SiglaDetector(verdetto.detector));
     const QString giudizio = QLatin1String(TestoGiudizio(giudizio_));
     const bool vuoto = giudizio_ == Giudizio::Nessuno;
     setText(vuoto ? sigla + QStringLiteral("  ---")
                   : tr("%1  %2 dB at %3").arg(sigla, TestoDb(verdetto.Delta()), frequenza));
     const QString limite = tr("Limit %1: %2").arg(Q(verdetto.limite), giudizio);
     setAccessibleName(vuoto ? limite : limite + QStringLiteral(", ") + text());
-    setToolTip(vuoto ? tr("%1\nNo sample where the limit has a value").arg(limite)
-                     : tr("%1\n%2 against it: %n sample(s) above", nullptr,
-                          static_cast<int>(verdetto.oltre))
-                           .arg(limite, QLatin1String(kNomiDetector[d])));
+    setToolTip(
+        vuoto
+            ? tr("%1\nNo sample where the limit has a value").arg(limite)
+            : tr("%1\n%2 against it: %n sample(s) above", nullptr, static_cast<int>(verdetto.oltre))
+                  .arg(limite,
+                       QLatin1String(kNomiDetector[static_cast<size_t>(verdetto.detector)])));
     setCursor(vuoto ? Qt::ArrowCursor : Qt::PointingHandCursor);
     setFocusPolicy(vuoto ? Qt::NoFocus : Qt::TabFocus);
     setEnabled(!vuoto);

@@ -123,6 +123,7 @@ private:
     void CambiaNumPicchi(int quanti);
     void SalvaTabellaPicchi();
     void AzioneQuadro(AzioneMenu azione);
+    void PortaFuori(AzioneMenu azione);
     void SintonizzaManuale(double mhz);
     void MostraCorsaFinita(const std::string& misura);
     void PreparaCurveCorsa(const ScanTable& tabella);
@@ -150,6 +151,10 @@ private:
     void ApriTesto(const std::string& percorso, const QString& titolo,
                    const std::optional<std::string>& testo);
     void ApriCommento();
+    void ApriReport(AzioneMenu azione);
+    void ScegliAutoReport(AzioneMenu azione);
+    void SegnaMenuReport();
+    QString AutoReport(const std::string& misura);
     QString DescrizioneLink() const;
     QString Unita() const;
 

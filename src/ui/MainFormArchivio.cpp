@@ -7,8 +7,10 @@
 #include "data/CaricaSalva.h"
 #include "data/FileTabelle.h"
 #include "data/Panels.h"
+#include "graph/BloccoImpostazioni.h"
 #include "records/ImpostazioniReport.h"
 #include "ui/MainForm.h"
+#include "ui/SalvaImmagine.h"
 #include "ui/Testi.h"
 
 namespace orvane {
@@ -92,6 +94,8 @@ void MainForm::CollegaQuadro() {
             [this](qulonglong indice) { quadro_->MuoviMarker(0, indice); });
     connect(&picchi, &PannelloPicchi::QuantiCambiati, this, &MainForm::CambiaNumPicchi);
     connect(&picchi, &PannelloPicchi::TabellaFrequenze, this, &MainForm::SalvaTabellaPicchi);
+    connect(&picchi, &PannelloPicchi::ReportChiesto, this,
+            [this] { ApriReport(AzioneMenu::Report1); });
     connect(piedeArchivio_, &PiedeArchivio::PaginaScelta, this,
             [this](PiedeArchivio::Pagina p) { MostraPicchi(p == PiedeArchivio::Pagina::Picchi); });
     connect(quadro_, &MainPict::MarkerMosso, this, [&picchi](int quale, qulonglong indice) {
@@ -100,6 +104,7 @@ void MainForm::CollegaQuadro() {
     });
     connect(quadro_, &MainPict::PiccoScelto, this,
             [&picchi](int, qulonglong indice) { picchi.Evidenzia(indice); });
+    connect(quadro_, &MainPict::PiccoSorvolato, &picchi, &PannelloPicchi::Evidenzia);
     connect(quadro_, &MainPict::SintonizzaManuale, this, &MainForm::SintonizzaManuale);
     connect(quadro_, &MainPict::MisuraSuccessiva, this, [this](int verso) {
         if (console_->stato.modalita == Modalita::SweepsArchive)
@@ -315,6 +320,9 @@ void MainForm::SalvaTabellaPicchi() {
 
 void MainForm::AzioneQuadro(AzioneMenu azione) {
     switch (azione) {
+    case AzioneMenu::SalvaImmagine:
+    case AzioneMenu::CopiaImmagine:
+        return PortaFuori(azione);
     case AzioneMenu::PicchiAlti:
         return MostraPicchi(!conPicchi_);
     case AzioneMenu::ZoomMarker:
@@ -336,6 +344,23 @@ void MainForm::AzioneQuadro(AzioneMenu azione) {
     default:
         return;
     }
+}
+
+/// The picture, as it is on show, to a file or the clipboard.
+void MainForm::PortaFuori(AzioneMenu azione) {
+    const ContenutoQuadro quadro = quadro_->Quadro();
+    const ImmagineMisura immagine{.quadro = quadro,
+                                  .setup = scrivania_.setup,
+                                  .campo = quadro_->CampoMostrato(),
+                                  .blocco =
+                                      BloccoImpostazioni(scrivania_, quadro, scrivania_.setup)};
+    if (azione == AzioneMenu::SalvaImmagine) {
+        if (SalvaImmagine(this, scrivania_, immagine))
+            stato_->MostraMessaggio(tr("Picture written"));
+        return;
+    }
+    CopiaImmagine(scrivania_, immagine);
+    stato_->MostraMessaggio(tr("Picture copied"));
 }
 
 /// "Tune Manual @": the frequency is the user's, and not the measure's.

@@ -99,6 +99,8 @@ Q_SIGNALS:
     void ZoomCambiato();
     /// A symbol was clicked; its marker has moved.
     void PiccoScelto(int detector, qulonglong indice);
+    /// The pointer has come upon a symbol.
+    void PiccoSorvolato(qulonglong indice);
     /// `InterceptMousewheelSelMeas`: the next measure of the archive (1) or the one before (-1).
     void MisuraSuccessiva(int verso);
 

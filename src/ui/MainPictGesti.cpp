@@ -151,6 +151,9 @@ void MainPict::Sorvola(QPointF dove) {
     if (picco.has_value() != sorvolato_.has_value() ||
         (picco && (picco->detector != sorvolato_->detector || picco->quale != sorvolato_->quale))) {
         sorvolato_ = picco;
+        if (picco)
+            Q_EMIT PiccoSorvolato(
+                contenuto_.picchi[static_cast<size_t>(picco->detector)][picco->quale].indice);
         update();
     }
     setCursor(picco                         ? Qt::PointingHandCursor

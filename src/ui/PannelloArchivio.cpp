@@ -11,7 +11,6 @@
 #include "base/Numeri.h"
 #include "data/Cartelle.h"
 #include "data/Incompiute.h"
-#include "graph/Confronto.h"
 #include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
 #include "setup/TabellaScan.h"
@@ -44,13 +43,14 @@ PannelloArchivio::PannelloArchivio(const Scrivania& scrivania, QWidget* padre)
     elenco->addLayout(testa);
     elenco->addWidget(vuota_);
     elenco->addWidget(lista_, 1);
-    sopra->setMinimumHeight(8 * (fontMetrics().height() + 12));
+    sopra->setMinimumHeight(7 * (fontMetrics().height() + 12));
     auto* divisore = new QSplitter(Qt::Vertical, this);
     divisore->setObjectName(QStringLiteral("SplitArchivio"));
     divisore->setChildrenCollapsible(false);
     divisore->addWidget(sopra);
     divisore->addWidget(CreaDettagli());
     divisore->setStretchFactor(0, 1);
+    divisore->setSizes({300, 400});
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->addWidget(divisore);
@@ -130,6 +130,7 @@ QWidget* PannelloArchivio::CreaDettagli() {
     for (QWidget* w : std::initializer_list<QWidget*>{albero_, titoloSovrapposte_, sovrapposte_,
                                                       verdetto_, dettagli_, accetta_})
         colonna->addWidget(w);
+    colonna->addStretch(1);
     area->setWidget(dentro);
     connect(accetta_, &QPushButton::clicked, this, &PannelloArchivio::Accetta);
     connect(detector_, &QComboBox::activated, this,
@@ -275,9 +276,8 @@ void PannelloArchivio::MostraSovrapposte(const StatoArchivio& archivio, const Re
         aggiungi(Genere::Differenza, nome, tr("Difference"), env.GraphColors[colore::kPicchi]);
     }
     for (size_t i = 0; i < archivio.sovrapposte.size(); ++i) {
-        const MisuraAperta& altra = archivio.sovrapposte[i];
-        const StratoQuadro strato = StratoSovrapposto(altra, i, archivio.detector, scrivania_.env);
-        aggiungi(Genere::Misura, altra.nome, Q(altra.nome), strato.colori[0]);
+        const std::string& nome = archivio.sovrapposte[i].nome;
+        aggiungi(Genere::Misura, nome, Q(nome), StratoSopra(archivio, i, scrivania_.env).colori[0]);
     }
     sovrapposte_->Mostra(voci);
     sovrapposte_->setVisible(!voci.empty());

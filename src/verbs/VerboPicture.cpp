@@ -155,14 +155,6 @@ RichiestaQuadro LeggiRichiesta(const Argomenti& argomenti) {
     return r;
 }
 
-/// Colours and lines of the running panel, or the default ones; a picture writes none.
-void CaricaColori(Scrivania& s) {
-    if (s.albero.Esiste(kPannelloEPN))
-        CaricaPanelEPN(s, kPannelloEPN);
-    else
-        ApplicaEnv(s.env, false);
-}
-
 /// Reference and dynamics; a unit that is not the measure's keeps the trace in its place.
 void ImpostaScala(const RichiestaQuadro& r, const SetupRecord& misurato, SetupRecord& setup) {
     setup.RefLevel =
@@ -225,7 +217,7 @@ EsitoVerbo VerboPicture(Banco& banco, Parole parole) {
         esito != kFatto)
         return esito;
     Scrivania& s = banco.scrivania;
-    CaricaColori(s);
+    CaricaEnvCheCe(s);
     SetupRecord& setup = chiesta.setup;
     ImpostaScala(r, chiesta.misura.header.Setup, setup);
     ContenutoQuadro quadro = ComponiQuadro(chiesta.misura, setup, s.env);

@@ -33,8 +33,7 @@ constexpr std::array kTipi = {Scelta<TipoReport>{"1det", TipoReport::UnDetector}
 constexpr std::array kSeparatori = {Scelta<char>{"comma", ','}, Scelta<char>{"semicolon", ';'},
                                     Scelta<char>{"tab", '\t'}};
 constexpr std::array kDecimali = {Scelta<char>{"point", '.'}, Scelta<char>{"comma", ','}};
-constexpr std::array kFogli = {Scelta<std::optional<bool>>{"portrait", false},
-                               Scelta<std::optional<bool>>{"landscape", true}};
+constexpr std::array kFogli = {Scelta<bool>{"portrait", false}, Scelta<bool>{"landscape", true}};
 
 /// What the options of the verb itself say.
 struct RichiestaReport {
@@ -89,6 +88,7 @@ RichiestaReport LeggiRichiesta(const Argomenti& argomenti) {
     Scegli(r, argomenti, "separator", kSeparatori, r.opzioni.csv.separatore);
     Scegli(r, argomenti, "decimal", kDecimali, r.opzioni.csv.decimale);
     Scegli(r, argomenti, "paper", kFogli, r.opzioni.orizzontale);
+    r.opzioni.verticale = argomenti.Opzione("paper") && !r.opzioni.orizzontale;
     LeggiDetectorDi(r, argomenti, "detector", r.detector);
     LeggiDetectorDi(r, argomenti, "detector2", r.detector2);
     r.tabella = argomenti.Opzione("save-table");
@@ -124,14 +124,6 @@ std::string DetectorAssente(const RichiestaReport& r, const MisuraAperta& misura
             return std::string("the measure has no ") +
                    kNomiDetector.at(static_cast<size_t>(*detector));
     return {};
-}
-
-/// Colours, margin and separator of the running panel, or the default ones; none is written.
-void CaricaPannelloReport(Scrivania& s) {
-    if (s.albero.Esiste(kPannelloEPN))
-        CaricaPanelEPN(s, kPannelloEPN);
-    else
-        ApplicaEnv(s.env, false);
 }
 
 /// The frequencies of the rows as a frequency table; it must have room for all of them.
@@ -192,7 +184,7 @@ EsitoVerbo VerboReport(Banco& banco, Parole parole) {
     RichiestaReport r = LeggiRichiesta(argomenti);
     if (!r.errore.empty())
         return UsoErrato(banco, "report", r.errore);
-    CaricaPannelloReport(banco.scrivania);
+    CaricaEnvCheCe(banco.scrivania);
     r.opzioni.ColumnSeparator = ColumnSeparator(banco.scrivania.env.ExportMode);
     MisuraChiesta chiesta;
     const EsitoVerbo esito =

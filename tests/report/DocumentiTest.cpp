@@ -177,8 +177,8 @@ TEST_F(Documenti, ManyColumnsLieOnALandscapeSheet) {
         banco.Fattore(i, "F", {});
         Compila();
     }
-    for (const auto& [chiesto, foglio] : {std::pair{std::optional<bool>(), largo}, {false, alto}}) {
-        ASSERT_TRUE(Salva("a.pdf", {.orizzontale = chiesto}));
+    for (const auto& [verticale, foglio] : {std::pair{false, largo}, {true, alto}}) {
+        ASSERT_TRUE(Salva("a.pdf", {.verticale = verticale}));
         EXPECT_TRUE(Contiene(Prendi("a.pdf"), foglio));
         EXPECT_TRUE(Contiene(Prendi("a.pdf"), "/Fnt3 4.5 Tf"));
     }

@@ -73,10 +73,10 @@ void CorsaUi::EseguiFinoAllArchivio() {
              size_t{101});
     QVERIFY(banco.Trova<QLabel>("LBModello")->text().contains(QStringLiteral("FW")));
     banco.Scheda(Modalita::SweepsArchive);
-    auto* lista = banco.Trova<QListWidget>("CBXSweepsArchive");
-    QCOMPARE(lista->count(), 1);
-    QCOMPARE(lista->currentRow(), 0);
-    QVERIFY(!banco.Trova<MainPict>("MainPict")->Deposito().Vuoto());
+    auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
+    QCOMPARE(lista->model()->rowCount(), 1);
+    QCOMPARE(lista->currentIndex().row(), 0);
+    QVERIFY(!banco.Trova<MainPict>("MainPict")->Quadro().misura.traccia->empty());
     QVERIFY(banco.Trova<QLabel>("LBDettagli")->text().contains(QStringLiteral("101 samples")));
     QVERIFY(banco.riquadri.isEmpty());
     QVERIFY(banco.difetti.empty());
@@ -330,15 +330,18 @@ void CorsaUi::MisuraIncompiutaSiAccetta() {
     avviso = banco.Trova<QWidget>("FRMIncompiute");
     QVERIFY(avviso->isVisible());
     QVERIFY(banco.Trova<QLabel>("LBIncompiute")->text().contains(QStringLiteral("Untitled")));
-    auto* lista = banco.Trova<QListWidget>("CBXSweepsArchive");
-    QVERIFY(lista->item(0)->toolTip().startsWith(QStringLiteral("Incomplete")));
+    auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
+    const auto aiuto = [lista] {
+        return lista->model()->index(0, 0).data(Qt::ToolTipRole).toString();
+    };
+    QVERIFY(aiuto().startsWith(QStringLiteral("Incomplete")));
     banco.Trova<QPushButton>("CMBShowIncomplete")->click();
     QTRY_VERIFY(banco.Trova<QLabel>("LBDettagli")->text().contains(QStringLiteral("101 samples")));
     auto* accetta = banco.Trova<QPushButton>("CMBAcceptMeasure");
     QVERIFY(accetta->isVisible());
     accetta->click();
     QVERIFY(!avviso->isVisible() && !accetta->isVisible());
-    QVERIFY(!lista->item(0)->toolTip().startsWith(QStringLiteral("Incomplete")));
+    QVERIFY(!aiuto().startsWith(QStringLiteral("Incomplete")));
     QVERIFY(MisureIncompiute(banco.posto->scrivania.albero).empty());
 }
 

@@ -1,4 +1,6 @@
 // The main window as it stands: names, tabs, menus, marks, settings, archive.
+#include <fstream>
+
 #include <QMenu>
 #include <QStandardPaths>
 
@@ -182,16 +184,16 @@ void Finestra::DinamicaSiSalvaSubito() {
 
 void Finestra::ArchivioMostraLaMisuraGuasta() {
     Banco banco;
-    std::filesystem::create_directories(banco.cartella.Percorso() / "Sweep" / "Torn");
+    const auto cartella = banco.cartella.Percorso() / "Sweep" / "Torn";
+    std::filesystem::create_directories(cartella);
+    std::ofstream(cartella / "Torn.KSH") << "torn";
     banco.Scheda(Modalita::Sweep);
     banco.Scheda(Modalita::SweepsArchive);
-    auto* lista = banco.Trova<QListWidget>("CBXSweepsArchive");
-    QCOMPARE(lista->count(), 1);
-    QVERIFY(lista->item(0)
-                ->data(Qt::AccessibleTextRole)
-                .toString()
-                .contains(QStringLiteral("damaged")));
-    lista->setCurrentRow(0);
+    auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
+    const QModelIndex riga = lista->model()->index(0, 0);
+    QCOMPARE(lista->model()->rowCount(), 1);
+    QVERIFY(riga.data(Qt::AccessibleTextRole).toString().contains(QStringLiteral("damaged")));
+    lista->setCurrentIndex(riga);
     QTRY_VERIFY(banco.Trova<QLabel>("LBDettagli")->text().contains(QStringLiteral("cannot")));
     QVERIFY(banco.riquadri.join(QString()).contains(QStringLiteral("Failed loading")));
 }
@@ -202,12 +204,11 @@ void Finestra::ArchivioCercaPerNome() {
         std::filesystem::create_directories(banco.cartella.Percorso() / "Sweep" / nome);
     banco.Scheda(Modalita::Sweep);
     banco.Scheda(Modalita::SweepsArchive);
-    auto* lista = banco.Trova<QListWidget>("CBXSweepsArchive");
+    auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
     QTest::keyClicks(banco.Trova<QLineEdit>("TBCerca"), QStringLiteral("psu"));
     QStringList visibili;
-    for (int i = 0; i < lista->count(); ++i)
-        if (!lista->item(i)->isHidden())
-            visibili << lista->item(i)->data(Qt::UserRole).toString();
+    for (int i = 0; i < lista->model()->rowCount(); ++i)
+        visibili << lista->model()->index(i, 0).data().toString();
     QCOMPARE(visibili, QStringList{QStringLiteral("PSU rev B")});
 }
 
