@@ -274,7 +274,13 @@ void FinestraReport::AdattaFinestraReport() {
     const QSize schermo = screen()->availableSize();
     const int altri = width() - GridReport_->width();
     const int voluta = altri + GridReport_->LarghezzaColonne();
-    resize(std::clamp(voluta, width(), std::max(width(), schermo.width() * 9 / 10)), height());
+    const int prima = width();
+    resize(std::clamp(voluta, prima, std::max(prima, schermo.width() * 9 / 10)), height());
+    // It grows to both sides.
+    const QRect tutto = screen()->availableGeometry();
+    move(std::clamp(x() - (width() - prima) / 2, tutto.left(),
+                    std::max(tutto.left(), tutto.right() - frameGeometry().width())),
+         y());
 }
 
 void FinestraReport::CambiaMargine() {

@@ -16,7 +16,7 @@ namespace orvane {
 namespace {
 
 /// Menus that a report window keeps shut.
-constexpr const char* kMenuChiusi[] = {"MNUReports", "MNUOptions", "MNUTools"};
+constexpr const char* kMenuChiusi[] = {"MNUReport", "MNUOptions", "MNUTools"};
 
 void ApriMenu(const QMenuBar& barra, bool aperti) {
     for (const char* nome : kMenuChiusi)

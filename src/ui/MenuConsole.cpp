@@ -116,7 +116,7 @@ constexpr VoceMenu kMenu[] = {
 };
 
 constexpr const char* kNomiMenu[][2] = {
-    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReports"}, {"View", "MNUView"},
+    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReport"}, {"View", "MNUView"},
     {"Tools", "MNUTools"}, {"Options", "MNUOptions"}, {"Help", "MNUHelp"},
 };
 constexpr const char* kSottoMenu[][2] = {{"Auto Save Report", "MNUAutoSaveReport"}};

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "console/Archivio.h"
 #include "data/FileTabelle.h"
 #include "data/Panels.h"
 #include "data/ScrivaniaProva.h"

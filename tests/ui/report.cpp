@@ -219,13 +219,13 @@ void ReportUi::AnnullaLasciaRigheRosse() {
 
 void ReportUi::AutoReportDopoLaCorsa() {
     Banco banco;
-    const auto file = banco.cartella.Percorso() / "Report" / "Report_Lamp.PDF";
+    const auto file = banco.cartella.Percorso() / "Report" / "Report_Lamp2.PDF";
     Misura(banco);
-    QVERIFY(!std::filesystem::exists(file));
+    QVERIFY(!std::filesystem::exists(file.parent_path()));
     banco.Voce("MNUAutoSaveRep2")->trigger();
     QVERIFY(!banco.Voce("MNUAutoSaveRep0")->isChecked());
     QCOMPARE(banco.posto->scrivania.setup.AutoReportMode, int16_t{2});
-    banco.risposte = {QMessageBox::Yes, QMessageBox::Yes};
+    banco.Trova<QLineEdit>("TBMisura")->setText(QStringLiteral("Lamp2"));
     QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
     QVERIFY(std::filesystem::exists(file));
 }
