@@ -115,8 +115,9 @@ QWidget* PannelloPicchi::CreaTesta() {
                             tr("Makes a frequency table from the list"), testa);
     auto* subRange = CreaSpento("CMBMakeTabSubRange", tr("Sub Range"),
                                 tr("Sub Range measurements are not part of this release"), testa);
-    auto* report =
-        CreaSpento("CMBReport", tr("Report"), tr("Reports are not part of this release"), testa);
+    auto* report = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
+                                tr("Report 1 detector 2 limits"), testa);
+    connect(report, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
     report->setProperty(kProprietaRuolo, "accento");
     auto* didascalia = CreaDidascalia(tr("Peaks"), testa);
     didascalia->setBuddy(quanti_);

@@ -125,7 +125,7 @@ void Finestra::LeSchedeCambianoModo() {
 
 void Finestra::VociDelModoSpente() {
     Banco banco;
-    for (const char* nome : {"MNUMakeTabSubRange", "MNUSaveImage", "MNUReportPDF", "MNUWaterfall"})
+    for (const char* nome : {"MNUMakeTabSubRange", "MNUSaveImage", "MNUReport0", "MNUWaterfall"})
         QVERIFY2(!banco.Voce(nome)->isEnabled(), nome);
     for (const char* nome : {"MNUOverwriteWarning", "MNURemoteLink", "CMBExit"})
         QVERIFY2(banco.Voce(nome)->isEnabled(), nome);
