@@ -115,10 +115,10 @@ QWidget* PannelloPicchi::CreaTesta() {
                             tr("Makes a frequency table from the list"), testa);
     auto* subRange = CreaSpento("CMBMakeTabSubRange", tr("Sub Range"),
                                 tr("Sub Range measurements are not part of this release"), testa);
-    auto* report = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
-                                tr("Report 1 detector 2 limits"), testa);
-    connect(report, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
-    report->setProperty(kProprietaRuolo, "accento");
+    report_ = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
+                           tr("Report 1 detector 2 limits"), testa);
+    connect(report_, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
+    report_->setProperty(kProprietaRuolo, "accento");
     auto* didascalia = CreaDidascalia(tr("Peaks"), testa);
     didascalia->setBuddy(quanti_);
     auto* riga = new QHBoxLayout(testa);
@@ -126,7 +126,7 @@ QWidget* PannelloPicchi::CreaTesta() {
     riga->setSpacing(8);
     riga->addWidget(righe_, 1);
     for (QWidget* w :
-         std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange, report})
+         std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange, report_})
         riga->addWidget(w);
     connect(quanti_, &QSpinBox::valueChanged, this, &PannelloPicchi::QuantiCambiati);
     connect(tabFreq_, &QPushButton::clicked, this, &PannelloPicchi::TabellaFrequenze);
@@ -157,6 +157,7 @@ void PannelloPicchi::Mostra(TabellaPicchi tabella, bool conMisura) {
     Riempi();
     const auto quante = int(tabella_.righe.size());
     quanti_->setEnabled(conMisura);
+    report_->setEnabled(conMisura);
     tabFreq_->setEnabled(quante > 0);
     righe_->setText(!conMisura ? QString() : quante == 1 ? tr("1 row") : tr("%1 rows").arg(quante));
     griglia_->setVisible(quante > 0);

@@ -56,6 +56,7 @@ private:
     QLabel* righe_ = nullptr;
     QSpinBox* quanti_ = nullptr;
     QPushButton* tabFreq_ = nullptr;
+    QPushButton* report_ = nullptr;
     QTableWidget* griglia_ = nullptr;
     QLabel* vuota_ = nullptr;
     int sorvolata_ = -1; ///< the row under the pointer, here or on the picture
