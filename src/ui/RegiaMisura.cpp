@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include "base/Testo.h"
 #include "data/Interpolazione.h"
 #include "graph/Confronto.h"
 #include "records/ColoriGrafico.h"
@@ -40,12 +41,12 @@ StratoQuadro ComponiStrato(const MisuraAperta& misura, int detector, const EnvRe
     return strato;
 }
 
-/// The passes of a measure that are traces of their own, as "L1" of "<measure>-L1".
+/// The passes of a measure that are traces of their own, as "L1" of "<measure>-L1"; one that was
+/// renamed keeps its former name in theirs.
 std::vector<const NodoSubMisura*> Passate(const StatoArchivio& aperta) {
     std::vector<const NodoSubMisura*> passate;
-    const std::string inizio = aperta.misura.nome + "-";
     for (const NodoSubMisura& nodo : aperta.albero)
-        if (!nodo.gruppo && nodo.prefisso.empty() && nodo.file.starts_with(inizio))
+        if (!nodo.gruppo && nodo.prefisso.empty() && nodo.file.ends_with("-" + Rifila(nodo.testo)))
             passate.push_back(&nodo);
     return passate;
 }
