@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -76,8 +78,8 @@ FinestraReport::FinestraReport(Scrivania& scrivania, const MisuraAperta& misura,
     tutto->setContentsMargins(20, 18, 20, 16);
     tutto->setSpacing(14);
     tutto->addLayout(corpo, 1);
-    tutto->addWidget(nota_);
-    tutto->addLayout(CreaPulsanti());
+    tutto->addLayout(CreaSalvataggi());
+    tutto->addLayout(CreaPiede());
     const QSize schermo = screen()->availableSize();
     const int m = fontMetrics().averageCharWidth();
     resize(std::min(120 * m, schermo.width() * 9 / 10),
@@ -86,7 +88,6 @@ FinestraReport::FinestraReport(Scrivania& scrivania, const MisuraAperta& misura,
 
 QWidget* FinestraReport::CreaColonna(std::span<const GruppoDetector> gruppi) {
     colonna_ = new QWidget(this);
-    colonna_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* colonna = new QVBoxLayout(colonna_);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(18);
@@ -99,7 +100,17 @@ QWidget* FinestraReport::CreaColonna(std::span<const GruppoDetector> gruppi) {
     colonna->addWidget(CreaDocumento());
     colonna->addWidget(CreaCsv());
     colonna->addStretch(1);
-    return colonna_;
+    // On a low screen it scrolls.
+    auto* scorre = new QScrollArea(this);
+    scorre->setFrameShape(QFrame::NoFrame);
+    scorre->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scorre->setWidgetResizable(true);
+    scorre->setWidget(colonna_);
+    scorre->viewport()->setBackgroundRole(QPalette::Window);
+    colonna_->setBackgroundRole(QPalette::Window);
+    scorre->setFixedWidth(colonna_->sizeHint().width() +
+                          scorre->verticalScrollBar()->sizeHint().width());
+    return scorre;
 }
 
 /// The detectors that the measure has; the others are off.
@@ -196,30 +207,40 @@ QWidget* FinestraReport::CreaCsv() {
     return riquadro;
 }
 
-QLayout* FinestraReport::CreaPulsanti() {
+/// A button that wants a table that is whole.
+QPushButton* FinestraReport::CreaUscita(const char* nome, const QString& testo,
+                                        const QString& aiuto, std::function<void()> cosa) {
+    QPushButton* pulsante = CreaPulsante(QLatin1String(nome), testo, aiuto, this);
+    connect(pulsante, &QPushButton::clicked, this, std::move(cosa));
+    salva_.push_back(pulsante);
+    return pulsante;
+}
+
+QLayout* FinestraReport::CreaSalvataggi() {
     auto* riga = new QHBoxLayout;
     riga->setSpacing(8);
     riga->addWidget(CreaDidascalia(tr("Save as"), this));
-    const auto aggiungi = [&](const char* nome, const QString& testo, const QString& aiuto,
-                              auto&& cosa) {
-        QPushButton* pulsante = CreaPulsante(QLatin1String(nome), testo, aiuto, this);
-        connect(pulsante, &QPushButton::clicked, this, cosa);
-        salva_.push_back(pulsante);
-        riga->addWidget(pulsante);
-    };
     for (const VoceSalva& voce : kSalva)
-        aggiungi(voce.nome, tr(voce.testo), Q(TitoloSalvaReport(voce.formato)),
-                 [this, formato = voce.formato] { Salva(formato); });
-    aggiungi("CMBSaveAsFreqTab", tr("Frequency Table…"),
-             tr("The frequencies of the rows, for a further measurement"),
-             [this] { SalvaFreqTab(); });
+        riga->addWidget(CreaUscita(voce.nome, tr(voce.testo), Q(TitoloSalvaReport(voce.formato)),
+                                   [this, formato = voce.formato] { Salva(formato); }));
+    riga->addWidget(CreaUscita("CMBSaveAsFreqTab", tr("Frequency Table…"),
+                               tr("The frequencies of the rows, for a further measurement"),
+                               [this] { SalvaFreqTab(); }));
     riga->addStretch(1);
-    aggiungi("CMBPreview", tr("Preview…"), tr("The pages of the PDF"), [this] { Anteprima(); });
+    return riga;
+}
+
+QLayout* FinestraReport::CreaPiede() {
     CMBContinue_ = CreaPulsante(QStringLiteral("CMBContinue"), tr("Continue"), QString(), this);
     CMBContinue_->hide();
     CMBExit_ = CreaPulsante(QStringLiteral("CMBExit"), tr("Exit"), QString(), this);
     CMBExit_->setProperty(kProprietaRuolo, QStringLiteral("accento"));
     connect(CMBExit_, &QPushButton::clicked, this, &FinestraReport::Esci);
+    auto* riga = new QHBoxLayout;
+    riga->setSpacing(8);
+    riga->addWidget(nota_, 1);
+    riga->addWidget(CreaUscita("CMBPreview", tr("Preview…"), tr("The pages of the PDF"),
+                               [this] { Anteprima(); }));
     riga->addWidget(CMBContinue_);
     riga->addWidget(CMBExit_);
     return riga;
