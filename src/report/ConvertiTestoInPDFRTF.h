@@ -45,8 +45,9 @@ enum class EsitoDocumento {
 /// What went wrong, for a message with the path; empty for `Fatto`.
 std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& richiesta);
 
-/// Writes the document as "Untitled.pdf" ("Untitled.rtf") in `DataRoot` and then puts a copy in the
-/// place of `OutPath`. In the end the files of table and picture are deleted, whatever happened.
+/// Writes the document as "Untitled.pdf" ("Untitled.rtf") in `DataRoot`, or where another run is at
+/// it as "Untitled~1.pdf", and then puts a copy in the place of `OutPath`. In the end the files of
+/// table and picture are deleted, whatever happened.
 EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
                                      const RichiestaDocumento& richiesta);
 

@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kCentimetri = 3;
+
 void CaricaFont(clsPDFCreator& pdf) {
     pdf.LoadFont("Fnt1", "Times New Roman", 0);
     pdf.LoadFont("Fnt2", "Arial", 2);
@@ -27,7 +28,10 @@ bool CaricaLogo(clsPDFCreator& pdf, const Scrivania& s) {
     const bool caricato =
         s.albero.Salva(kLogo, LogoBMP()) && pdf.LoadImgFromBMPFile("Img2", s.albero.Host(kLogo));
     s.albero.Cancella(kLogo);
-    return caricato;
+    if (caricato)
+        return true;
+    const auto pixel = LeggiBMP(LogoBMP()); // another run took the file away, or there is no room
+    return pixel && pdf.LoadImgFromArray("Img2", *pixel);
 }
 
 /// Height over width of the picture, once it is in the document; empty where it could not be read.

@@ -10,9 +10,13 @@
 #include "data/NomiDisco.h"
 #include "records/ImpostazioniReport.h"
 #include "report/CatturaImmagine.h"
+#include "report/LeggiBMP.h"
+#include "report/NomeProprio.h"
 #include "report/ReportHTML.h"
 #include "report/RiassuntoReport.h"
+#include "report/RiduciColori.h"
 #include "report/RigheReport.h"
+#include "report/ScriviBMP.h"
 #include "report/TestoReport.h"
 
 namespace orvane {
@@ -70,12 +74,11 @@ std::vector<std::string> Righe(const std::string& testo) {
 }
 
 std::vector<std::string> RigheTesto(const ReportPronto& report, const OpzioniReport& opzioni,
-                                    const std::string& separatore,
                                     const std::vector<std::string>& davanti) {
     const auto riassunto = opzioni.riassunto ? RigheRiassunto(CalcolaRiassunto(report.fonte))
                                              : std::vector<std::string>{};
-    return TestoReport(report.griglia, report.model, report.fonte.misura, separatore, davanti,
-                       riassunto);
+    return TestoReport(report.griglia, report.model, report.fonte.misura, opzioni.ColumnSeparator,
+                       davanti, riassunto);
 }
 
 bool ScriviTesto(const std::vector<std::string>& righe, const fs::path& percorso) {
@@ -85,20 +88,32 @@ bool ScriviTesto(const std::vector<std::string>& righe, const fs::path& percorso
     return Scrivi(percorso, InAnsi(testo));
 }
 
+/// The picture as "TPI": a BMP of few colours, which is how a document holds it. Where it cannot be
+/// made the file is empty, and the converter says so.
+fs::path SalvaImmagine(const Scrivania& s, const FonteReport& fonte, FabbricaQuadri* fabbrica,
+                       const fs::path& documento) {
+    const fs::path percorso = NomeProprio(fs::path(documento).replace_extension("TPI"));
+    const bool rtf = FormatoReportDaPercorso(documento) == FormatoReport::Rtf;
+    const auto bmp = CatturaImmagineMisura(s, fonte, fabbrica, FormatoImmagine::Bmp, rtf);
+    if (const auto pixel = LeggiBMP(bmp))
+        SalvaFuori(percorso, InBMP(RiduciColori(*pixel)));
+    return percorso;
+}
+
 /// PDF and RTF: the text beside the target as "TPT", the picture as "TPI", and both through the
 /// converter, which takes them away.
 bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,
                     FabbricaQuadri* fabbrica, VistaAttesa& vista, const fs::path& percorso) {
     RichiestaDocumento r = RichiestaDelReport(s, report, opzioni);
-    r.TablePath = fs::path(percorso).replace_extension("TPT");
+    r.TablePath = NomeProprio(fs::path(percorso).replace_extension("TPT"));
     r.OutPath = percorso;
-    if (!ScriviTesto(RigheDelDocumento(report, opzioni), r.TablePath))
+    if (!ScriviTesto(RigheDelDocumento(report, opzioni), r.TablePath)) {
+        std::error_code errore;
+        fs::remove(r.TablePath, errore);
         return Avvisa(s, percorso);
-    const auto bmp = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Bmp,
-                                           FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
-    const fs::path immagine = fs::path(percorso).replace_extension("TPI");
-    if (!bmp.empty() && SalvaFuori(immagine, bmp))
-        r.ImagePath = immagine;
+    }
+    if (fabbrica)
+        r.ImagePath = SalvaImmagine(s, report.fonte, fabbrica, percorso);
     const EsitoDocumento esito = ConvertiTestoInPDFRTF(s, vista, r);
     if (esito != EsitoDocumento::Fatto && esito != EsitoDocumento::Occupato)
         s.ambiente.Mostra({.testo = TestoEsito(esito, r), .icona = Icona::Esclamazione});
@@ -155,26 +170,26 @@ fs::path PercorsoHeader(const AlberoDati& albero, const std::string& misura) {
 RichiestaDocumento RichiestaDelReport(const Scrivania& s, const ReportPronto& report,
                                       const OpzioniReport& opzioni) {
     const MisuraAperta& misura = report.fonte.misura;
+    const auto colonne = static_cast<int>(report.griglia.colonne.size());
+    const bool tante = DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale;
+    const bool orizzontale = opzioni.orizzontale || (tante && !opzioni.verticale);
     RichiestaDocumento r{.HeaderPath = PercorsoHeader(s.albero, misura.nome),
                          .HeaderOn = opzioni.HeaderOn,
                          .Title = misura.nome,
-                         .carattere =
-                             DetCarattereEOrientazione(opzioni.orizzontale, HaDatiMast(misura))};
-    r.carattere.ReportFontSize =
-        DetDimCarattereTabella(static_cast<int>(report.griglia.colonne.size()));
+                         .carattere = DetCarattereEOrientazione(orizzontale, HaDatiMast(misura))};
+    r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
     return r;
 }
 
 std::vector<std::string> RigheDelDocumento(const ReportPronto& report,
                                            const OpzioniReport& opzioni) {
-    // A tab has no width on a sheet; and the header is printed by the layout, ahead of the picture.
-    return RigheTesto(report, opzioni, " ", {});
+    // The header is printed by the layout, ahead of the picture.
+    return RigheTesto(report, opzioni, {});
 }
 
 bool SalvaReportComTesto(const Scrivania& s, const ReportPronto& report,
                          const OpzioniReport& opzioni, const fs::path& percorso) {
-    return ScriviTesto(RigheTesto(report, opzioni, opzioni.ColumnSeparator,
-                                  Righe(TestoHeader(s, report, opzioni))),
+    return ScriviTesto(RigheTesto(report, opzioni, Righe(TestoHeader(s, report, opzioni))),
                        percorso);
 }
 

@@ -21,10 +21,11 @@ std::string TitoloSalvaReport(FormatoReport formato);
 std::string NomeReport(const std::string& misura, FormatoReport formato);
 
 struct OpzioniReport {
-    bool HeaderOn = true;   ///< with the header text, where there is one
-    bool riassunto = false; ///< with the summary ahead of the table
-    bool orizzontale = false;
-    std::string ColumnSeparator = "\t"; ///< of the text
+    bool HeaderOn = true;     ///< with the header text, where there is one
+    bool riassunto = false;   ///< with the summary ahead of the table
+    bool orizzontale = false; ///< PDF and RTF on landscape sheets however few the columns,
+    bool verticale = false;   ///< or upright however many
+    std::string ColumnSeparator = "\t"; ///< of the text; on a sheet a tab is one blank
     FormaCsv csv;
 };
 OpzioniReport OpzioniDaPannello(const EnvRecord& env);

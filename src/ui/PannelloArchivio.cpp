@@ -300,6 +300,8 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
     QStringList righe;
     if (incompiuta)
         righe << tr("Incomplete: its run was cut off");
+    else if (MisuraInCorso(scrivania_.albero, misura.nome))
+        righe << tr("Its run is on");
     const size_t linee = RigheInUso(misura.header.Scan.Righe);
     const QString campioni = QString::number(misura.traccia->size());
     righe << (linee == 1 ? tr("%1 samples in one line").arg(campioni)
