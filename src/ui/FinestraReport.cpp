@@ -1,5 +1,7 @@
 #include "ui/FinestraReport.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScreen>

@@ -1,4 +1,6 @@
 // The controls of the report windows.
+#include <algorithm>
+
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QHBoxLayout>
