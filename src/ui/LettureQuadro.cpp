@@ -47,18 +47,24 @@ public:
     void Titolo(const QString& frequenza, const QString& delta) {
         righe.push_back({frequenza, {}, delta, testo_});
     }
+    /// In the colours of the measure's own layer; the highest of several passes has none.
     void Livelli(const LetturaMarker& lettura, const LetturaDelta* delta) {
+        const size_t proprio = Proprio();
+        const bool c = proprio < contenuto_.strati.size();
         for (const auto& livello : lettura.livelli) {
             const auto d = static_cast<size_t>(livello.detector);
-            if (Mostrato(0, d))
+            if (Mostrato(c ? proprio : 0, d))
                 righe.push_back({QLatin1String(kNomiDetector[d]), Q(livello.testo),
                                  delta ? TestoDelta(*delta, livello.detector) : QString(),
-                                 Colore(0, d)});
+                                 c ? Colore(proprio, d) : testo_});
         }
     }
-    /// What the other measures have at this frequency.
+    /// What the other layers have at this frequency.
     void AltriStrati(double freqMhz, double unitOffset) {
-        for (size_t i = 1; i < contenuto_.strati.size(); ++i) {
+        const size_t proprio = Proprio();
+        for (size_t i = 0; i < contenuto_.strati.size(); ++i) {
+            if (i == proprio)
+                continue;
             const StratoQuadro& strato = contenuto_.strati[i];
             const auto vicino = CampioneVicino(*strato.traccia, freqMhz);
             for (size_t d = 0; vicino && d < kNumDetector; ++d)
@@ -94,6 +100,11 @@ public:
     std::vector<RigaLettura> righe;
 
 private:
+    size_t Proprio() const {
+        return static_cast<size_t>(std::ranges::find(contenuto_.strati, contenuto_.misura.traccia,
+                                                     &StratoQuadro::traccia) -
+                                   contenuto_.strati.begin());
+    }
     bool Mostrato(size_t strato, size_t d) const {
         return strato < contenuto_.strati.size() && contenuto_.strati[strato].detector[d];
     }
