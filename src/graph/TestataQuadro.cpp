@@ -5,7 +5,6 @@
 #include <span>
 
 #include "base/Numeri.h"
-#include "data/NomiTabelle.h"
 #include "graph/RighePicchi.h"
 #include "graph/TinteQuadro.h"
 
@@ -54,8 +53,7 @@ std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const StileQ
         return {};
     std::vector<PezzoTestata> pezzi = {Insegna(verdetto.insieme, TestoGiudizio(verdetto.insieme))};
     for (const VerdettoLimite& v : verdetto.limiti)
-        if (NominaTabella(v.limite))
-            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
+        pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
     return pezzi;
 }
 

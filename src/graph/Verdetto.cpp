@@ -5,6 +5,7 @@
 
 #include "base/Testo.h"
 #include "data/Interpolazione.h"
+#include "data/NomiTabelle.h"
 
 namespace orvane {
 namespace {
@@ -196,7 +197,7 @@ Giudizio Giudica(double deltaDb, double incertezzaDb) {
 Verdetto CalcolaVerdetto(const MisuraAperta& misura, const SetupRecord& setup) {
     Verdetto verdetto;
     for (size_t slot = 0; slot < kLimitiMostrati; ++slot) {
-        if (setup.LimitOn[slot] == 0)
+        if (setup.LimitOn[slot] == 0 || !NominaTabella(setup.LimitName[slot]))
             continue;
         const LimFacRecord& limite = misura.tabelle.slot[kPrimoLimite + slot];
         VerdettoLimite v{.slot = static_cast<int>(slot), .limite = Rifila(setup.LimitName[slot])};

@@ -5,7 +5,6 @@
 
 #include <QColor>
 
-#include "data/NomiTabelle.h"
 #include "graph/Confronto.h"
 #include "records/ColoriGrafico.h"
 #include "records/ImpostazioniReport.h"
@@ -102,9 +101,6 @@ void RegiaMisura::Mostra(const StatoArchivio& aperta, bool tieni) {
         return Togli();
     ContenutoQuadro contenuto = ComponiQuadro(aperta.misura, s_.setup, s_.env);
     AggiungiLimitiRighe(s_, contenuto);
-    // One without a name says nothing; one whose table is gone says that it was not held.
-    std::erase_if(contenuto.verdetto.limiti,
-                  [](const VerdettoLimite& v) { return !NominaTabella(v.limite); });
     contenuto.strati = StratiPropri(aperta);
     std::ranges::move(StratiSopra(aperta), std::back_inserter(contenuto.strati));
     MostraTabellaPicchi(aperta, contenuto);

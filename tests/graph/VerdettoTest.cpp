@@ -76,7 +76,8 @@ TEST(Verdetto, TheWorstSampleOfEachLimitDecides) {
     SetupRecord setup;
     EXPECT_TRUE(CalcolaVerdetto(misura, setup).limiti.empty());
     setup.LimitOn = {1, 1};
-    setup.LimitName[0] = "Mains QP";
+    EXPECT_TRUE(CalcolaVerdetto(misura, setup).limiti.empty()) << "on, but none is named";
+    setup.LimitName = {"Mains QP", "Gone"};
     const Verdetto verdetto = CalcolaVerdetto(misura, setup);
     ASSERT_EQ(verdetto.limiti.size(), 2u);
     const VerdettoLimite& v = verdetto.limiti[0];
