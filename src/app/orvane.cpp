@@ -16,6 +16,7 @@
 #include "base/Versione.h"
 #include "link/LogTraffico.h"
 #include "platform/AmbienteTerminale.h"
+#include "platform/PresaFile.h"
 #include "platform/Sincronizza.h"
 #include "platform/Tastiera.h"
 #include "verbs/Verbo.h"
@@ -102,7 +103,8 @@ Opzioni LeggiRiga(const std::vector<std::string>& parole) {
 int Esegui(const Opzioni& o, const VoceVerbo& verbo, const std::string& rigaComando) {
     SorvegliaLink sorveglia;
     AmbienteTerminale ambiente(sorveglia, rigaComando, o.rispostaSi);
-    Scrivania scrivania{.ambiente = ambiente, .albero = AlberoDati(o.dati, Sincronizza)};
+    Scrivania scrivania{.ambiente = ambiente,
+                        .albero = AlberoDati(o.dati, Sincronizza, {PrendiFile, FilePreso})};
     StatoProtocollo stato;
     LogTraffico log(ambiente, o.dati);
     Collegamento collegamento(ambiente, sorveglia, o.dati);

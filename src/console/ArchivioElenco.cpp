@@ -5,6 +5,7 @@
 #include "console/Archivio.h"
 #include "data/Avvisi.h"
 #include "data/Cancellazioni.h"
+#include "data/Incompiute.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
 #include "data/Rinomine.h"
@@ -77,6 +78,8 @@ bool RinominaMisura(Scrivania& s, const std::string& da, const std::string& a) {
         return rifiuta("Not valid name\r" + a);
     if (s.albero.EsisteCartella(CartellaMisura(a)))
         return rifiuta("Sweep " + a + " already exists.");
+    if (MisuraInCorso(s.albero, da))
+        return rifiuta("Sweep " + da + " is being measured");
     CatenaRinomine catena(s.albero);
     if (!catena.RinominaMisura(da, a))
         return AvvisaScrittura(s, catena.Guasto());

@@ -42,12 +42,8 @@ void AvviaDati(Scrivania& s, LinkPort& link, ScanRecord& scan) {
 }
 
 void AvviaInLettura(Scrivania& s, LinkPort& link, bool linkScelto) {
-    s.env = {};
-    ApplicaEnv(s.env, false);
-    ControllaParStand(s.env); // names the panels
+    CaricaEnvCheCe(s);
     s.setup = SetupDefault();
-    if (s.albero.Esiste(kPannelloEPN))
-        CaricaPanelEPN(s, kPannelloEPN);
     if (s.albero.Esiste(kPannelloEAM))
         CaricaPanelEAM(s, kPannelloEAM);
     if (linkScelto)

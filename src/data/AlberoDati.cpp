@@ -80,7 +80,8 @@ std::optional<std::vector<uint8_t>> LeggiTutto(std::FILE* file, size_t quanti) {
 
 } // namespace
 
-AlberoDati::AlberoDati(fs::path radice, Sincronia sincronia) : sincronia_(std::move(sincronia)) {
+AlberoDati::AlberoDati(fs::path radice, Sincronia sincronia, PreseFile prese)
+    : sincronia_(std::move(sincronia)), prese_(std::move(prese)) {
     std::error_code errore;
     radice_ = fs::absolute(radice, errore).lexically_normal();
     dataRoot_ = ConBackslash(Utf8DaPath(radice_));
@@ -234,6 +235,14 @@ bool AlberoDati::Rinomina(std::string_view da, std::string_view a) const {
     if (origine.parent_path() != meta.parent_path())
         Sincronizza(origine.parent_path());
     return true;
+}
+
+Presa AlberoDati::Prendi(std::string_view percorso) const {
+    return prese_.prendi && Esiste(percorso) ? prese_.prendi(Host(percorso)) : nullptr;
+}
+
+bool AlberoDati::InMano(std::string_view percorso) const {
+    return prese_.presa && Esiste(percorso) && prese_.presa(Host(percorso));
 }
 
 std::vector<std::string> AlberoDati::ElencaFile(std::string_view cartella,

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,11 +20,23 @@ class FileProvvisorio;
 /// the machine could not.
 using Sincronia = std::function<bool(const std::filesystem::path&)>;
 
+/// A file that is held until this goes, and no longer than the process lives.
+using Presa = std::shared_ptr<void>;
+
+/// How the machine tells consoles beside each other who is at work on a file.
+struct PreseFile {
+    /// Holds a file; null where another holds it, or the machine cannot.
+    std::function<Presa(const std::filesystem::path&)> prendi;
+    /// Whether anyone holds it, this process too.
+    std::function<bool(const std::filesystem::path&)> presa;
+};
+
 class AlberoDati {
 public:
     /// `radice`: the host's directory. `DataRoot` is its text with a trailing backslash. Without
-    /// `sincronia` the system decides when bytes reach the disk.
-    explicit AlberoDati(std::filesystem::path radice, Sincronia sincronia = {});
+    /// `sincronia` the system decides when bytes reach the disk; without `prese` no file is held.
+    explicit AlberoDati(std::filesystem::path radice, Sincronia sincronia = {},
+                        PreseFile prese = {});
 
     const std::string& DataRoot() const { return dataRoot_; }
     const std::filesystem::path& Radice() const { return radice_; }
@@ -61,6 +74,10 @@ public:
     /// A file or a directory, inside the tree. False when `a` exists in some case, or on failure.
     bool Rinomina(std::string_view da, std::string_view a) const;
 
+    /// Holds a file that is there, and whether anyone does: `PreseFile`.
+    Presa Prendi(std::string_view percorso) const;
+    bool InMano(std::string_view percorso) const;
+
     /// Names in a directory, sorted without regard to case; files with this extension (with its
     /// case ignored, "" for all), or the directories.
     std::vector<std::string> ElencaFile(std::string_view cartella,
@@ -80,6 +97,7 @@ private:
     std::filesystem::path radice_;
     std::string dataRoot_;
     Sincronia sincronia_;
+    PreseFile prese_;
 };
 
 } // namespace orvane

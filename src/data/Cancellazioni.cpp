@@ -5,6 +5,7 @@
 
 #include "base/Percorsi.h"
 #include "data/Cartelle.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
@@ -52,6 +53,8 @@ template <size_t N> bool InPosto(const std::array<std::string, N>& posti, const 
 bool CancellaMisura(Scrivania& s, const std::string& nome) {
     if (!NomeMisuraAmmesso(nome) || !Conferma(s, nome))
         return false;
+    if (MisuraInCorso(s.albero, nome))
+        return Rifiuta(s);
     const std::string cartella = CartellaMisura(nome);
     SvuotaECancella(s.albero, CartellaSubMisure(nome));
     SvuotaECancella(s.albero, cartella + std::string(cartella::kFactors));

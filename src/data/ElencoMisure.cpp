@@ -8,6 +8,7 @@
 #include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
 #include "data/FileTesto.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 
@@ -45,7 +46,7 @@ struct FileMisura {
     fs::file_time_type ultima = fs::file_time_type::min();
     long long passi = 0;
     std::vector<std::string> header; ///< names of the KSH files
-    bool incompiuta = false;
+    bool segnata = false;            ///< as under way
     bool SenzaTracce() const { return ultima < prima; }
 };
 
@@ -75,7 +76,7 @@ FileMisura RaccogliFile(const fs::path& cartella) {
         else if (chiave.ends_with(".KSH"))
             file.header.push_back(nome);
         else if (chiave == kSegnoCorsa)
-            file.incompiuta = true;
+            file.segnata = true;
     }
     return file;
 }
@@ -144,11 +145,13 @@ DateMisura DataMisura(const Scrivania& s, std::string_view misura) {
 VoceArchivio LeggiVoce(const Scrivania& s, const std::string& nome) {
     const FileMisura file = FileDellaMisura(s, nome);
     const DateMisura date = Date(file);
+    const bool inCorso = file.segnata && MisuraInCorso(s.albero, nome);
     VoceArchivio voce{.nome = nome,
                       .prima = date.prima,
                       .ultima = date.ultima,
                       .passi = file.passi,
-                      .incompiuta = file.incompiuta};
+                      .incompiuta = file.segnata && !inCorso,
+                      .inCorso = inCorso};
     if (const auto header = LeggiHeader(s, file, nome)) {
         voce.leggibile = true;
         RiassumiTabella(header->Scan.Righe, voce);

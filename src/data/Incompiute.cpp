@@ -9,16 +9,24 @@ std::string PercorsoSegnoCorsa(std::string_view misura) {
     return CartellaMisura(misura) + "Running.RUN";
 }
 
-bool SegnaCorsa(const AlberoDati& albero, std::string_view misura) {
-    return albero.Salva(PercorsoSegnoCorsa(misura), {});
+std::optional<Presa> SegnaCorsa(const AlberoDati& albero, std::string_view misura) {
+    const std::string segno = PercorsoSegnoCorsa(misura);
+    if (!albero.Salva(segno, {}))
+        return std::nullopt;
+    return albero.Prendi(segno);
 }
 
 bool TogliSegnoCorsa(const AlberoDati& albero, std::string_view misura) {
     return albero.Cancella(PercorsoSegnoCorsa(misura));
 }
 
+bool MisuraInCorso(const AlberoDati& albero, std::string_view misura) {
+    return albero.InMano(PercorsoSegnoCorsa(misura));
+}
+
 bool MisuraIncompiuta(const AlberoDati& albero, std::string_view misura) {
-    return albero.Esiste(PercorsoSegnoCorsa(misura));
+    const std::string segno = PercorsoSegnoCorsa(misura);
+    return albero.Esiste(segno) && !albero.InMano(segno);
 }
 
 std::vector<std::string> MisureIncompiute(const AlberoDati& albero) {

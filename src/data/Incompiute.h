@@ -1,7 +1,9 @@
 // The mark of a run that has not come to its end: a small file in the measure's directory, which
-// only a crash or a power cut leaves behind.
+// the run holds while it lasts. Marked but held by nobody, the run was cut off by a crash or a
+// power cut.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,16 +12,20 @@
 
 namespace orvane {
 
-/// "Sweep\<misura>\Running.RUN"
+/// "Running.RUN", in the measure's directory.
 std::string PercorsoSegnoCorsa(std::string_view misura);
 
-/// Marks a measure as under way; false where the file cannot be written.
-bool SegnaCorsa(const AlberoDati& albero, std::string_view misura);
+/// Marks a measure as under way, for as long as the result lives; empty where the file cannot be
+/// written. Where the machine cannot hold it the run looks cut off until its end.
+std::optional<Presa> SegnaCorsa(const AlberoDati& albero, std::string_view misura);
 /// Takes the mark away: the run has ended, or the user has seen that it did not.
 bool TogliSegnoCorsa(const AlberoDati& albero, std::string_view misura);
 
+/// Whether a run has the measure in hand, in this process or another.
+bool MisuraInCorso(const AlberoDati& albero, std::string_view misura);
+/// Whether its run was cut off.
 bool MisuraIncompiuta(const AlberoDati& albero, std::string_view misura);
-/// Names of the measures that bear the mark. While a run is on its own is among them.
+/// Names of the measures whose run was cut off.
 std::vector<std::string> MisureIncompiute(const AlberoDati& albero);
 
 } // namespace orvane

@@ -10,6 +10,7 @@
 #include "data/Cartelle.h"
 #include "data/ControllaRecord.h"
 #include "data/FileRecord.h"
+#include "data/Incompiute.h"
 #include "data/NomiDisco.h"
 
 namespace orvane {
@@ -146,8 +147,10 @@ void PreparaCartellaMisura(Scrivania& s, std::string_view misura) {
     if (!MisuraScrivibile(misura))
         return;
     const std::string cartella = CartellaMisura(misura);
+    const std::string segno = PercorsoSegnoCorsa(misura);
     for (const std::string& file : s.albero.ElencaFile(cartella, ""))
-        s.albero.Cancella(cartella + file);
+        if (cartella + file != segno)
+            s.albero.Cancella(cartella + file);
     RifaiCartella(s, misura, cartella::kSubMeasure);
 }
 

@@ -41,7 +41,8 @@ bool SalvaHeaderSweep(Scrivania& s, std::string_view percorso, const ScanRecord&
 bool CaricaHeaderSweep(Scrivania& s, std::string_view percorso, ScanRecord& scan,
                        SetupRecord& setup);
 
-/// Empties the measure's directory and makes it and "Sub_Measure\" afresh.
+/// Empties the measure's directory, but for the mark of its run, and makes it and "Sub_Measure\"
+/// afresh.
 void PreparaCartellaMisura(Scrivania& s, std::string_view misura);
 /// Copies of the limits and factors in use into the measure.
 void CopiaFileLimSweep(Scrivania& s, std::string_view misura, const ScanTable& tabella);
@@ -63,7 +64,8 @@ struct VoceArchivio {
     int righe = 0;      ///< scan lines in use
     long long passi = 0;
     bool leggibile = false;  ///< the header is there and whole
-    bool incompiuta = false; ///< its run was cut off, or is on
+    bool incompiuta = false; ///< its run was cut off
+    bool inCorso = false;    ///< its run is on, in this process or another
     std::string detector;    ///< letters of all detectors in use
 };
 std::vector<VoceArchivio> ElencaMisure(const Scrivania& s);

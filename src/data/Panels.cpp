@@ -14,12 +14,15 @@ namespace {
 
 constexpr std::string_view kFileSetup = "Orvane Console.DAT";
 
-void ImpostaEnvDefault(EnvRecord& env) {
+/// The record of a console that has no EPN yet.
+EnvRecord EnvDefault() {
+    EnvRecord env;
     env.LinkKind = 1;
     env.LinkPort = 1;
     env.WaterfallScale = {0, 400};
     ApplicaEnv(env, false);
     ControllaParStand(env); // names the panels
+    return env;
 }
 
 /// An older release kept the Manual level as an integer; that field stays as it is.
@@ -56,7 +59,7 @@ std::string PercorsoPannello(std::string_view nome, std::string_view estensione)
 bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
     s.albero.AssicuraCartella(cartella::kPanels);
     if (!s.albero.Esiste(percorso)) {
-        ImpostaEnvDefault(s.env);
+        s.env = EnvDefault();
         return SalvaPanelEPN(s, percorso);
     }
     const bool letto = LeggiFileRecord(s, percorso, s.env);
@@ -66,10 +69,9 @@ bool CaricaPanelEPN(Scrivania& s, std::string_view percorso) {
 }
 
 void CaricaEnvCheCe(Scrivania& s) {
+    s.env = EnvDefault();
     if (s.albero.Esiste(kPannelloEPN))
         CaricaPanelEPN(s, kPannelloEPN);
-    else
-        ImpostaEnvDefault(s.env);
 }
 
 bool SalvaPanelEPN(Scrivania& s, std::string_view percorso) {

@@ -1,6 +1,7 @@
 #include "data/Rinomine.h"
 
 #include "base/Percorsi.h"
+#include "data/Incompiute.h"
 #include "data/Misure.h"
 #include "data/NomiDisco.h"
 
@@ -35,6 +36,10 @@ bool CatenaRinomine::Rinomina(const std::string& da, const std::string& a) {
 
 bool CatenaRinomine::RinominaMisura(const std::string& da, const std::string& a) {
     const std::string cartella = CartellaMisura(da);
+    if (MisuraInCorso(albero_, da)) {
+        guasto_ = cartella;
+        return false;
+    }
     for (const std::string& file : albero_.ElencaFile(cartella, "")) {
         const std::string nuovo = NomeNuovo(file, da, a);
         if (!nuovo.empty() && !Rinomina(cartella + file, cartella + nuovo))

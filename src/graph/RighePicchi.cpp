@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::string_view kMhz = " MHz";
 constexpr const char* kNiente = "---";
-constexpr std::array<const char*, kNumDetector> kSigle = {"PK", "QP", "RMS", "AV", "RMS-AV",
-                                                          "C-AV"};
+constexpr std::array<const char*, kNumDetector> kSigle = {"PK", "QP",     "RMS",
+                                                          "AV", "RMS-AV", "C-AV"};
 
 /// A limit that is on, with the detector held against it.
 struct LimiteAcceso {

@@ -31,6 +31,11 @@ std::string SuUnaRiga(std::string_view testo) {
     return Rifila(riga);
 }
 
+/// A title may bear what the text is about, such as the path of a file.
+std::string ConTitolo(const Riquadro& riquadro) {
+    return riquadro.titolo.empty() ? riquadro.testo : riquadro.titolo + ": " + riquadro.testo;
+}
+
 /// The answer of a yes and the careful one, by the buttons of a box.
 struct VoceRisposte {
     Pulsanti pulsanti;
@@ -170,7 +175,7 @@ Risposta AmbienteTerminale::Domanda(Pulsanti pulsanti, const std::string& testo)
 }
 
 Risposta AmbienteTerminale::Mostra(const Riquadro& riquadro) {
-    const std::string testo = SuUnaRiga(riquadro.testo);
+    const std::string testo = SuUnaRiga(ConTitolo(riquadro));
     if (primaDelRiquadro)
         primaDelRiquadro();
     const Risposta risposta =

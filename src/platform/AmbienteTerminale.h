@@ -26,9 +26,9 @@ public:
     double Adesso() const override;
     OraCalendario Calendario() const override;
     void ElaboraEventi(double alPiuS, Veglia veglia) override;
-    /// Prints "[box] TEXT -> ANSWER" on standard error, line ends of the text as blanks. Without a
-    /// chosen answer a question, and what the operator has to do, waits for a line of `tastiera`;
-    /// Ctrl-C gives the careful answer.
+    /// Prints "[box] TEXT -> ANSWER" on standard error, line ends of the text as blanks; of a box
+    /// with a title, "TITLE: TEXT". Without a chosen answer a question, and what the operator has
+    /// to do, waits for a line of `tastiera`; Ctrl-C gives the careful answer.
     Risposta Mostra(const Riquadro& riquadro) override;
     const std::string& RigaComando() const override { return rigaComando_; }
     void SegnalaDifetto(std::string_view testo) override;

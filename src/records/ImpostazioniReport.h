@@ -14,6 +14,7 @@ inline constexpr size_t kTipoAuto =
     3; ///< report written by itself: 0 one detector, 1 two, 2 two full
 inline constexpr size_t kSeparatoreCsv = 4; ///< 0 comma, 1 semicolon, 2 tab
 inline constexpr size_t kDecimaleCsv = 5;   ///< 0 point, 1 comma
+inline constexpr size_t kOrizzontale = 6;   ///< 1: PDF on landscape sheets
 } // namespace voce_report
 
 inline constexpr int kMaxPicchi = 100;

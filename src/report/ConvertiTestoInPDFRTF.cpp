@@ -9,6 +9,7 @@
 #include "data/NomiDisco.h"
 #include "report/CreaFilePDF.h"
 #include "report/CreaFileRTF.h"
+#include "report/NomeProprio.h"
 
 namespace orvane {
 namespace {
@@ -41,16 +42,10 @@ bool Riuscito(EsitoDocumento esito) {
     return esito == EsitoDocumento::Fatto || esito == EsitoDocumento::SenzaImmagine;
 }
 
-/// Where the document is made first: never the target itself, which a failure would tear.
-fs::path Provvisorio(const Scrivania& s, const fs::path& scelto, bool pdf) {
-    const std::string nome = pdf ? "Untitled.pdf" : "Untitled.rtf";
-    std::error_code errore;
-    const bool proprioQuello = fs::equivalent(scelto, s.albero.Radice() / nome, errore);
-    return s.albero.Radice() / (proprioQuello ? "~" + nome : nome);
-}
-
 EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool pdf) {
-    const CancellaAllaFine resto{Provvisorio(s, r.OutPath, pdf)};
+    // Never the target itself, which a failure would tear.
+    const CancellaAllaFine resto{
+        NomeProprio(s.albero.Radice() / (pdf ? "Untitled.pdf" : "Untitled.rtf"), r.OutPath)};
     const EsitoDocumento esito =
         pdf ? CreaFilePDF(s, r, resto.percorso) : CreaFileRTF(r, resto.percorso);
     if (!Riuscito(esito))
@@ -60,18 +55,22 @@ EsitoDocumento CreaECopia(const Scrivania& s, const RichiestaDocumento& r, bool 
 
 } // namespace
 
+std::string TestoAttesa(const fs::path& file) {
+    return "Creating File " + Utf8DaPath(file.filename()) + "...\rPlease wait";
+}
+
 std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& r) {
     switch (esito) {
     case EsitoDocumento::Fatto:
         return {};
     case EsitoDocumento::SenzaImmagine:
-        return "Failed loading " + Utf8DaPath(r.ImagePath) + "\rThe report has no picture";
+        return "Failed loading" + Utf8DaPath(r.ImagePath) + "\rThe report has no picture";
     case EsitoDocumento::AltraEstensione:
         return Utf8DaPath(r.OutPath) + " is neither PDF nor RTF";
     case EsitoDocumento::Occupato:
         return Utf8DaPath(r.OutPath) + " Is already open";
     case EsitoDocumento::TabellaIllegibile:
-        return "Failed loading " + Utf8DaPath(r.TablePath);
+        return "Failed loading" + Utf8DaPath(r.TablePath);
     case EsitoDocumento::NonScritto:
         break;
     }
@@ -88,7 +87,7 @@ EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
     fs::path scelto = r.OutPath;
     if (pdf && !ControllaFilePDFAperto(s.ambiente, scelto))
         return EsitoDocumento::Occupato;
-    vista.MostraAttesa("Creating File " + Utf8DaPath(r.OutPath.filename()) + "...\rPlease wait");
+    vista.MostraAttesa(TestoAttesa(r.OutPath));
     s.ambiente.ElaboraEventi(0, Veglia::Eventi); // so that it is drawn
     const EsitoDocumento esito = CreaECopia(s, r, pdf);
     vista.ChiudiAttesa();

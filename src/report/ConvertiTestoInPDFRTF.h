@@ -17,6 +17,9 @@ struct VistaAttesa {
     virtual void ChiudiAttesa() = 0;
 };
 
+/// "Creating File " and the name of the file, "..." and "Please wait" behind it.
+std::string TestoAttesa(const std::filesystem::path& file);
+
 /// Paths are the host's; texts in UTF-8.
 struct RichiestaDocumento {
     std::filesystem::path TablePath = {};  ///< "TPT": the report's lines, in Windows-1252
@@ -42,8 +45,9 @@ enum class EsitoDocumento {
 /// What went wrong, for a message with the path; empty for `Fatto`.
 std::string TestoEsito(EsitoDocumento esito, const RichiestaDocumento& richiesta);
 
-/// Writes the document as "Untitled.pdf" ("Untitled.rtf") in `DataRoot` and then puts a copy in the
-/// place of `OutPath`. In the end the files of table and picture are deleted, whatever happened.
+/// Writes the document as "Untitled.pdf" ("Untitled.rtf") in `DataRoot`, or where another run is at
+/// it as "Untitled~1.pdf", and then puts a copy in the place of `OutPath`. In the end the files of
+/// table and picture are deleted, whatever happened.
 EsitoDocumento ConvertiTestoInPDFRTF(const Scrivania& s, VistaAttesa& vista,
                                      const RichiestaDocumento& richiesta);
 

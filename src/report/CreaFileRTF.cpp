@@ -22,6 +22,7 @@ struct FoglioRTF {
     std::string_view verso;
 };
 constexpr int kMargine = 500;
+constexpr double kPassoTab = 8 * 0.6 * 20; ///< eight characters, for each point of their size
 constexpr FoglioRTF kVerticale = {11906, 16838, 10205, 14740, ""};
 constexpr FoglioRTF kOrizzontale = {16838, 11906, 15024, 10000, "\\landscape"};
 
@@ -71,7 +72,8 @@ std::string Apertura(const RichiestaDocumento& r) {
            "Courier New;}}\r\n{\\info{\\title " +
            EscapeRTF(titolo) + "}}\r\n\\paperw" + TestoIntero(foglio.larghezza) + "\\paperh" +
            TestoIntero(foglio.altezza) + std::string(foglio.verso) + "\\margl" + margine +
-           "\\margr" + margine + "\\margt" + margine + "\\margb" + margine +
+           "\\margr" + margine + "\\margt" + margine + "\\margb" + margine + "\\deftab" +
+           TestoIntero(static_cast<int>(r.carattere.ReportFontSize * kPassoTab)) +
            "\r\n\\pard\\plain\\f0\\fs" +
            TestoIntero(static_cast<int>(r.carattere.ReportFontSize * 2)) + "\r\n";
 }

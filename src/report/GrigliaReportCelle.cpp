@@ -107,7 +107,7 @@ void RiempiGriglia(GrigliaReport& griglia, ReportModel& model, const std::vector
                    Ambiente& ambiente, const AvanzaReport& avanza, Metti metti) {
     double massima = 0;
     for (const Riga& riga : righe)
-        massima = std::max(massima, riga.Freq);
+        massima = std::max(massima, FrequenzaRep(riga.Freq));
     griglia.righe.clear();
     model.ReportCompiling = true;
     Passo passo(ambiente, model, avanza, righe.size());

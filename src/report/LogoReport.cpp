@@ -1,7 +1,8 @@
 #include "report/LogoReport.h"
 
-#include <array>
 #include <cmath>
+
+#include "report/ScriviBMP.h"
 
 namespace orvane {
 namespace {
@@ -11,14 +12,11 @@ constexpr int kAltezza = 160;
 constexpr int kCima = 72;    ///< rows that are drawn, from the foot
 constexpr int kLimite1 = 60; ///< rows of a limit's two steps
 constexpr int kLimite2 = 44;
-constexpr uint32_t kTestata = 14 + 40 + 16 * 4;
 
 enum Tinta : uint8_t { Bianco, Blu, Celeste, Rosso };
-struct Colore {
-    uint8_t blu, verde, rosso;
-};
-constexpr std::array<Colore, 4> kColori = {
-    {{255, 255, 255}, {110, 60, 20}, {235, 205, 170}, {40, 50, 200}}};
+/// Red, green, blue of each.
+constexpr std::array<uint8_t, 12> kColori = {255, 255, 255, 20,  60, 110,
+                                             170, 205, 235, 200, 50, 40};
 
 /// A spectrum: two peaks over a floor.
 double Spettro(int x) {
@@ -42,31 +40,16 @@ Tinta Punto(int x, int y) {
     return y < livello ? Celeste : Bianco;
 }
 
-void Accoda(std::vector<uint8_t>& byte, uint32_t valore, int quanti) {
-    for (int i = 0; i < quanti; ++i, valore >>= 8)
-        byte.push_back(static_cast<uint8_t>(valore & 0xFF));
-}
-
 } // namespace
 
 std::vector<uint8_t> LogoBMP() {
-    constexpr uint32_t kPixel = kLarghezza / 2 * kAltezza;
-    std::vector<uint8_t> byte = {'B', 'M'};
-    for (const uint32_t campo :
-         {kTestata + kPixel, 0u, kTestata, 40u, uint32_t{kLarghezza}, uint32_t{kAltezza}})
-        Accoda(byte, campo, 4);
-    Accoda(byte, 1, 2);
-    Accoda(byte, 4, 2);
-    for (const uint32_t campo : {0u, kPixel, 11811u, 11811u, 16u, 0u}) // 300 pixels an inch
-        Accoda(byte, campo, 4);
-    for (size_t i = 0; i < 16; ++i) {
-        const Colore colore = i < kColori.size() ? kColori[i] : Colore{};
-        byte.insert(byte.end(), {colore.blu, colore.verde, colore.rosso, 0});
-    }
-    for (int y = 0; y < kAltezza; ++y)
+    PixelPdf pixel{.larghezza = kLarghezza, .altezza = kAltezza, .bit = 4};
+    for (int y = kAltezza; y-- > 0;)
         for (int x = 0; x < kLarghezza; x += 2)
-            byte.push_back(static_cast<uint8_t>(Punto(x, y) << 4 | Punto(x + 1, y)));
-    return byte;
+            pixel.dati.push_back(static_cast<uint8_t>(Punto(x, y) << 4 | Punto(x + 1, y)));
+    pixel.paletta.assign(kColori.begin(), kColori.end());
+    pixel.paletta.resize(16 * 3);
+    return InBMP(pixel);
 }
 
 } // namespace orvane

@@ -13,15 +13,14 @@ h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
 p { margin: 0; }
 pre { font: 13px/1.4 monospace; }
 figure { margin: 1rem 0; }
-img { max-width: 100%; height: auto; border: 1px solid #c8ccd2; }
+img { box-sizing: border-box; max-width: 100%; height: auto; border: 1px solid #c8ccd2; }
 table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
 th, td { padding: .25rem .75rem; border-bottom: 1px solid #dde0e4; text-align: right; }
 th { vertical-align: bottom; background: #f2f4f6; }
 td.text, th.text { text-align: left; }
-th button { font: inherit; color: inherit; background: none; border: 0; padding: 0; cursor: pointer;
-  text-align: inherit; }
-th[aria-sort=ascending] button::after { content: " \25B2"; }
-th[aria-sort=descending] button::after { content: " \25BC"; }
+th [role=button] { cursor: pointer; }
+th[aria-sort=ascending] [role=button]::after { content: " \25B2"; }
+th[aria-sort=descending] [role=button]::after { content: " \25BC"; }
 td.over { color: #a11212; font-weight: 600; }
 .verdict { display: inline-block; padding: .1rem .6rem; border: 2px solid; border-radius: .3rem;
   font-weight: 700; }
@@ -30,15 +29,19 @@ td.over { color: #a11212; font-weight: 600; }
   body { margin: 0; max-width: none; font-size: 10pt; }
   .summary, figure { break-inside: avoid; }
   .summary { break-after: page; }
+  th, td { padding: .15rem .4rem; }
   thead { display: table-header-group; }
   tr { break-inside: avoid; }
-  th button::after { content: none !important; }
+  th [role=button]::after { content: none !important; }
 }
 )";
 
 /// Numbers by value, up and down in turn; what has no value stays last either way.
 inline constexpr std::string_view kOrdinaHtml = R"(
 document.querySelectorAll("#rows th").forEach(function (head, column) {
+  head.addEventListener("keydown", function (event) {
+    if (event.key === "Enter" || event.key === " ") { event.preventDefault(); head.click(); }
+  });
   head.addEventListener("click", function () {
     var down = head.getAttribute("aria-sort") === "ascending";
     var body = document.querySelector("#rows tbody");

@@ -70,7 +70,8 @@ std::string Testa(const ColonnaReport& colonna) {
         testo += "<br>" + TestoHtml(colonna.nome);
     if (!colonna.unita.empty())
         testo += "<br>[" + TestoHtml(colonna.unita) + "]";
-    return "<th scope=\"col\"><button type=\"button\">" + testo + "</button></th>";
+    // No button element: what one holds is missing where a printer repeats the head.
+    return "<th scope=\"col\"><span role=\"button\" tabindex=\"0\">" + testo + "</span></th>";
 }
 
 bool OltreLimite(const ColonnaReport& colonna, const std::string& cella) {
@@ -142,7 +143,8 @@ std::string ReportHtml(const GrigliaReport& griglia, const ReportModel& model,
                        Elemento("title", "Report " + misura.nome) + "\n<style>" +
                        std::string(kStileHtml) + "</style>\n</head>\n<body>\n";
     if (!parte.intestazione.empty())
-        html += Elemento("pre", parte.intestazione) + "\n";
+        html +=
+            Elemento("pre", "\n" + parte.intestazione) + "\n"; // its first line end is not shown
     html += Elemento("h1", TitoloReport(misura)) + "\n";
     for (const std::string& riga : RigheDati(model, misura))
         html += Elemento("p", riga) + "\n";

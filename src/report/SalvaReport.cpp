@@ -10,9 +10,13 @@
 #include "data/NomiDisco.h"
 #include "records/ImpostazioniReport.h"
 #include "report/CatturaImmagine.h"
+#include "report/LeggiBMP.h"
+#include "report/NomeProprio.h"
 #include "report/ReportHTML.h"
 #include "report/RiassuntoReport.h"
+#include "report/RiduciColori.h"
 #include "report/RigheReport.h"
+#include "report/ScriviBMP.h"
 #include "report/TestoReport.h"
 
 namespace orvane {
@@ -69,40 +73,47 @@ std::vector<std::string> Righe(const std::string& testo) {
     return righe;
 }
 
-bool ScriviTesto(const ReportPronto& report, const OpzioniReport& opzioni,
-                 const std::string& separatore, const std::vector<std::string>& davanti,
-                 const fs::path& percorso) {
+std::vector<std::string> RigheTesto(const ReportPronto& report, const OpzioniReport& opzioni,
+                                    const std::vector<std::string>& davanti) {
     const auto riassunto = opzioni.riassunto ? RigheRiassunto(CalcolaRiassunto(report.fonte))
                                              : std::vector<std::string>{};
+    return TestoReport(report.griglia, report.model, report.fonte.misura, opzioni.ColumnSeparator,
+                       davanti, riassunto);
+}
+
+bool ScriviTesto(const std::vector<std::string>& righe, const fs::path& percorso) {
     std::string testo;
-    for (const std::string& riga : TestoReport(report.griglia, report.model, report.fonte.misura,
-                                               separatore, davanti, riassunto))
+    for (const std::string& riga : righe)
         testo += riga + "\r\n";
     return Scrivi(percorso, InAnsi(testo));
+}
+
+/// The picture as "TPI": a BMP of few colours, which is how a document holds it. Where it cannot be
+/// made the file is empty, and the converter says so.
+fs::path SalvaImmagine(const Scrivania& s, const FonteReport& fonte, FabbricaQuadri* fabbrica,
+                       const fs::path& documento) {
+    const fs::path percorso = NomeProprio(fs::path(documento).replace_extension("TPI"));
+    const bool rtf = FormatoReportDaPercorso(documento) == FormatoReport::Rtf;
+    const auto bmp = CatturaImmagineMisura(s, fonte, fabbrica, FormatoImmagine::Bmp, rtf);
+    if (const auto pixel = LeggiBMP(bmp))
+        SalvaFuori(percorso, InBMP(RiduciColori(*pixel)));
+    return percorso;
 }
 
 /// PDF and RTF: the text beside the target as "TPT", the picture as "TPI", and both through the
 /// converter, which takes them away.
 bool SalvaDocumento(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,
                     FabbricaQuadri* fabbrica, VistaAttesa& vista, const fs::path& percorso) {
-    const MisuraAperta& misura = report.fonte.misura;
-    const auto colonne = static_cast<int>(report.griglia.colonne.size());
-    RichiestaDocumento r{.TablePath = fs::path(percorso).replace_extension("TPT"),
-                         .HeaderPath = PercorsoHeader(s.albero, misura.nome),
-                         .HeaderOn = opzioni.HeaderOn,
-                         .Title = misura.nome,
-                         .carattere =
-                             DetCarattereEOrientazione(opzioni.orizzontale, HaDatiMast(misura)),
-                         .OutPath = percorso};
-    r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
-    // A tab has no width on a sheet; and the header is printed by the layout, ahead of the picture.
-    if (!ScriviTesto(report, opzioni, " ", {}, r.TablePath))
+    RichiestaDocumento r = RichiestaDelReport(s, report, opzioni);
+    r.TablePath = NomeProprio(fs::path(percorso).replace_extension("TPT"));
+    r.OutPath = percorso;
+    if (!ScriviTesto(RigheDelDocumento(report, opzioni), r.TablePath)) {
+        std::error_code errore;
+        fs::remove(r.TablePath, errore);
         return Avvisa(s, percorso);
-    const auto bmp = CatturaImmagineMisura(s, report.fonte, fabbrica, FormatoImmagine::Bmp,
-                                           FormatoReportDaPercorso(percorso) == FormatoReport::Rtf);
-    const fs::path immagine = fs::path(percorso).replace_extension("TPI");
-    if (!bmp.empty() && SalvaFuori(immagine, bmp))
-        r.ImagePath = immagine;
+    }
+    if (fabbrica)
+        r.ImagePath = SalvaImmagine(s, report.fonte, fabbrica, percorso);
     const EsitoDocumento esito = ConvertiTestoInPDFRTF(s, vista, r);
     if (esito != EsitoDocumento::Fatto && esito != EsitoDocumento::Occupato)
         s.ambiente.Mostra({.testo = TestoEsito(esito, r), .icona = Icona::Esclamazione});
@@ -145,6 +156,7 @@ OpzioniReport OpzioniDaPannello(const EnvRecord& env) {
     return {
         .HeaderOn = voce(voce_report::kIntestazione) != 1,
         .riassunto = voce(voce_report::kRiassunto) == 1,
+        .orizzontale = voce(voce_report::kOrizzontale) == 1,
         .ColumnSeparator = ColumnSeparator(env.ExportMode),
         .csv = {.separatore = kSeparatoriCsv[separatore < kSeparatoriCsv.size() ? separatore : 0],
                 .decimale = voce(voce_report::kDecimaleCsv) == 1 ? ',' : '.'}};
@@ -155,10 +167,30 @@ fs::path PercorsoHeader(const AlberoDati& albero, const std::string& misura) {
     return albero.Host(albero.Esiste(suo) ? suo : std::string(kFileHeader));
 }
 
+RichiestaDocumento RichiestaDelReport(const Scrivania& s, const ReportPronto& report,
+                                      const OpzioniReport& opzioni) {
+    const MisuraAperta& misura = report.fonte.misura;
+    const auto colonne = static_cast<int>(report.griglia.colonne.size());
+    const bool tante = DetDimCaratEOrientMeasurePDF(colonne).ReportPaper == kFoglioOrizzontale;
+    const bool orizzontale = opzioni.orizzontale || (tante && !opzioni.verticale);
+    RichiestaDocumento r{.HeaderPath = PercorsoHeader(s.albero, misura.nome),
+                         .HeaderOn = opzioni.HeaderOn,
+                         .Title = misura.nome,
+                         .carattere = DetCarattereEOrientazione(orizzontale, HaDatiMast(misura))};
+    r.carattere.ReportFontSize = DetDimCarattereTabella(colonne);
+    return r;
+}
+
+std::vector<std::string> RigheDelDocumento(const ReportPronto& report,
+                                           const OpzioniReport& opzioni) {
+    // The header is printed by the layout, ahead of the picture.
+    return RigheTesto(report, opzioni, {});
+}
+
 bool SalvaReportComTesto(const Scrivania& s, const ReportPronto& report,
                          const OpzioniReport& opzioni, const fs::path& percorso) {
-    return ScriviTesto(report, opzioni, opzioni.ColumnSeparator,
-                       Righe(TestoHeader(s, report, opzioni)), percorso);
+    return ScriviTesto(RigheTesto(report, opzioni, Righe(TestoHeader(s, report, opzioni))),
+                       percorso);
 }
 
 bool SalvaReport(Scrivania& s, const ReportPronto& report, const OpzioniReport& opzioni,

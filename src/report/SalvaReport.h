@@ -21,10 +21,11 @@ std::string TitoloSalvaReport(FormatoReport formato);
 std::string NomeReport(const std::string& misura, FormatoReport formato);
 
 struct OpzioniReport {
-    bool HeaderOn = true;   ///< with the header text, where there is one
-    bool riassunto = false; ///< with the summary ahead of the table
-    bool orizzontale = false;
-    std::string ColumnSeparator = "\t"; ///< of the text
+    bool HeaderOn = true;     ///< with the header text, where there is one
+    bool riassunto = false;   ///< with the summary ahead of the table
+    bool orizzontale = false; ///< PDF and RTF on landscape sheets however few the columns,
+    bool verticale = false;   ///< or upright however many
+    std::string ColumnSeparator = "\t"; ///< of the text; on a sheet a tab is one blank
     FormaCsv csv;
 };
 OpzioniReport OpzioniDaPannello(const EnvRecord& env);
@@ -38,6 +39,13 @@ struct ReportPronto {
 
 /// The header text that reports of a measure begin with: its own, or else the one in `DataRoot`.
 std::filesystem::path PercorsoHeader(const AlberoDati& albero, const std::string& misura);
+
+/// Header, title, letters and sheet of a report as PDF or RTF; no paths.
+RichiestaDocumento RichiestaDelReport(const Scrivania& s, const ReportPronto& report,
+                                      const OpzioniReport& opzioni);
+/// Its lines behind the picture.
+std::vector<std::string> RigheDelDocumento(const ReportPronto& report,
+                                           const OpzioniReport& opzioni);
 
 /// The canonical text, in Windows-1252 with CR LF. False when it cannot be written; an old file
 /// then stays.

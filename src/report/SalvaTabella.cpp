@@ -6,6 +6,7 @@
 #include "data/ImportaTesto.h"
 #include "data/NomiDisco.h"
 #include "report/FormatiReport.h"
+#include "report/NomeProprio.h"
 #include "report/SalvaReport.h"
 
 namespace orvane {
@@ -37,11 +38,14 @@ bool SalvaTabellaCome(Scrivania& s, const ContenutoTabella& tabella, const std::
         return SalvaComeTesto(s, percorso, tabella);
     // The layout prints the header itself.
     const std::string righe = Incolonna(TestoTabella(tabella, ""));
-    RichiestaDocumento r{.TablePath = std::filesystem::path(percorso).replace_extension("TPT"),
+    RichiestaDocumento r{.TablePath =
+                             NomeProprio(std::filesystem::path(percorso).replace_extension("TPT")),
                          .HeaderPath = s.albero.Host(kFileHeader),
                          .Title = nome,
                          .OutPath = percorso};
     if (!SalvaFuori(r.TablePath, {reinterpret_cast<const uint8_t*>(righe.data()), righe.size()})) {
+        std::error_code errore;
+        std::filesystem::remove(r.TablePath, errore);
         s.ambiente.Mostra(
             {.testo = "Cannot open file " + Utf8DaPath(percorso), .icona = Icona::Esclamazione});
         return false;

@@ -4,6 +4,7 @@
 #include "data/Incompiute.h"
 #include "data/Panels.h"
 #include "link/Protocollo.h"
+#include "sweep/PausaSweep.h"
 #include "sweep/Svolgimento.h"
 
 namespace orvane {
@@ -45,7 +46,7 @@ void Svolgimento::AbortSweepCorsa() {
 void Svolgimento::Fallimento() {
     Fase(FaseCorsa::Guasto);
     if (linkVivo_ && r_.porta.Aperta() && !r_.stato.AbbandonaComandi)
-        VisualizzaBatteria();
+        VisualizzaBatteriaUnaVolta(c_);
     RipristinaCondizioniExitSweep();
     // An older measure that still stands keeps its own header.
     if (!preparata_ || !s_.albero.EsisteCartella(CartellaMisura(misura_)))

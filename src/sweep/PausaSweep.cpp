@@ -192,7 +192,7 @@ void Pausa::RestaInPausa() {
         if (!c_.stato.inSospeso.empty()) {
             TimerAggiornaControlli();
         } else if (batteria.Passata()) {
-            VisualizzaBatteriaInPausa(c_);
+            VisualizzaBatteriaUnaVolta(c_);
             batteria.Rinnova(kPeriodoBatteriaS);
         } else {
             r_.ambiente.ElaboraEventi(batteria.Rimane(), Veglia::Eventi);
@@ -219,7 +219,7 @@ void Pausa::Riprendi() {
     // Still paused: a Stop ends the commands too.
     TimerAggiornaControlli();
     if (!VuoleUscire())
-        VisualizzaBatteriaInPausa(c_);
+        VisualizzaBatteriaUnaVolta(c_);
     Fase(FaseCorsa::Misura);
     while (!VuoleUscire() && !ProvaRipresa()) {
         MostraErrore(r_, "set Resume Sweep", true);
@@ -248,7 +248,7 @@ void ControllaPausaSweep(const Corsa& corsa, const std::function<void()>& elabor
         pausa.Riprendi();
 }
 
-void VisualizzaBatteriaInPausa(const Corsa& corsa) {
+void VisualizzaBatteriaUnaVolta(const Corsa& corsa) {
     Ricevitore& r = corsa.ricevitore;
     if (r.modello.FwVersione < firmware::kPausaBatteria || !HaBatteria(r.modello))
         return;

@@ -16,7 +16,8 @@ void ControllaVisCMBPausa(Corsa& corsa);
 /// there. A receiver that cannot be made to pause flags a stop.
 void ControllaPausaSweep(const Corsa& corsa, const std::function<void()>& elabora);
 
-/// Asks the battery, once, in the midst of a pass: what has been accumulated stays.
-void VisualizzaBatteriaInPausa(const Corsa& corsa);
+/// Asks the battery, once and no more: in the midst of a pass, where what has been accumulated
+/// stays, and behind a run that has failed.
+void VisualizzaBatteriaUnaVolta(const Corsa& corsa);
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 // A run's preparation: what the receiver is told ahead of the first line, and the measure's files.
 #include "base/Testo.h"
 #include "base/Versione.h"
+#include "data/Avvisi.h"
 #include "data/Incompiute.h"
 #include "data/Panels.h"
 #include "setup/FrontEndSweep.h"
@@ -42,14 +43,24 @@ void Svolgimento::CompilaIntestazione() {
 }
 
 bool Svolgimento::PreparaFile() {
-    PreparaCartellaMisura(s_, misura_);
-    preparata_ = true;
-    CopiaFileLimSweep(s_, misura_, scan_.Righe);
-    CopiaFileFacSweep(s_, misura_);
-    // A power cut between the two leaves a header that is known to be one of no whole measure.
-    const bool segnata = SegnaCorsa(s_.albero, misura_);
-    return (SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup) && segnata) ||
-           Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
+    if (MisuraInCorso(s_.albero, misura_)) {
+        const std::string testo = "Sweep " + misura_ + " is being measured by another console";
+        r_.ambiente.Mostra({.testo = testo, .icona = Icona::Esclamazione});
+        return Fallisci(EsitoCorsa::GuastoFile, testo);
+    }
+    // The mark comes first: whatever a power cut leaves is known to be no whole measure.
+    s_.albero.AssicuraCartella(CartellaMisura(misura_));
+    const auto segno = SegnaCorsa(s_.albero, misura_);
+    bool fatto = segno || AvvisaScrittura(s_, PercorsoKSH(misura_));
+    if (fatto) {
+        segno_ = *segno;
+        PreparaCartellaMisura(s_, misura_);
+        preparata_ = true;
+        CopiaFileLimSweep(s_, misura_, scan_.Righe);
+        CopiaFileFacSweep(s_, misura_);
+        fatto = SalvaHeaderSweep(s_, PercorsoKSH(misura_), scan_, s_.setup);
+    }
+    return fatto || Fallisci(EsitoCorsa::GuastoFile, "cannot write " + PercorsoKSH(misura_));
 }
 
 /// Each pass is asked for with the hold times of the user, whatever the receiver made of them in

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "data/AlberoDati.h"
 #include "setup/ComandoSweep.h"
 #include "setup/CommutatoriSweep.h"
 #include "setup/LimitiSweep.h"
@@ -70,6 +71,7 @@ private:
     ScanTable originale_;
     /// The same as the receiver ran it: what the header tells. The user's own stays as it is.
     ScanRecord scan_;
+    Presa segno_;            ///< the mark of the run, held until its end
     bool preparata_ = false; ///< what an older measure of this name held is gone
     EsitoCorsa esito_ = EsitoCorsa::Compiuta;
     std::optional<Progresso> progresso_;

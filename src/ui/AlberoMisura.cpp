@@ -43,6 +43,7 @@ int RigheAperte(const QTreeWidgetItem& voce) {
 AlberoMisura::AlberoMisura(QWidget* padre) : QTreeWidget(padre) {
     setFrameShape(QFrame::NoFrame);
     setHeaderHidden(true);
+    setRootIsDecorated(false);
     setIndentation(14);
     setUniformRowHeights(true);
     setItemDelegate(new DelegatoNodo(this));
@@ -73,7 +74,6 @@ void AlberoMisura::Mostra(const std::vector<NodoSubMisura>& nodi, size_t scelto)
             setCurrentItem(voce);
     }
     expandAll();
-    setRootIsDecorated(std::ranges::any_of(nodi, [](const auto& n) { return n.profondita > 0; }));
     updateGeometry();
 }
 

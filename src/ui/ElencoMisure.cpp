@@ -52,8 +52,8 @@ void ElencoMisure::contextMenuEvent(QContextMenuEvent* evento) {
     const QModelIndex riga = tasto ? currentIndex() : indexAt(evento->pos());
     if (!riga.isValid())
         return;
-    const QPoint dove = tasto ? viewport()->mapToGlobal(visualRect(riga).center())
-                              : evento->globalPos();
+    const QPoint dove =
+        tasto ? viewport()->mapToGlobal(visualRect(riga).center()) : evento->globalPos();
     Q_EMIT MenuChiesto(riga, dove);
 }
 

@@ -2,8 +2,10 @@
 
 #include <QSignalBlocker>
 
+#include "base/Percorsi.h"
 #include "base/Testo.h"
 #include "data/Cartelle.h"
+#include "data/Misure.h"
 #include "data/NomiTabelle.h"
 #include "data/TabelleLimFac.h"
 #include "ui/Moduli.h"
@@ -99,12 +101,21 @@ void FrmTabelle::Scegli(size_t slot, const QString& nome) {
     scrittura_.scritto(genere_.codice);
 }
 
+/// While a measure is on show its own copies count.
+bool FrmTabelle::NellaMisura(const std::string& nome) const {
+    const Scrivania& s = scrittura_.scrivania;
+    return s.NoSaveSetup &&
+           s.albero.Esiste(CartellaMisura(RimuoviEstensione(EstraiNomeFile(s.env.SweepPath))) +
+                           std::string(genere_.cartella) + nome + "." +
+                           std::string(genere_.estensione));
+}
+
 void FrmTabelle::CaricaRiga(size_t slot, const QStringList& nomi) {
     const Riga& riga = righe_[slot];
     QStringList voci = nomi;
     const size_t quale = RigaDelNome(voci, Nome(slot));
     RiempiLista(*riga.lista, voci, quale);
-    const bool manca = static_cast<qsizetype>(quale) >= nomi.size();
+    const bool manca = static_cast<qsizetype>(quale) >= nomi.size() && !NellaMisura(Nome(slot));
     riga.lista->Segna(manca);
     riga.lista->setToolTip(manca       ? tr("%1 is not on disk").arg(Q(Nome(slot)))
                            : quale > 0 ? Q(Nome(slot))

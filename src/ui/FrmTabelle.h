@@ -41,6 +41,7 @@ private:
     void CreaSomma();
     void CaricaRiga(size_t slot, const QStringList& nomi);
     void Scegli(size_t slot, const QString& nome);
+    bool NellaMisura(const std::string& nome) const;
     std::string& Nome(size_t slot) const;
     int16_t& Acceso(size_t slot) const;
 

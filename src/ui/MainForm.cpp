@@ -194,6 +194,7 @@ void MainForm::CollegaPannelli() {
 
 void MainForm::Carica() {
     AggiornaSegni(*menuBar(), scrivania_.setup);
+    SegnaMenuReport();
     comuni_->Carica();
     sweep_->Carica();
     piedeArchivio_->Picchi().ImpostaQuanti(NumPicchi(scrivania_.env));

@@ -151,6 +151,10 @@ private:
     void ApriTesto(const std::string& percorso, const QString& titolo,
                    const std::optional<std::string>& testo);
     void ApriCommento();
+    void ApriReport(AzioneMenu azione);
+    void ScegliAutoReport(AzioneMenu azione);
+    void SegnaMenuReport();
+    QString AutoReport(const std::string& misura);
     QString DescrizioneLink() const;
     QString Unita() const;
 

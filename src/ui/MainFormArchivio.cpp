@@ -94,6 +94,8 @@ void MainForm::CollegaQuadro() {
             [this](qulonglong indice) { quadro_->MuoviMarker(0, indice); });
     connect(&picchi, &PannelloPicchi::QuantiCambiati, this, &MainForm::CambiaNumPicchi);
     connect(&picchi, &PannelloPicchi::TabellaFrequenze, this, &MainForm::SalvaTabellaPicchi);
+    connect(&picchi, &PannelloPicchi::ReportChiesto, this,
+            [this] { ApriReport(AzioneMenu::Report1); });
     connect(piedeArchivio_, &PiedeArchivio::PaginaScelta, this,
             [this](PiedeArchivio::Pagina p) { MostraPicchi(p == PiedeArchivio::Pagina::Picchi); });
     connect(quadro_, &MainPict::MarkerMosso, this, [&picchi](int quale, qulonglong indice) {

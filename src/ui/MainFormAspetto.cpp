@@ -61,8 +61,12 @@ void MainForm::ApriFinestra(AzioneMenu azione) {
         return ApriTesto(std::string(kFileHeader), tr("Header Text"), CaricaHeader(scrivania_));
     case AzioneMenu::Commento:
         return ApriCommento();
+    case AzioneMenu::Report1:
+    case AzioneMenu::Report2:
+    case AzioneMenu::Report2Full:
+        return ApriReport(azione);
     default:
-        return AzioneQuadro(azione);
+        return azione >= AzioneMenu::AutoNessuno ? ScegliAutoReport(azione) : AzioneQuadro(azione);
     }
 }
 

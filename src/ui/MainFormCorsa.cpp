@@ -64,6 +64,10 @@ void MainForm::MostraEsito(EsitoCorsa esito) {
     if (esito != EsitoCorsa::Rifiutata && !s.misura.empty())
         MostraCorsaFinita(s.misura);
     AggiornaEtichette();
+    if (esito != EsitoCorsa::Compiuta)
+        return;
+    if (const QString report = AutoReport(s.misura); !report.isEmpty())
+        stato_->MostraMessaggio(testo + report);
 }
 
 /// The windows over the picture that a run shows for a while: waits for its start, brief messages.

@@ -14,7 +14,8 @@
 namespace orvane {
 namespace {
 
-constexpr int kRidisegnoMs = 40;
+/// A run is seen to grow, and the picture costs little beside it.
+constexpr int kRidisegnoMs = 60;
 /// The axis of a picture that has nothing to show.
 constexpr double kStartVuoto = 0.15;
 constexpr double kStopVuoto = 30;

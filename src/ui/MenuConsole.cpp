@@ -1,6 +1,9 @@
 #include "ui/MenuConsole.h"
 
+#include <algorithm>
+
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 
 namespace orvane {
@@ -31,6 +34,12 @@ constexpr VoceMenu kMisura(const char* menu, const char* nome, const char* testo
                            const char* scorciatoia) {
     return {menu, nullptr, nome, testo, azione, nullptr, scorciatoia, true};
 }
+/// In "Auto Save Report".
+constexpr VoceMenu kAuto(const char* nome, const char* testo, AzioneMenu azione) {
+    return {"Report", "MNUAutoSaveReport", nome, testo, azione, nullptr, nullptr, true};
+}
+constexpr VoceMenu kSeparatoreAuto = {
+    "Report", "MNUAutoSaveReport", nullptr, nullptr, kNessuna, nullptr, nullptr, false};
 /// A mark whose effect belongs to what is not there yet.
 constexpr VoceMenu kMarcaSpenta(const char* nome, const char* testo, int16_t SetupRecord::*segno) {
     return {"Options", nullptr, nome, testo, kNessuna, segno, nullptr, false};
@@ -56,13 +65,25 @@ constexpr VoceMenu kMenu[] = {
     kDopo("Make", "MNUMakeTabSubRange", "Sub Range Table…"),
     kSeparatore("Make"),
     kTabelle("MNUInstallLimits", "Install Limit Library…", AzioneMenu::Libreria),
+    kMisura("Report", "MNUReport0", "Report 1 detector 2 limits", AzioneMenu::Report1, "Ctrl+R"),
+    kMisura("Report", "MNUReport1", "Report 2 detectors 2 limits", AzioneMenu::Report2, nullptr),
+    kMisura("Report", "MNUReport2", "Report 2 full detectors 2 limits", AzioneMenu::Report2Full,
+            nullptr),
+    kSeparatore("Report"),
     kFinestra("Report", "mnuHeaderTitle", "Header Title…", AzioneMenu::Intestazione, true),
     kFinestra("Report", "mnuTestComment", "Test Comment…", AzioneMenu::Commento, true),
     kSeparatore("Report"),
-    {"Report", "MNUReport", "MNUReportTXT", "Text…", kNessuna, nullptr, nullptr, true},
-    {"Report", "MNUReport", "MNUReportPDF", "PDF…", kNessuna, nullptr, nullptr, true},
-    {"Report", "MNUReport", "MNUReportRTF", "RTF…", kNessuna, nullptr, nullptr, true},
-    kDopo("Report", "MNUAutoSaveReport", "Auto Save Report"),
+    kAuto("MNUAutoSaveRep0", "None", AzioneMenu::AutoNessuno),
+    kAuto("MNUAutoSaveRep1", "Text", AzioneMenu::AutoTesto),
+    kAuto("MNUAutoSaveRep2", "PDF", AzioneMenu::AutoPdf),
+    kAuto("MNUAutoSaveRep3", "RTF", AzioneMenu::AutoRtf),
+    kSeparatoreAuto,
+    kAuto("MNUAutoSaveKind0", "1 detector 2 limits", AzioneMenu::AutoUno),
+    kAuto("MNUAutoSaveKind1", "2 detectors 2 limits", AzioneMenu::AutoDue),
+    kAuto("MNUAutoSaveKind2", "2 full detectors 2 limits", AzioneMenu::AutoDueInteri),
+    kSeparatoreAuto,
+    kAuto("MNUAutoSaveHeader", "Header text", AzioneMenu::AutoIntestazione),
+    kAuto("MNUAutoSaveSummary", "Summary", AzioneMenu::AutoRiassunto),
     kMisura("View", "CHKShowHighestPeaks", "Highest Peaks", AzioneMenu::PicchiAlti, "F6"),
     kSeparatore("View"),
     kMisura("View", "MNUZoomMarkers", "Zoom Between Markers", AzioneMenu::ZoomMarker, "F7"),
@@ -95,15 +116,18 @@ constexpr VoceMenu kMenu[] = {
 };
 
 constexpr const char* kNomiMenu[][2] = {
-    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReports"}, {"View", "MNUView"},
+    {"File", "MNUFile"},   {"Make", "MNUMake"},       {"Report", "MNUReport"}, {"View", "MNUView"},
     {"Tools", "MNUTools"}, {"Options", "MNUOptions"}, {"Help", "MNUHelp"},
 };
-constexpr const char* kTestoSotto = "Report";
+constexpr const char* kSottoMenu[][2] = {{"Auto Save Report", "MNUAutoSaveReport"}};
 
 QMenu* TrovaSotto(QMenu& menu, const char* nome) {
     if (auto* trovato = menu.findChild<QMenu*>(QLatin1String(nome), Qt::FindDirectChildrenOnly))
         return trovato;
-    QMenu* sotto = menu.addMenu(QLatin1String(kTestoSotto));
+    const auto* voce = std::find_if(std::begin(kSottoMenu), std::end(kSottoMenu), [nome](auto& v) {
+        return QLatin1String(v[1]) == QLatin1String(nome);
+    });
+    QMenu* sotto = menu.addMenu(QLatin1String((*voce)[0]));
     sotto->setObjectName(QLatin1String(nome));
     return sotto;
 }
@@ -142,15 +166,41 @@ void Collega(QAction* azione, const VoceMenu& voce, const AzioniMenu& azioni) {
     }
 }
 
+/// Marks of which one is on.
+struct GruppoMarche {
+    AzioneMenu prima;
+    AzioneMenu ultima;
+    const char* nome;
+};
+constexpr GruppoMarche kGruppi[] = {
+    {AzioneMenu::AutoNessuno, AzioneMenu::AutoRtf, "MNUAutoSaveRep"},
+    {AzioneMenu::AutoUno, AzioneMenu::AutoDueInteri, "MNUAutoSaveKind"},
+};
+
+void AggiungiAlGruppo(QMenu& menu, QAction* azione, AzioneMenu quale) {
+    for (const GruppoMarche& gruppo : kGruppi) {
+        if (quale < gruppo.prima || quale > gruppo.ultima)
+            continue;
+        auto* marche = menu.findChild<QActionGroup*>(QLatin1String(gruppo.nome));
+        if (!marche) {
+            marche = new QActionGroup(&menu);
+            marche->setObjectName(QLatin1String(gruppo.nome));
+        }
+        marche->addAction(azione);
+    }
+}
+
 void AggiungiVoce(QMenu& menu, const VoceMenu& voce, const AzioniMenu& azioni) {
+    QMenu& dove = voce.sotto ? *TrovaSotto(menu, voce.sotto) : menu;
     if (!voce.nome) {
-        menu.addSeparator();
+        dove.addSeparator();
         return;
     }
-    QMenu& dove = voce.sotto ? *TrovaSotto(menu, voce.sotto) : menu;
     QAction* azione = dove.addAction(QString::fromUtf8(voce.testo));
     azione->setObjectName(QLatin1String(voce.nome));
-    azione->setCheckable(voce.segno != nullptr || voce.azione == AzioneMenu::PicchiAlti);
+    azione->setCheckable(voce.segno != nullptr || voce.azione == AzioneMenu::PicchiAlti ||
+                         voce.azione >= AzioneMenu::AutoNessuno);
+    AggiungiAlGruppo(dove, azione, voce.azione);
     if (voce.scorciatoia)
         azione->setShortcut(QKeySequence(QLatin1String(voce.scorciatoia)));
     Collega(azione, voce, azioni);
@@ -207,6 +257,8 @@ void AbilitaVociMisura(const QMenuBar& barra, const VociMisura& voci) {
         {"MNUZoomBack", &VociMisura::immagine},       {"MNUZoomForward", &VociMisura::immagine},
         {"MNUNextMeasure", &VociMisura::archivio},    {"MNUPreviousMeasure", &VociMisura::archivio},
         {"MNUCompareMeasure", &VociMisura::archivio}, {"MNUOverlayMeasure", &VociMisura::archivio},
+        {"MNUReport0", &VociMisura::immagine},        {"MNUReport1", &VociMisura::immagine},
+        {"MNUReport2", &VociMisura::immagine},
     };
     for (const Voce& voce : kVoci)
         Azione(barra, voce.nome)->setEnabled(voci.*voce.quando);
@@ -216,6 +268,19 @@ void SegnaPicchi(const QMenuBar& barra, bool si) {
     QAction* azione = Azione(barra, "CHKShowHighestPeaks");
     const QSignalBlocker zitta(azione);
     azione->setChecked(si);
+}
+
+void SegnaAutoReport(const QMenuBar& barra, const SegniAutoReport& segni) {
+    // Names end in the number that the record holds.
+    const auto segna = [&barra](const char* nome, int quanti, int scelto) {
+        for (int i = 0; i < quanti; ++i)
+            barra.findChild<QAction*>(QLatin1String(nome) + QString::number(i))
+                ->setChecked(i == scelto);
+    };
+    segna("MNUAutoSaveRep", 4, segni.modo);
+    segna("MNUAutoSaveKind", 3, segni.tipo);
+    Azione(barra, "MNUAutoSaveHeader")->setChecked(segni.intestazione);
+    Azione(barra, "MNUAutoSaveSummary")->setChecked(segni.riassunto);
 }
 
 } // namespace orvane

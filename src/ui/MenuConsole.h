@@ -32,6 +32,9 @@ enum class AzioneMenu {
     MisuraPrima,
     Confronta,
     Sovrapponi,
+    Report1,
+    Report2,
+    Report2Full,
     // Windows of the main window's own.
     ApriPannello,
     SalvaPannello,
@@ -39,12 +42,22 @@ enum class AzioneMenu {
     Intestazione,
     Commento,
     Aspetto,
-    Colori
+    Colori,
+    // The report behind each sweep: as what, of which kind, and what goes into every report.
+    AutoNessuno,
+    AutoTesto,
+    AutoPdf,
+    AutoRtf,
+    AutoUno,
+    AutoDue,
+    AutoDueInteri,
+    AutoIntestazione,
+    AutoRiassunto
 };
 
 struct VoceMenu {
     const char* menu;  ///< which menu it is in
-    const char* sotto; ///< and which menu of that one; null for none
+    const char* sotto; ///< and which menu of that one, by its name in `kSottoMenu`; null for none
     const char* nome;  ///< object name; null for a separator
     const char* testo;
     AzioneMenu azione;           ///< `Nessuna`: present, and disabled
@@ -80,5 +93,14 @@ struct VociMisura {
 void AbilitaVociMisura(const QMenuBar& barra, const VociMisura& voci);
 /// The mark of `CHKShowHighestPeaks`.
 void SegnaPicchi(const QMenuBar& barra, bool si);
+
+/// What the marks of "Auto Save Report" show.
+struct SegniAutoReport {
+    int modo = 0; ///< `AutoReportMode`
+    int tipo = 0;
+    bool intestazione = true;
+    bool riassunto = false;
+};
+void SegnaAutoReport(const QMenuBar& barra, const SegniAutoReport& segni);
 
 } // namespace orvane

@@ -11,7 +11,6 @@
 #include "base/Numeri.h"
 #include "data/Cartelle.h"
 #include "data/Incompiute.h"
-#include "graph/Confronto.h"
 #include "platform/qt/SuperficieQt.h"
 #include "records/ColoriGrafico.h"
 #include "setup/TabellaScan.h"
@@ -131,6 +130,7 @@ QWidget* PannelloArchivio::CreaDettagli() {
     for (QWidget* w : std::initializer_list<QWidget*>{albero_, titoloSovrapposte_, sovrapposte_,
                                                       verdetto_, dettagli_, accetta_})
         colonna->addWidget(w);
+    colonna->addStretch(1);
     area->setWidget(dentro);
     connect(accetta_, &QPushButton::clicked, this, &PannelloArchivio::Accetta);
     connect(detector_, &QComboBox::activated, this,
@@ -276,9 +276,8 @@ void PannelloArchivio::MostraSovrapposte(const StatoArchivio& archivio, const Re
         aggiungi(Genere::Differenza, nome, tr("Difference"), env.GraphColors[colore::kPicchi]);
     }
     for (size_t i = 0; i < archivio.sovrapposte.size(); ++i) {
-        const MisuraAperta& altra = archivio.sovrapposte[i];
-        const StratoQuadro strato = StratoSovrapposto(altra, i, archivio.detector, scrivania_.env);
-        aggiungi(Genere::Misura, altra.nome, Q(altra.nome), strato.colori[0]);
+        const std::string& nome = archivio.sovrapposte[i].nome;
+        aggiungi(Genere::Misura, nome, Q(nome), StratoSopra(archivio, i, scrivania_.env).colori[0]);
     }
     sovrapposte_->Mostra(voci);
     sovrapposte_->setVisible(!voci.empty());
@@ -301,6 +300,8 @@ void PannelloArchivio::ScriviDettagli(const MisuraAperta& misura) {
     QStringList righe;
     if (incompiuta)
         righe << tr("Incomplete: its run was cut off");
+    else if (MisuraInCorso(scrivania_.albero, misura.nome))
+        righe << tr("Its run is on");
     const size_t linee = RigheInUso(misura.header.Scan.Righe);
     const QString campioni = QString::number(misura.traccia->size());
     righe << (linee == 1 ? tr("%1 samples in one line").arg(campioni)

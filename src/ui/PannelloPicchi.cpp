@@ -53,8 +53,8 @@ QPushButton* CreaSpento(const char* nome, const QString& testo, const QString& m
 
 PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FRMHighestPeaks"));
-    griglia_ = Nomina(new QTableWidget(this), QStringLiteral("GridHighestPeaks"),
-                      tr("Highest Peaks"));
+    griglia_ =
+        Nomina(new QTableWidget(this), QStringLiteral("GridHighestPeaks"), tr("Highest Peaks"));
     griglia_->setFrameShape(QFrame::NoFrame);
     griglia_->setShowGrid(false);
     griglia_->setItemDelegate(new DelegatoPicchi(griglia_));
@@ -102,8 +102,9 @@ QWidget* PannelloPicchi::CreaTesta() {
                             tr("Makes a frequency table from the list"), testa);
     auto* subRange = CreaSpento("CMBMakeTabSubRange", tr("Sub Range"),
                                 tr("Sub Range measurements are not part of this release"), testa);
-    auto* report = CreaSpento("CMBReport", tr("Report"),
-                              tr("Reports are not part of this release"), testa);
+    auto* report = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
+                                tr("Report 1 detector 2 limits"), testa);
+    connect(report, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
     report->setProperty(kProprietaRuolo, "accento");
     auto* didascalia = CreaDidascalia(tr("Peaks"), testa);
     didascalia->setBuddy(quanti_);
@@ -111,8 +112,8 @@ QWidget* PannelloPicchi::CreaTesta() {
     riga->setContentsMargins(10, 7, 10, 7);
     riga->setSpacing(8);
     riga->addWidget(righe_, 1);
-    for (QWidget* w : std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange,
-                                                      report})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange, report})
         riga->addWidget(w);
     connect(quanti_, &QSpinBox::valueChanged, this, &PannelloPicchi::QuantiCambiati);
     connect(tabFreq_, &QPushButton::clicked, this, &PannelloPicchi::TabellaFrequenze);
@@ -144,9 +145,7 @@ void PannelloPicchi::Mostra(TabellaPicchi tabella, bool conMisura) {
     const auto quante = int(tabella_.righe.size());
     quanti_->setEnabled(conMisura);
     tabFreq_->setEnabled(quante > 0);
-    righe_->setText(!conMisura    ? QString()
-                    : quante == 1 ? tr("1 row")
-                                  : tr("%1 rows").arg(quante));
+    righe_->setText(!conMisura ? QString() : quante == 1 ? tr("1 row") : tr("%1 rows").arg(quante));
     griglia_->setVisible(quante > 0);
     vuota_->setVisible(quante == 0);
     vuota_->setText(conMisura ? tr("Not found Peaks") : QString());

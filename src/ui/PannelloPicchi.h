@@ -34,6 +34,7 @@ Q_SIGNALS:
     /// A row was chosen: the sample of its peak.
     void Scelto(qulonglong indice);
     /// `MNUMakeTabFreq` from the list.
+    void ReportChiesto();
     void TabellaFrequenze();
 
 private:

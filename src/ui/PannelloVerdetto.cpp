@@ -65,8 +65,8 @@ void PannelloVerdetto::Carica(const SetupRecord& setup) {
 }
 
 void PannelloVerdetto::Leggi() {
-    const auto letto = LeggiNumero(S(incertezza_->text().replace(QLatin1Char(','),
-                                                                  QLatin1Char('.')).trimmed()));
+    const auto letto =
+        LeggiNumero(S(incertezza_->text().replace(QLatin1Char(','), QLatin1Char('.')).trimmed()));
     if (!letto || !(*letto >= 0) || *letto > kMassimaDb) {
         Q_EMIT Rifiutata(tr("The uncertainty is a number of dB from 0 to %1").arg(kMassimaDb));
         incertezza_->setText(Q(TestoDaNumero(valore_)));

@@ -1,5 +1,6 @@
 #include "ui/Postazione.h"
 
+#include "platform/PresaFile.h"
 #include "platform/Sincronizza.h"
 
 namespace orvane {
@@ -8,7 +9,9 @@ Postazione::Postazione(AmbienteQt& ambienteQt, const std::filesystem::path& dati
                        const Vettori& vettori)
     : ambiente(ambienteQt), log(ambiente, dati),
       porta(ambiente, protocollo, log, vettori), scrivania{.ambiente = ambiente,
-                                                           .albero = AlberoDati(dati, Sincronizza)},
+                                                           .albero =
+                                                               AlberoDati(dati, Sincronizza,
+                                                                          {PrendiFile, FilePreso})},
       finestra(scrivania, scan), ricevitore{.ambiente = ambiente,
                                             .stato = protocollo,
                                             .log = log,

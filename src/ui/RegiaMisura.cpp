@@ -15,8 +15,10 @@ namespace {
 /// How far the colours of a pass are turned from those of the first, degrees of hue.
 constexpr std::array kGiroPassata = {0, 200, 100, 290};
 
-int32_t Gira(int32_t colore, size_t passata) {
-    const int gradi = kGiroPassata[passata % kGiroPassata.size()];
+/// The same for the measures laid over it.
+constexpr std::array kGiroSopra = {130, 240, 60, 330, 170, 270};
+
+int32_t Gira(int32_t colore, int gradi) {
     const QColor c(colore & 0xFF, colore >> 8 & 0xFF, colore >> 16 & 0xFF);
     const QColor g =
         QColor::fromHsv((std::max(0, c.hue()) + gradi) % 360, c.saturation(), c.value());
@@ -82,7 +84,7 @@ StratoQuadro RegiaMisura::StratoPassata(const StatoArchivio& aperta, const NodoS
     StratoQuadro strato = ComponiStrato(passata, aperta.detector, s_.env);
     strato.nome = nodo.testo;
     for (int32_t& colore : strato.colori)
-        colore = Gira(colore, quale);
+        colore = Gira(colore, kGiroPassata[quale % kGiroPassata.size()]);
     return strato;
 }
 
@@ -92,7 +94,7 @@ std::vector<StratoQuadro> RegiaMisura::StratiSopra(const StatoArchivio& aperta) 
         strati.push_back(StratoDifferenza(aperta, s_.env, s_.setup.UnitId));
     for (size_t i = 0; i < aperta.sovrapposte.size(); ++i)
         if (Accesa(Sovrapposte::Genere::Misura, aperta.sovrapposte[i].nome))
-            strati.push_back(StratoSovrapposto(aperta.sovrapposte[i], i, aperta.detector, s_.env));
+            strati.push_back(StratoSopra(aperta, i, s_.env));
     return strati;
 }
 
@@ -136,6 +138,13 @@ void RegiaMisura::Accendi(Sovrapposte::Genere genere, const std::string& nome, b
 
 bool RegiaMisura::Accesa(Sovrapposte::Genere genere, const std::string& nome) const {
     return !spente_.contains({genere, nome});
+}
+
+StratoQuadro StratoSopra(const StatoArchivio& aperta, size_t quale, const EnvRecord& env) {
+    StratoQuadro strato = StratoSovrapposto(aperta.sovrapposte[quale], quale, aperta.detector, env);
+    strato.colori.fill(
+        Gira(ColoreTraccia(env, DetectorKind::Peak), kGiroSopra[quale % kGiroSopra.size()]));
+    return strato;
 }
 
 std::vector<LimiteQuadro> LimitiDellaCorsa(Scrivania& s, const ScanTable& tabella) {

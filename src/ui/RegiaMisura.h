@@ -49,6 +49,8 @@ private:
 std::vector<LimiteQuadro> LimitiDellaCorsa(Scrivania& s, const ScanTable& tabella);
 /// A measure that a run has ended with, opened with all its passes and without touching the set-up.
 void ApriDopoCorsa(Scrivania& s, StatoArchivio& aperta, const std::string& nome);
+/// A measure laid over the one on show, in a colour of its own.
+StratoQuadro StratoSopra(const StatoArchivio& aperta, size_t quale, const EnvRecord& env);
 /// The trace of the difference as it lies on the axis: its 0 dB at the label 0 of the unit.
 StratoQuadro StratoDifferenza(const StatoArchivio& aperta, const EnvRecord& env, int unitId);
 

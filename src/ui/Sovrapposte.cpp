@@ -80,8 +80,8 @@ void Sovrapposte::contextMenuEvent(QContextMenuEvent* evento) {
     const QListWidgetItem* voce = tasto ? currentItem() : itemAt(evento->pos());
     if (!voce)
         return;
-    const QPoint dove = tasto ? viewport()->mapToGlobal(visualItemRect(voce).center())
-                              : evento->globalPos();
+    const QPoint dove =
+        tasto ? viewport()->mapToGlobal(visualItemRect(voce).center()) : evento->globalPos();
     QMenu menu(this);
     if (menu.exec({menu.addAction(tr("Take Away"))}, dove) != nullptr)
         Togli(voce);

@@ -33,6 +33,8 @@ QString AiutoVoce(const VoceArchivio& misura) {
                               .arg(misura.righe)
                               .arg(misura.passi)
                               .arg(Q(misura.detector));
+    if (misura.inCorso)
+        return QStringLiteral("Its run is on\n%1").arg(fatti);
     return misura.incompiuta ? QStringLiteral("Incomplete: the run was cut off\n%1").arg(fatti)
                              : fatti;
 }
@@ -62,7 +64,9 @@ QVariant DatoVoce(const VoceArchivio& misura, int ruolo) {
         return misura.incompiuta;
     case Qt::AccessibleTextRole:
         return Q(misura.nome + (misura.leggibile ? "" : ", damaged") +
-                 (misura.incompiuta ? ", incomplete" : ""));
+                 (misura.inCorso      ? ", running"
+                  : misura.incompiuta ? ", incomplete"
+                                      : ""));
     case Qt::ToolTipRole:
         return AiutoVoce(misura);
     default:

@@ -58,6 +58,8 @@ EsitoVerbo ArchivioAccept(Banco& banco, Parole parole) {
     if (!misura)
         return esito;
     const AlberoDati& albero = banco.scrivania.albero;
+    if (MisuraInCorso(albero, *misura))
+        return Guasto(banco, kGuastoFile, *misura + " is being measured");
     if (MisuraIncompiuta(albero, *misura) && !TogliSegnoCorsa(albero, *misura))
         return Guasto(banco, kGuastoFile, "cannot delete " + PercorsoSegnoCorsa(*misura));
     return kFatto;

@@ -146,6 +146,7 @@ EsitoVerbo ArchivioShow(Banco& banco, Parole parole) {
     scheda.Riga("last", voce.ultima);
     scheda.Riga("readable", voce.leggibile);
     scheda.Riga("incomplete", voce.incompiuta);
+    scheda.Riga("running", voce.inCorso);
     scheda.Riga("lines", static_cast<double>(voce.righe));
     scheda.Riga("steps", static_cast<double>(voce.passi));
     scheda.Riga("detectors", voce.detector);

@@ -13,10 +13,11 @@ void Stampa(Banco& banco, Json& json, const VoceArchivio& voce) {
     json.Oggetto().Coppia("name", voce.nome).Coppia("first", voce.prima);
     json.Coppia("last", voce.ultima).Coppia("lines", voce.righe);
     json.Coppia("steps", static_cast<double>(voce.passi)).Coppia("detectors", voce.detector);
-    json.Coppia("readable", voce.leggibile).Coppia("incomplete", voce.incompiuta).Chiudi();
+    json.Coppia("readable", voce.leggibile).Coppia("incomplete", voce.incompiuta);
+    json.Coppia("running", voce.inCorso).Chiudi();
     if (banco.json)
         return;
-    const char* fine = voce.incompiuta ? "\tincomplete\n" : "\n";
+    const char* fine = voce.inCorso ? "\trunning\n" : voce.incompiuta ? "\tincomplete\n" : "\n";
     banco.dati << voce.nome << "\t" << voce.ultima << "\t";
     if (voce.leggibile)
         banco.dati << voce.righe << (voce.righe == 1 ? " line\t" : " lines\t") << voce.passi

@@ -88,6 +88,7 @@ RichiestaReport LeggiRichiesta(const Argomenti& argomenti) {
     Scegli(r, argomenti, "separator", kSeparatori, r.opzioni.csv.separatore);
     Scegli(r, argomenti, "decimal", kDecimali, r.opzioni.csv.decimale);
     Scegli(r, argomenti, "paper", kFogli, r.opzioni.orizzontale);
+    r.opzioni.verticale = argomenti.Opzione("paper") && !r.opzioni.orizzontale;
     LeggiDetectorDi(r, argomenti, "detector", r.detector);
     LeggiDetectorDi(r, argomenti, "detector2", r.detector2);
     r.tabella = argomenti.Opzione("save-table");

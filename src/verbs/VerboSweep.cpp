@@ -3,9 +3,11 @@
 
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
+#include "console/AutoReport.h"
 #include "data/Panels.h"
 #include "setup/TabellaScan.h"
 #include "verbs/Argomenti.h"
+#include "verbs/AttesaMuta.h"
 #include "verbs/EsameScan.h"
 #include "verbs/Json.h"
 #include "verbs/Verbo.h"
@@ -30,8 +32,20 @@ EsitoVerbo DaCorsa(const Banco& banco, EsitoCorsa esito) {
     return EsitoDelLink(banco);
 }
 
-/// Where the measure lies, as the host names it.
-void DiMisura(Banco& banco, EsitoVerbo esito) {
+/// The report that the panel wants behind each sweep.
+EsitoAutoReport ScriviReport(Banco& banco) {
+    AttesaMuta attesa;
+    EsitoAutoReport report =
+        ScriviAutoReport(banco.scrivania, banco.corsa.misura, banco.fabbrica, attesa);
+    if (report.esito == EsitoAuto::Scritto && !banco.json)
+        banco.messaggi << "report: " << report.file << "\n";
+    if (report.esito == EsitoAuto::Fallito)
+        banco.corsa.motivo = "the report " + report.file + " was not written";
+    return report;
+}
+
+/// Where the measure lies, as the host names it, and its report.
+void DiMisura(Banco& banco, EsitoVerbo esito, const EsitoAutoReport& report) {
     const std::string& misura = banco.corsa.misura;
     const auto cartella = banco.scrivania.albero.Host(CartellaMisura(misura)).string();
     // A run that ends before its first file has no folder to tell of.
@@ -46,6 +60,8 @@ void DiMisura(Banco& banco, EsitoVerbo esito) {
     json.Oggetto().Coppia("event", "end").Coppia("status", static_cast<int>(esito));
     if (esiste)
         json.Coppia("measure", misura).Coppia("folder", cartella);
+    if (report.esito == EsitoAuto::Scritto)
+        json.Coppia("report", report.file);
     if (esito != kFatto)
         json.Coppia("reason", banco.corsa.motivo);
     banco.dati << json.Chiudi().Documento() << "\n" << std::flush;
@@ -135,8 +151,11 @@ EsitoVerbo VerboSweep(Banco& banco, Parole parole) {
     if (const EsitoVerbo esito = CaricaPerEsame(banco, *nomeScan, scan); esito != kFatto)
         return esito;
     banco.scrivania.env.ScanPanelPath = PercorsoPannello(*nomeScan, "EST");
-    const EsitoVerbo esito = DaCorsa(banco, Corri(banco, scan, *misura, modo));
-    DiMisura(banco, esito);
+    EsitoVerbo esito = DaCorsa(banco, Corri(banco, scan, *misura, modo));
+    const EsitoAutoReport report = esito == kFatto ? ScriviReport(banco) : EsitoAutoReport{};
+    if (report.esito == EsitoAuto::Fallito)
+        esito = kGuastoFile;
+    DiMisura(banco, esito, report);
     return esito == kFatto ? kFatto : Guasto(banco, esito, banco.corsa.motivo);
 }
 

@@ -52,6 +52,7 @@ FASI = {
         lambda p: p.comandi.count("#?BAT*") > 1),
     "sweep, then mute": ({"ASBK": ["SBK=OK", None], "?BAT": ["BAT=FULL,12,4;0", None]}, LENTO, [],
                          Campioni),
+    "sweep, then battery silent": ({"?BAT": ["BAT=FULL,12,4;0", None]}, LENTO, [], Campioni),
     "end of the line, silent": ({"?UHT": None}, {}, [], Arrivato("#?UHT")),
 }  # fmt: skip
 

@@ -7,7 +7,10 @@
 
 #include "ScrivaniaProva.h"
 #include "base/Numeri.h"
+#include "data/Incompiute.h"
 #include "data/Panels.h"
+#include "data/Rinomine.h"
+#include "platform/PresaFile.h"
 #include "platform/Sincronizza.h"
 
 namespace orvane::prova {
@@ -76,6 +79,40 @@ TEST_F(MorteTest, AKillAtAnyMomentLeavesWholeFiles) {
         ASSERT_EQ(fs::file_size(Host("Panels/Untitled.EPN")), 2096u);
         ultima = quale;
     }
+}
+
+TEST_F(MorteTest, TheMarkOfARunTellsAKilledOneFromOneElsewhere) {
+    const AlberoDati albero(cartella.Percorso(), Sincronizza, {PrendiFile, FilePreso});
+    albero.AssicuraCartella("Sweep\\M");
+    int tubo[2];
+    ASSERT_EQ(pipe(tubo), 0);
+    const pid_t figlio = fork();
+    ASSERT_GE(figlio, 0);
+    if (figlio == 0) {
+        const auto segno = SegnaCorsa(albero, "M");
+        if (!segno || !*segno || write(tubo[1], "!", 1) != 1)
+            _exit(1);
+        while (true)
+            pause();
+    }
+    close(tubo[1]);
+    char pronto = 0;
+    EXPECT_EQ(read(tubo[0], &pronto, 1), 1);
+    close(tubo[0]);
+    EXPECT_TRUE(MisuraInCorso(albero, "M"));
+    EXPECT_TRUE(MisureIncompiute(albero).empty());
+    EXPECT_EQ(albero.Prendi(PercorsoSegnoCorsa("M")), nullptr);
+    CatenaRinomine catena(albero);
+    EXPECT_FALSE(catena.RinominaMisura("M", "N"));
+    kill(figlio, SIGKILL);
+    waitpid(figlio, nullptr, 0);
+    EXPECT_FALSE(MisuraInCorso(albero, "M"));
+    EXPECT_EQ(MisureIncompiute(albero), std::vector<std::string>{"M"});
+    {
+        const auto segno = SegnaCorsa(albero, "M");
+        EXPECT_TRUE(MisuraInCorso(albero, "M")) << "its own";
+    }
+    EXPECT_TRUE(MisuraIncompiuta(albero, "M")) << "as an empty file of before";
 }
 
 } // namespace

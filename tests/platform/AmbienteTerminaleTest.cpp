@@ -55,6 +55,12 @@ TEST(AmbienteTerminale, ABoxIsALineWithItsAnswer) {
         EXPECT_EQ(ambiente.Mostra({.testo = testo, .pulsanti = pulsanti}), attesa);
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "[box] " + std::string(riga) + "\n");
     }
+    SorvegliaLink sorveglia;
+    AmbienteTerminale ambiente(sorveglia, "", {});
+    testing::internal::CaptureStderr();
+    ambiente.Mostra({.testo = "Not as\rexpected", .titolo = "Loading C:\\T.5SL"});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "[box] Loading C:\\T.5SL: Not as expected -> OK\n");
 }
 
 TEST(AmbienteTerminale, TheCalendarIsTheLocalOne) {

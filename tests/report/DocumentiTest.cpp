@@ -4,10 +4,14 @@
 #include "base/Testo.h"
 #include "data/ImportaTesto.h"
 #include "data/ScrivaniaProva.h"
+#include "report/LeggiBMP.h"
+#include "report/LogoReport.h"
 #include "report/ReportHTML.h"
+#include "report/RiduciColori.h"
 #include "report/RigheReport.h"
 #include "report/SalvaReport.h"
 #include "report/SalvaTabella.h"
+#include "report/ScriviBMP.h"
 #include "report/TestoReport.h"
 
 namespace orvane {
@@ -19,6 +23,15 @@ using Righe = std::vector<std::string>;
 struct Muta : VistaAttesa {
     void MostraAttesa(const std::string&) override {}
     void ChiudiAttesa() override {}
+};
+
+/// Gives the bytes that it was told to.
+struct FabbricaFinta : FabbricaQuadri {
+    std::vector<uint8_t> byte;
+    std::vector<uint8_t> Dipingi(int, int, FormatoImmagine,
+                                 const std::function<void(Superficie&)>&) override {
+        return byte;
+    }
 };
 
 struct Documenti : prova::ProvaDati {
@@ -46,9 +59,10 @@ struct Documenti : prova::ProvaDati {
         griglia = ImpostaGridReport(model, fonte);
         CompilaReport(griglia, model, fonte, ambiente);
     }
-    bool Salva(const char* nome, const OpzioniReport& opzioni = {}) {
+    bool Salva(const char* nome, const OpzioniReport& opzioni = {},
+               FabbricaQuadri* fabbrica = nullptr) {
         const FonteReport fonte = banco.Fonte();
-        return SalvaReport(s, {griglia, model, fonte}, opzioni, nullptr, muta, Host(nome));
+        return SalvaReport(s, {griglia, model, fonte}, opzioni, fabbrica, muta, Host(nome));
     }
 };
 
@@ -134,6 +148,63 @@ TEST_F(Documenti, FailedWriteLeavesTheOldFile) {
     EXPECT_EQ(Nomi(""), (Righe{"a.csv", "a.html", "a.pdf", "a.rtf", "a.txt"}));
     griglia.tagliata = true;
     EXPECT_FALSE(Salva("a.txt"));
+}
+
+TEST_F(Documenti, APictureThatCannotBeMadeIsTold) {
+    FabbricaFinta fabbrica;
+    for (const char* nome : {"a.pdf", "a.rtf"}) {
+        Metti("a.TPI", LogoBMP()); // another run's
+        Metti("a.TPT", std::string("other"));
+        Metti("Untitled" + std::string(nome + 1), std::string("other"));
+        ASSERT_TRUE(Salva(nome, {}, &fabbrica)) << nome;
+        EXPECT_TRUE(Contiene(Riquadro(), "Failed loading"));
+        EXPECT_FALSE(Contiene(Prendi(nome), "/Img1")) << nome;
+    }
+    fabbrica.byte = LogoBMP();
+    ASSERT_TRUE(Salva("a.pdf", {}, &fabbrica));
+    EXPECT_TRUE(Contiene(Prendi("a.pdf"), "/Img1 Do"));
+    EXPECT_EQ(Nomi(""),
+              (Righe{"Untitled.pdf", "Untitled.rtf", "a.TPI", "a.TPT", "a.pdf", "a.rtf"}));
+    for (const char* nome : {"a.TPT", "Untitled.pdf", "Untitled.rtf"})
+        EXPECT_EQ(Prendi(nome), "other");
+}
+
+TEST_F(Documenti, ManyColumnsLieOnALandscapeSheet) {
+    const std::string alto = "/MediaBox [0 0 595.2 842]", largo = "/MediaBox [0 0 842 595.2]";
+    for (size_t i = 1; i < 4; ++i) { // 6, 7, 8 columns, and 9
+        ASSERT_TRUE(Salva("a.pdf"));
+        EXPECT_TRUE(Contiene(Prendi("a.pdf"), alto)) << i;
+        banco.Fattore(i, "F", {});
+        Compila();
+    }
+    for (const auto& [verticale, foglio] : {std::pair{false, largo}, {true, alto}}) {
+        ASSERT_TRUE(Salva("a.pdf", {.verticale = verticale}));
+        EXPECT_TRUE(Contiene(Prendi("a.pdf"), foglio));
+        EXPECT_TRUE(Contiene(Prendi("a.pdf"), "/Fnt3 4.5 Tf"));
+    }
+}
+
+TEST(RiduciColori, WhatCoversMostStaysAsItIs) {
+    PixelPdf pixel{.larghezza = 32, .altezza = 32};
+    for (int i = 0; i < 1024; ++i) // 256 greens, and white
+        pixel.dati.insert(pixel.dati.end(),
+                          {uint8_t(i < 512 ? 0 : 255), uint8_t(i < 512 ? i / 2 : 255),
+                           uint8_t(i < 512 ? 0 : 255)});
+    for (const bool esatto : {false, true}) {
+        if (esatto)
+            pixel.dati.at(1) = pixel.dati.at(4) = 255; // one green less
+        const PixelPdf ridotto = RiduciColori(pixel);
+        ASSERT_EQ(ridotto.dati.size(), 1024u);
+        ASSERT_EQ(ridotto.paletta.size(), 768u);
+        for (size_t i = 0; i < 1024 * 3; ++i) {
+            const uint8_t colore = ridotto.paletta.at(ridotto.dati[i / 3] * size_t{3} + i % 3);
+            EXPECT_NEAR(colore, pixel.dati[i], esatto || i >= 512 * 3 ? 0 : 17) << i;
+        }
+        const auto riletto = LeggiBMP(InBMP(ridotto));
+        ASSERT_TRUE(riletto);
+        EXPECT_EQ(riletto->dati, ridotto.dati);
+        EXPECT_EQ(riletto->paletta, ridotto.paletta);
+    }
 }
 
 TEST(SalvaReport, FormatByName) {

@@ -186,15 +186,20 @@ TEST(FormatiReport, Numbers) {
         float livello;
         const char* testo;
     };
-    constexpr Caso casi[] = {{-123.456f, "-123.46"}, {-100, "-100.00"},    {-99.99f, " -99.99"},
-                             {-10, " -10.00"},       {-9.99f, "  -9.99"},  {0, "   0.00"},
-                             {-0.001f, "   0.00"},   {9.999f, "  10.00"},  {10, "  10.00"},
-                             {100, " 100.00"},       {1234.5f, " 1234.50"}};
+    constexpr Caso casi[] = {
+        {-123.456f, "-123.46"}, {-100, "-100.00"},    {-99.99f, " -99.99"},  {-10, " -10.00"},
+        {-9.99f, "  -9.99"},    {0, "   0.00"},       {-0.001f, "   0.00"},  {9.999f, "  10.00"},
+        {10, "  10.00"},        {100, " 100.00"},     {1234.5f, " 1234.50"}, {-100.01f, "-100.01"},
+        {-10.01f, " -10.01"},   {-9.999f, " -10.00"}, {-0.01f, "  -0.01"},   {9.99f, "   9.99"},
+        {99.99f, "  99.99"},    {99.999f, " 100.00"}, {-99.999f, "-100.00"}};
     for (const Caso& caso : casi)
         EXPECT_EQ(FormattaLivelloRep(caso.livello), caso.testo);
     EXPECT_EQ(FormattaFreqRep(0.15, 9.99), "0.15");
     EXPECT_EQ(FormattaFreqRep(0.15 + 3 * 0.0045, 10), " 0.1635");
     EXPECT_EQ(FormattaFreqRep(9.5, 1234567), "      9.5");
+    EXPECT_EQ(FormattaFreqRep(10, 10), "10");
+    EXPECT_EQ(FormattaFreqRep(12345678.25, 12345678.25), "12345678.25");
+    EXPECT_EQ(FormattaFreqRep(9.999999999, 9.999999999), "10");
     EXPECT_EQ(FormattaIntRep(7), "   007");
     EXPECT_EQ(FormattaIntRep(-7), "   -007");
 }

@@ -44,7 +44,15 @@ class Corsa:
         )  # fmt: skip
 
     def Segnala(self, segnale=signal.SIGINT):
-        self.processo.send_signal(segnale)
+        os.kill(self.processo.pid, segnale)  # one that has ended is a zombie until it is waited for
+
+    def AspettaDetto(self, testo, secondi=60):
+        """Waits until standard output holds this text."""
+        fine = time.monotonic() + secondi
+        while testo.encode() not in os.pread(self._out.fileno(), 1 << 20, 0):
+            if time.monotonic() > fine:
+                raise AssertionError(f"never said: {testo}")
+            time.sleep(0.01)
 
     def Attendi(self, secondi=60):
         fine = time.monotonic() + secondi

@@ -186,7 +186,7 @@ class Peer:
         os.close(self._sveglia)
         os.close(self._leggi_sveglia)
 
-    def Aspetta(self, quando, secondi=15.0):
+    def Aspetta(self, quando, secondi=60.0):
         """Waits until `quando()` holds; False when it does not in time."""
         fine = time.monotonic() + secondi
         while not quando():

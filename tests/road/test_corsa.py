@@ -51,7 +51,7 @@ class ProvaCorsa(ProvaStrada):
 
     def test_pausa(self):
         """The stream stands still for as long as it was asked to; not a step is lost."""
-        with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
+        with Peer(flussi=[Flusso(pezzi=4, pausa=0.05)]) as peer:
             esito = self.Riesce(*self.Parole("--pause-after", "0.2", "--pause-for", "1"), peer=peer)
         pausa, ripresa = (peer.comandi.index(c) for c in ("#ASPA*", "#ASRE*"))
         self.assertLess(pausa, ripresa)
@@ -67,10 +67,10 @@ class ProvaCorsa(ProvaStrada):
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
             parole = self.Parole("--pause-after", "0", "--pause-for", "60")
             corsa = self.Avvia(*parole, peer=peer)
-            self.assertTrue(peer.Aspetta(lambda: peer.fermo))
-            time.sleep(0.5)
+            corsa.AspettaDetto('"phase":"pause"')
+            self.assertTrue(peer.fermo)
             corsa.Segnala()
-            esito = corsa.Attendi(10)
+            esito = corsa.Attendi()
         self.assertEqual(esito.codice, 5, str(esito))
         self.assertNotIn("#ASRE*", peer.comandi)
         self.assertIn("#ASBK*", peer.comandi[peer.comandi.index("#ASPA*") :])
@@ -88,11 +88,9 @@ class ProvaCorsa(ProvaStrada):
             parole = ["--json", "sweep", "--scan", "T", "--name", "N", "--timer", "600"]
             da = len(peer.comandi)
             corsa = self.Avvia(*parole, peer=peer)
-            self.assertTrue(peer.Aspetta(lambda: "#?FSA*" in peer.comandi[da:]
-                                         or len(peer.comandi) > da + 6))  # fmt: skip
-            time.sleep(1)
+            corsa.AspettaDetto('"left_s":599')
             corsa.Segnala()
-            esito = corsa.Attendi(10)
+            esito = corsa.Attendi()
         self.assertEqual(esito.codice, 5, str(esito))
         self.assertFalse((self.dati / "Sweep" / "N").exists())
         self.assertFalse([c for c in peer.comandi[da:] if c.startswith("#SSFD")])
@@ -121,14 +119,14 @@ class ProvaCorsa(ProvaStrada):
 
         def Leggi(parole):
             nonlocal detto
-            fine = time.monotonic() + 10
+            fine = time.monotonic() + 60
             while parole not in detto and time.monotonic() < fine:
                 if select.select([padrone], [], [], 0.1)[0]:
                     detto += os.read(padrone, 4096)
             self.assertIn(parole, detto)
             detto = detto.split(parole, 1)[1]
 
-        with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
+        with Peer(flussi=[Flusso(pezzi=4, pausa=0.05)]) as peer:
             processo = subprocess.Popen(
                 [PROGRAMMI / "orvane", "--data", self.dati, "--link", "tty:" + peer.percorso,
                  "sweep", "--scan", "T", "--name", "M", "--pause-after", "0.2"],
@@ -144,7 +142,7 @@ class ProvaCorsa(ProvaStrada):
             self.assertTrue(peer.fermo)
             os.write(padrone, b"\n")
             Leggi(b"resumed")
-            self.assertEqual(processo.wait(20), 0)
+            self.assertEqual(processo.wait(60), 0)
         self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 101 * 12)
 
     def test_parole_errate(self):
@@ -168,8 +166,11 @@ class ProvaCorsa(ProvaStrada):
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
             corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
             self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 100))
+            self.assertTrue(self.Riesce("archive").out.endswith("\trunning\n"))
+            for parole in (("delete", "M"), ("rename", "M", "N"), ("accept", "M")):
+                self.assertNotEqual(self.Orvane("archive", *parole, risposta="yes").codice, 0)
             corsa.Segnala(signal.SIGKILL)
-            self.assertEqual(corsa.Attendi(10).codice, -9)
+            self.assertEqual(corsa.Attendi().codice, -9)
         rs = self.FileMisura("M", "RS0").read_bytes()
         self.assertEqual((len(rs) % 12, rs), (0, Passi(peer.campioni[0], [0])[: len(rs)]))
         righe = self.Riesce("trace", "M").out.splitlines()

@@ -84,6 +84,11 @@ def PiuAlti(*tracce):
     )
 
 
+def SenzaRipetizioni(comandi):
+    """On a machine with much else to do a reply may come too late, and is asked for again."""
+    return [c for c, prima in zip(comandi, [None, *comandi]) if c != prima]
+
+
 class ProvaGeneri(ProvaStrada):
     def Prepara(self, dati, genere):
         for nome, su in (("QP", 66), ("AV", 56)):
@@ -122,7 +127,7 @@ class ProvaGeneri(ProvaStrada):
             with Peer(genere.modello, flussi=flussi, regole=genere.regole) as peer:
                 esito = self.Riesce("sweep", "--scan", "T", "--name", "M", *genere.opzioni, peer=peer,
                                     dati=dati)  # fmt: skip
-            self.assertEqual(peer.comandi, genere.attesi)
+            self.assertEqual(SenzaRipetizioni(peer.comandi), SenzaRipetizioni(genere.attesi))
             self.assertEqual(len(peer.campioni), len(genere.passate))
             boxes = [r for r in esito.err.splitlines() if r.startswith("[box] ")]
             self.assertEqual(boxes, [f"[box] {b} -> OK" for b in genere.boxes])

@@ -112,7 +112,7 @@ class ProvaFermata(ProvaStrada):
             corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
             self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 4000))
             corsa.Segnala(segnale)
-            esito = corsa.Attendi(20)
+            esito = corsa.Attendi()
         rs = self.FileMisura("M", "RS0").read_bytes()
         self.assertEqual(len(rs) % 12, 0)
         self.assertGreater(len(rs) // 12, 500)
@@ -146,7 +146,7 @@ class ProvaFermata(ProvaStrada):
             corsa.Segnala()
             time.sleep(0.2)
             corsa.Segnala()
-            esito = corsa.Attendi(10)
+            esito = corsa.Attendi()
         self.assertEqual(esito.codice, 5, str(esito))
         self.assertFalse((self.dati / "Sweep" / "M" / "M.RS0").exists())
 
@@ -177,7 +177,7 @@ class ProvaDisco(ProvaStrada):
                 resource.setrlimit(resource.RLIMIT_FSIZE, vecchio)
 
         with Peer(flussi=[Flusso(pezzi=1001)]) as peer:
-            esito = Avvia(peer).Attendi(30)
+            esito = Avvia(peer).Attendi()
         self.assertEqual(esito.codice, 4, str(esito))
         self.assertRegex(esito.err, r"\[box\] Cannot save file .*M\.RS0 -> OK")
         rs = self.FileMisura("M", "RS0").read_bytes()

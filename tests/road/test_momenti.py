@@ -57,6 +57,13 @@ ALTRI = {
     "a mark that is none, then one": ((OK, TESTA, A(DATI), A(b"SFD_EN"), FINE), 0, 104),
     "no sample at all": ((OK, TESTA, FINE), 0, 0),
     "garbage behind the mark": ((OK, TESTA, A(DATI), FINE, ROBACCIA), 0, 101),
+    "error in the header": ((OK, TESTA[:10], b"SFD=ERR 5\r\n"), 3, 0),
+    "garbage for a header": ((OK, ROBACCIA[:32], A(DATI), FINE), 0, 101),
+    "refusal among the samples": ((OK, TESTA, A(DATI[:80]), A(b"SERR\r\n"), FINE), 0, 43),
+    "garbage in the mark": ((OK, TESTA, A(DATI), A(b"SFD_" + ROBACCIA[:20]), FINE), 0, 113),
+    "error in the mark": ((OK, TESTA, A(DATI), A(b"SFD_SFD=ERR 5\r\n"), FINE), 0, 108),
+    "error behind the mark": ((OK, TESTA, A(DATI), FINE, b"SFD=ERR 5\r\n"), 0, 101),
+    "refusal behind the mark": ((OK, TESTA, A(DATI), FINE, b"SERR\r\n"), 0, 101),
     "unplugged behind the mark": ((OK, TESTA, A(DATI), FINE, "chiudi"), 3, 101),
 }
 CASI = {(guasto, momento): (prima + poi, 3, passi) for guasto, poi in GUASTI.items()
@@ -103,7 +110,7 @@ class ProvaMomenti(ProvaStrada):
                 parole = ["--data", str(dati), "--link", "tty:" + peer.percorso, "sweep", "--scan",
                           "T", "--name", "M"]  # fmt: skip
                 corsa = Corsa(parole, senza_segnali=True, davanti=["prlimit", limite])
-                esito = corsa.Attendi(30)
+                esito = corsa.Attendi()
             self.assertEqual(esito.codice, 4, str(esito))
             self.assertIn("cannot write", esito.err)
             rs = self.FileMisura("M", "RS0", dati)
@@ -127,13 +134,36 @@ class ProvaMomenti(ProvaStrada):
             os.chmod(peer.percorso, 0o666)
             parole = ["--data", str(self.dati), "--link", "tty:" + peer.percorso, "sweep",
                       "--scan", "T", "--name", "M"]  # fmt: skip
-            esito = Corsa(parole, utente=nessuno).Attendi(30)
+            esito = Corsa(parole, utente=nessuno).Attendi()
         self.assertEqual(esito.codice, 4, str(esito))
         self.assertIn("M.KSH", esito.err)
         self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
         for cartella in cartelle:
             cartella.chmod(0o755)
         self.assertFalse((self.dati / "Sweep" / "M").exists())
+        self.Prossima(self.dati)
+
+    def test_sola_lettura_nel_mezzo(self):
+        """The measure's directory becomes one where nothing can be made, while samples come: the trace
+        is whole, and the header, which cannot be written again, is that of the start."""
+        self.Tabella("T", BREVE)
+        nessuno = 65534 if os.geteuid() == 0 else None
+        for percorso in (self.dati, *self.dati.rglob("*")):
+            os.chown(percorso, nessuno or -1, -1)
+        with Peer("5520F", flussi=[Flusso(intestazione=10000.0, pezzi=4, pausa=0.02)]) as peer:
+            os.chmod(peer.percorso, 0o666)
+            parole = ["--data", str(self.dati), "--link", "tty:" + peer.percorso, "sweep",
+                      "--scan", "T", "--name", "M"]  # fmt: skip
+            corsa = Corsa(parole, utente=nessuno)
+            self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 8))
+            (self.dati / "Sweep" / "M").chmod(0o555)
+            esito = corsa.Attendi()
+        self.assertEqual(esito.codice, 4, str(esito))
+        self.assertIn("M.KSH", esito.err)
+        (self.dati / "Sweep" / "M").chmod(0o755)
+        self.assertEqual(self.FileMisura("M", "RS0").read_bytes(), Passi(peer.campioni[0], [0]))
+        self.assertEqual(self.FileMisura("M", "KSH").stat().st_size, 17770)
+        self.assertIn("incomplete", self.Riesce("archive").out)
         self.Prossima(self.dati)
 
 

@@ -20,6 +20,7 @@ LIMITI = {
 }
 FATTORI = {"Lisn": [(0.15e6, 1000), (5e6, 1150), (20e6, 900), (32e6, 1000)],
            "Cable loss dB": [(1e6, 50), (10e6, 120), (12e6, 130)]}  # fmt: skip
+SOLO = "Short"
 LETTO = time.mktime((2026, 5, 17, 14, 3, 9, 0, 0, -1))
 
 
@@ -47,15 +48,16 @@ def Numero(cent):
 
 
 class Misura:
-    """Two lines that overlap, Peak and Avg; the level of a sample is its own, so that rows tell."""
+    """Two lines that overlap, Peak and Avg; the level of a sample is its own, so that rows tell. With
+    positions each sample has a mast and a table, and the second limit alone is on."""
 
-    def __init__(self, seme):
+    def __init__(self, seme, posizioni=False):
         caso = random.Random(seme)
-        self.righe = []
+        self.righe, self.posizioni = [], posizioni
         for start, stop, step in ((0.15, 3, 0.05), (2, 30, 0.25)):
             campioni = []
             for k in range(int((stop - start) / step) + 1):
-                passo = [NESSUN_LIVELLO] * 6
+                passo = [NESSUN_LIVELLO] * 6 + [100 + k % 301, k % 360]
                 passo[0] = caso.randint(3500, 7500)
                 passo[3] = passo[0] - caso.randint(0, 1500) if caso.random() < 0.9 else NESSUN_LIVELLO
                 campioni.append((start + k * step, passo))
@@ -73,12 +75,19 @@ class Misura:
                                          (4308, 12, "5520")):  # fmt: skip
             Testo(setup, scarto, larghezza, testo)
         Campo(setup, 2998, "h", 1)
+        if self.posizioni:
+            Campo(setup, 1310, "h", 1)
+            Testo(setup, 1388, 60, SOLO)
+            Campo(setup, 3000, "h", 5)
         linee = [ScanLine(*r[:3], 2, (0, 3)) for r in self.righe]
         nome = cartella.name
         (cartella / f"{nome}.KSH").write_bytes(ScanRecord(*linee) + setup)
         for i, riga in enumerate(self.righe):
             rs = cartella / f"{nome}.RS{i}"
-            rs.write_bytes(b"".join(struct.pack("<6h", *p) for _, p in riga[3]))
+            rs.write_bytes(b"".join(struct.pack("<6h", *p[:6]) for _, p in riga[3]))
+            if self.posizioni:
+                tm = b"".join(struct.pack("<2h", *p[6:]) for _, p in riga[3])
+                (cartella / f"{nome}.TM{i}").write_bytes(tm)
             os.utime(rs, (LETTO + i, LETTO + i))
         for sotto, estensione, tabelle in (("Limits", "5SL", LIMITI), ("Factors", "5SC", FATTORI)):
             for nome, punti in tabelle.items():
@@ -100,15 +109,18 @@ class Report:
 
     def __init__(self, misura, tipo, detector, margine, limiti, fattori, unita):
         self.margine, self.unita, off = margine, unita, UNITA[unita]
+        self.nome = "Tower" if misura.posizioni else "Motor"
         d1, d2 = detector
+        # A limit that is alone is held against the detector of the second one.
+        del_limite = [d1, d1 if tipo == "1det" else d2][-len(limiti) :]
         self.righe = []
         for mhz, passo in misura.Traccia(d1):
             hz = f32(mhz * 1e6)
             correzione = [Valore(FATTORI[f], hz, lambda x: x) for f in fattori]
             somma = sum(v or 0 for v in correzione)
-            livello = [None if v <= NESSUN_LIVELLO else v + somma for v in passo]
+            livello = [None if v <= NESSUN_LIVELLO else v + somma for v in passo[:6]]
             valori = [Valore(LIMITI[n], hz, math.log) for n in limiti]
-            contro = [livello[d1], livello[d1 if tipo == "1det" else d2]]
+            contro = [livello[d] for d in del_limite]
             vicini = [v is not None and m is not None and v - margine * 100 <= m + 1e-6
                       for v, m in zip(valori, contro)]
             if not any(vicini):
@@ -118,17 +130,25 @@ class Report:
                 vuota = v is None or m is None
                 delta = None if vuota or not (vicino or tipo == "1det") else m - v
                 coppie.append([None if vuota else v + off, delta])
-            mostrati = [None if m is None else m + off for m in contro]
             if tipo == "2full":
+                mostrati = [None if livello[d] is None else livello[d] + off for d in detector]
+                coppie = [()] * (2 - len(coppie)) + coppie
                 celle = [c for m, coppia in zip(mostrati, coppie) for c in (m, *coppia)]
             else:
-                celle = [mostrati[0], *(c for coppia in coppie for c in coppia)]
-            self.righe.append((mhz, [Numero(c) for c in celle + correzione]))
+                primo = None if contro[0] is None else contro[0] + off
+                celle = [primo, *(c for coppia in coppie for c in coppia)]
+            dove = [f"   {p:03}" for p in passo[6:] if misura.posizioni]
+            self.righe.append((mhz, [Numero(c) for c in celle] + dove + [Numero(c) for c in correzione]))
         teste = [("Frequency", "", "MHz")]
-        for i, nome in enumerate(limiti):
-            if i == 0 or tipo == "2full":
+        if tipo != "2full":
+            teste.append((NOMI[del_limite[0]], "", unita))
+        for i, nome in enumerate([None] * (2 - len(limiti)) + limiti if tipo == "2full" else limiti):
+            if tipo == "2full":
                 teste.append((NOMI[detector[i]], "", unita))
-            teste += [("Limit", nome, unita), ("Delta", "", "dB")]
+            if nome:
+                teste += [("Limit", nome, unita), ("Delta", "", "dB")]
+        if misura.posizioni:
+            teste += [("Mast", "", "cm"), ("Table", "", "Deg")]
         self.teste = teste + [("Factor", nome, "dB") for nome in fattori]
 
     def Frequenza(self, mhz):
@@ -143,7 +163,7 @@ class Report:
         ore = [time.strftime("%d/%m/%Y %H:%M:%S", time.localtime(LETTO + i)) for i in (0, 1)]
         corti = [n if len(n) <= 11 else n[:9] + ".." for _, n, _ in self.teste]
         return [
-            "Motor " + " - ".join(ore), "Rel. SW 1.0 (May 2026)", "Rel. FW 2.15", "5520   S/N: ABC",
+            self.nome + " " + " - ".join(ore), "Rel. SW 1.0 (May 2026)", "Rel. FW 2.15", "5520   S/N: ABC",
             f"Margin: {self.margine:g} dB", "", Riga(t for t, _, _ in self.teste), Riga(corti),
             Riga(f"[{u}]" for _, _, u in self.teste), "",
             *(Riga([self.Frequenza(mhz), *celle]) for mhz, celle in self.righe)]  # fmt: skip
@@ -181,6 +201,8 @@ CASI = [
     ("2det", "PA", 999, ["Short", "QP mains"], [], "dBµV"),
     ("2full", "PA", 0, ["QP mains", "Short"], ["Lisn", "Cable loss dB"], "dBpT"),
 ]
+CASI_POSIZIONI = [(tipo, "PA", margine, [SOLO], ["Lisn"], "dBµV")
+                  for tipo, margine in (("1det", -2), ("2det", 3), ("2full", 999))]  # fmt: skip
 
 
 class Reports(ProvaStrada):
@@ -188,22 +210,25 @@ class Reports(ProvaStrada):
         super().setUp()
         self.misura = Misura(7)
         self.misura.Scrivi(self.dati / "Sweep" / "Motor")
+        self.torre = Misura(8, posizioni=True)
+        self.torre.Scrivi(self.dati / "Sweep" / "Tower")
 
     def Report(self, caso, out, *altro):
+        misura = self.torre if caso in CASI_POSIZIONI else self.misura
         tipo, lettere, margine, limiti, fattori, unita = caso
         parole = ["--kind", tipo, "--detector", lettere[0], "--detector2", lettere[1],
                   "--margin", str(margine), "--unit", unita]  # fmt: skip
-        for opzione, nomi in (("--limit", limiti), ("--factor", fattori)):
+        for opzione, nomi in (("--limit", [] if misura.posizioni else limiti), ("--factor", fattori)):
             for nome in nomi:
                 parole += [opzione, nome]
-        self.Riesce("report", "Motor", "--out", str(self.dati / out), *parole, *altro)
         detector = ["PQRANC".index(c) for c in lettere]
-        atteso = Report(self.misura, tipo, detector, margine, limiti, fattori, unita)
+        atteso = Report(misura, tipo, detector, margine, limiti, fattori, unita)
+        self.Riesce("report", atteso.nome, "--out", str(self.dati / out), *parole, *altro)
         return (self.dati / out).read_bytes(), atteso
 
     def test_text_line_by_line(self):
         righe = 0
-        for caso in CASI:
+        for caso in CASI + CASI_POSIZIONI:
             with self.subTest(caso=caso):
                 byte, atteso = self.Report(caso, "r.txt")
                 self.assertEqual(byte.decode("cp1252").split("\r\n"), [*atteso.Testo(), ""])

@@ -60,7 +60,7 @@ class ProvaUccisione(ProvaStrada):
         corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
         time.sleep(quando)
         os.kill(corsa.processo.pid, signal.SIGKILL)  # one that has ended is still a zombie
-        self.assertIn(corsa.Attendi(10).codice, (-9, 0))
+        self.assertIn(corsa.Attendi().codice, (-9, 0))
 
     def Mandati(self, peer):
         """What the peer has sent, and how much of it the program had read."""
@@ -80,7 +80,9 @@ class ProvaUccisione(ProvaStrada):
         self.assertEqual((len(byte) % 12, byte), (0, mandati[: len(byte)]))
         voce = self.Voce(dati)
         if not ksh.exists():
-            self.assertEqual((byte, voce["incomplete"] if voce else True), (b"", True))
+            # Ahead of the mark the directory may be there, with nothing in it.
+            vuota = not any(f.name != ".salva-0" for f in rs.parent.glob("*"))
+            self.assertEqual((byte, vuota or voce["incomplete"]), (b"", True))
             return None
         self.assertEqual(ksh.stat().st_size, 17770)
         self.assertTrue(voce["readable"])

@@ -15,7 +15,7 @@ CASI = [
     (["--link", "tty:", "identify"], 2, "tty: wants a path"),
     (["--link", "sim:toaster", "identify"], 2, "toaster"),
     (["identify", "now"], 2, "takes no further words"),
-    (["archive", "all"], 2, "takes no further words"),
+    (["archive", "all"], 2, "unknown word"),
     (["ports", "all"], 2, "takes no further words"),
     (["scan", "paint", "X"], 2, "move, copy or clear?"),
     (["scan", "show"], 2, "wants the name of a scan table"),

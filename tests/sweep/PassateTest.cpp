@@ -288,5 +288,21 @@ TEST_F(PassateTest, AMeasureBearsTheMarkOfItsRunUntilTheEnd) {
     EXPECT_FALSE(ElencaMisure(banco.scrivania)[0].incompiuta);
 }
 
+TEST_F(PassateTest, AMeasureInAnothersHandStaysAsItIs) {
+    ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    banco.scrivania.setup.OverwriteWarning = 0;
+    banco.scrivania.albero =
+        AlberoDati(banco.cartella.Percorso(), {},
+                   {.prendi = {}, .presa = [](const std::filesystem::path&) { return true; }});
+    ASSERT_TRUE(SegnaCorsa(banco.scrivania.albero, "M"));
+    const size_t passi = Passi("M");
+    EXPECT_GT(passi, 0u);
+    EXPECT_EQ(Esegui(), EsitoCorsa::GuastoFile);
+    EXPECT_EQ(corsa.stato.motivo, "Sweep M is being measured by another console");
+    EXPECT_EQ(Riquadri().back(), corsa.stato.motivo);
+    EXPECT_EQ(Passi("M"), passi);
+    EXPECT_TRUE(MisuraInCorso(banco.scrivania.albero, "M")) << "the mark is not this run's";
+}
+
 } // namespace
 } // namespace orvane

@@ -118,6 +118,7 @@ void Colonna::SegueIlModello() {
 
 void Colonna::PrimaDiOgniRicevitoreNullaCambia() {
     Banco banco;
+    banco.Scheda(Modalita::Sweep); // the archive would give the user's record back
     banco.posto->scrivania.setup.Attenuator = 50;
     banco.posto->scrivania.setup.BWIFText = "1 MHz";
     banco.posto->finestra.Carica();

@@ -1,4 +1,6 @@
 // The main window as it stands: names, tabs, menus, marks, settings, archive.
+#include <fstream>
+
 #include <QMenu>
 #include <QStandardPaths>
 
@@ -123,7 +125,7 @@ void Finestra::LeSchedeCambianoModo() {
 
 void Finestra::VociDelModoSpente() {
     Banco banco;
-    for (const char* nome : {"MNUMakeTabSubRange", "MNUSaveImage", "MNUReportPDF", "MNUWaterfall"})
+    for (const char* nome : {"MNUMakeTabSubRange", "MNUSaveImage", "MNUReport0", "MNUWaterfall"})
         QVERIFY2(!banco.Voce(nome)->isEnabled(), nome);
     for (const char* nome : {"MNUOverwriteWarning", "MNURemoteLink", "CMBExit"})
         QVERIFY2(banco.Voce(nome)->isEnabled(), nome);
@@ -182,7 +184,9 @@ void Finestra::DinamicaSiSalvaSubito() {
 
 void Finestra::ArchivioMostraLaMisuraGuasta() {
     Banco banco;
-    std::filesystem::create_directories(banco.cartella.Percorso() / "Sweep" / "Torn");
+    const auto cartella = banco.cartella.Percorso() / "Sweep" / "Torn";
+    std::filesystem::create_directories(cartella);
+    std::ofstream(cartella / "Torn.KSH") << "torn";
     banco.Scheda(Modalita::Sweep);
     banco.Scheda(Modalita::SweepsArchive);
     auto* lista = banco.Trova<QListView>("CBXSweepsArchive");
