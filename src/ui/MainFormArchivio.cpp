@@ -104,7 +104,8 @@ void MainForm::CollegaQuadro() {
     });
     connect(quadro_, &MainPict::PiccoScelto, this,
             [&picchi](int, qulonglong indice) { picchi.Evidenzia(indice); });
-    connect(quadro_, &MainPict::PiccoSorvolato, &picchi, &PannelloPicchi::Evidenzia);
+    connect(quadro_, &MainPict::PiccoSorvolato, &picchi, &PannelloPicchi::ShowPictMouseHP);
+    connect(quadro_, &MainPict::LetturaCambiata, stato_, &RigaStato::MostraMarker);
     connect(quadro_, &MainPict::SintonizzaManuale, this, &MainForm::SintonizzaManuale);
     connect(quadro_, &MainPict::MisuraSuccessiva, this, [this](int verso) {
         if (console_->stato.modalita == Modalita::SweepsArchive)

@@ -58,7 +58,7 @@ DetectorKind PrimoDetector(const MisuraAperta& misura) {
 
 } // namespace
 
-/// A measure that is compared stands beside its reference. The whole of one with several passes is
+/// A measure that is compared stands before its reference. The whole of one with several passes is
 /// shown as its passes, each in a turn of the colours; markers and verdict read the highest of
 /// them.
 std::vector<StratoQuadro> RegiaMisura::StratiPropri(const StatoArchivio& aperta) const {
