@@ -157,14 +157,13 @@ void MainForm::RinnovaElenco() {
     StatoArchivio& a = console_->stato.archivio;
     if (!a.attivo)
         return;
-    orvane::ElencaArchivio(scrivania_, a);
+    const std::string prima = a.misura.nome;
+    const bool stessa = RinnovaArchivio(scrivania_, a).mostrata == prima;
     archivio_->MostraElenco(a.elenco);
     archivio_->Scegli(a.misura.nome);
-    const bool manca = std::ranges::find(a.elenco, a.misura.nome) == a.elenco.end();
-    if (manca && !(a.misura.nome.empty() && a.elenco.empty()))
-        ApriMisuraScelta(Q(a.misura.nome));
-    else
-        MostraInVista(true);
+    if (!stessa)
+        comuni_->Carica();
+    MostraInVista(stessa);
 }
 
 /// Picture and everything beside it, by what is open.

@@ -64,11 +64,8 @@ DetectorKind PrimoDetector(const MisuraAperta& misura) {
 /// shown as its passes, each in a turn of the colours; markers and verdict read the highest of
 /// them.
 std::vector<StratoQuadro> RegiaMisura::StratiPropri(const StatoArchivio& aperta) const {
-    if (aperta.riferimento && Accesa(Sovrapposte::Genere::Riferimento, aperta.riferimento->nome)) {
-        auto strati = StratiConfronto(aperta.misura, *aperta.riferimento, aperta.detector, s_.env);
-        std::ranges::reverse(strati);
-        return strati;
-    }
+    if (aperta.riferimento && Accesa(Sovrapposte::Genere::Riferimento, aperta.riferimento->nome))
+        return StratiConfronto(aperta.misura, *aperta.riferimento, aperta.detector, s_.env);
     const auto passate = Passate(aperta);
     const bool intera = aperta.nodo == 0 && passate.size() > 1;
     std::vector<StratoQuadro> strati;
@@ -108,10 +105,6 @@ void RegiaMisura::Mostra(const StatoArchivio& aperta, bool tieni) {
         return Togli();
     ContenutoQuadro contenuto = ComponiQuadro(aperta.misura, s_.setup, s_.env);
     AggiungiLimitiRighe(s_, contenuto);
-    // A limit that is on without a table says nothing.
-    std::erase_if(contenuto.verdetto.limiti, [&](const VerdettoLimite& v) {
-        return NumeroPunti(aperta.misura.tabelle.slot[size_t(kPrimoLimite + v.slot)]) == 0;
-    });
     contenuto.strati = StratiPropri(aperta);
     std::ranges::move(StratiSopra(aperta), std::back_inserter(contenuto.strati));
     MostraTabellaPicchi(aperta, contenuto);

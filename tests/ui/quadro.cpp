@@ -340,7 +340,7 @@ void QuadroUi::BadgeVannoAlPeggiore() {
     VerdettoLimite nulla{.slot = 1, .limite = "C", .detector = DetectorKind::Avg};
     c.quadro.ImpostaVerdetto({{male, nulla}, Giudizio::Fail});
     auto* badge = c.quadro.findChild<LBVerdetto*>(QStringLiteral("LBVerdetto0"));
-    QCOMPARE(badge->text(), QStringLiteral("QP  +1.2 dB at 8.0 MHz"));
+    QCOMPARE(badge->text(), QStringLiteral("QP  +1.20 dB at 8.0 MHz"));
     QVERIFY(badge->accessibleName().contains(QStringLiteral("B: FAIL")));
     QVERIFY(!c.quadro.findChild<LBVerdetto*>(QStringLiteral("LBVerdetto1"))->isEnabled());
     badge->click();
