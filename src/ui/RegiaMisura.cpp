@@ -6,7 +6,6 @@
 #include <QColor>
 
 #include "base/Testo.h"
-#include "data/Interpolazione.h"
 #include "graph/Confronto.h"
 #include "records/ColoriGrafico.h"
 #include "records/ImpostazioniReport.h"

@@ -64,7 +64,8 @@ ALTRI = {
     "error in the mark": ((OK, TESTA, A(DATI), A(b"SFD_SFD=ERR 5\r\n"), FINE), 0, 108),
     "error behind the mark": ((OK, TESTA, A(DATI), FINE, b"SFD=ERR 5\r\n"), 0, 101),
     "refusal behind the mark": ((OK, TESTA, A(DATI), FINE, b"SERR\r\n"), 0, 101),
-    "unplugged behind the mark": ((OK, TESTA, A(DATI), FINE, "chiudi"), 3, 101),
+    # Nothing need be asked behind the mark: the run may be over before it would notice.
+    "unplugged behind the mark": ((OK, TESTA, A(DATI), FINE, "chiudi"), (0, 3), 101),
 }
 CASI = {(guasto, momento): (prima + poi, 3, passi) for guasto, poi in GUASTI.items()
         for momento, (prima, passi) in MOMENTI.items()}  # fmt: skip
@@ -90,7 +91,8 @@ class ProvaMomenti(ProvaStrada):
             with Peer("5520F", flussi=[Copione(*pezzi)]) as peer:
                 esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati,
                                     pazienza=0.5)  # fmt: skip
-            self.assertEqual(esito.codice, codice, str(esito))
+            codici = codice if isinstance(codice, tuple) else (codice,)
+            self.assertIn(esito.codice, codici, str(esito))
             rs = self.FileMisura("M", "RS0", dati).read_bytes()
             self.assertEqual((len(rs) / 12, rs), (passi, Passi(peer.campioni[0], [0])[: len(rs)]))
             self.assertEqual(self.FileMisura("M", "KSH", dati).stat().st_size, 17770)
