@@ -1,24 +1,20 @@
 #include "ui/AnteprimaReport.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "report/LogoReport.h"
 #include "ui/Moduli.h"
 #include "ui/StileConsole.h"
 
 namespace orvane {
 namespace {
 
-constexpr double kCmPerPunto = 2.54 / 72;
 constexpr double kPixelPerCm = 96 / 2.54; ///< at 100 %
-constexpr double kPassoCourier = 0.6;     ///< of the em
-constexpr int kFinezza = 10;              ///< letters are set in tenths of a point
-constexpr int kBordoFoglio = 18;
 
 struct VoceZoom {
     const char* testo;
@@ -29,86 +25,7 @@ constexpr VoceZoom kZoom[] = {{"Whole page", 0}, {"Page width", -1}, {"50 %", 0.
                               {"150 %", 1.5},    {"200 %", 2},       {"300 %", 3}};
 constexpr int kPrimoFisso = 2;
 
-QFont FontDi(const TestoPagina& posto) {
-    const bool numero = posto.font == FontPagina::Numero;
-    QFont carattere(numero ? QStringLiteral("Times New Roman") : QStringLiteral("Courier New"));
-    carattere.setStyleHint(numero ? QFont::Times : QFont::TypeWriter);
-    carattere.setFixedPitch(!numero);
-    carattere.setItalic(!numero);
-    carattere.setPixelSize(static_cast<int>(std::lround(posto.corpo * kFinezza)));
-    return carattere;
-}
-
 } // namespace
-
-FoglioQt::FoglioQt(const PagineReport& pagine, QWidget* padre) : QWidget(padre), pagine_(pagine) {
-    setObjectName(QStringLiteral("FoglioReport"));
-    const std::vector<uint8_t> logo = LogoBMP();
-    logo_ = QImage::fromData(logo.data(), static_cast<int>(logo.size()), "BMP");
-    misura_ = QImage::fromData(pagine.misura.data(), static_cast<int>(pagine.misura.size()), "BMP");
-}
-
-void FoglioQt::Mostra(size_t pagina) {
-    pagina_ = pagina;
-    update();
-}
-
-void FoglioQt::Scala(double pixelPerCm) {
-    scala_ = pixelPerCm;
-    setFixedSize(static_cast<int>(pagine_.larghezzaCm * scala_) + 2 * kBordoFoglio,
-                 static_cast<int>(pagine_.altezzaCm * scala_) + 2 * kBordoFoglio);
-    update();
-}
-
-void FoglioQt::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    const QRectF carta(kBordoFoglio, kBordoFoglio, pagine_.larghezzaCm * scala_,
-                       pagine_.altezzaCm * scala_);
-    for (int i = 4; i > 0; --i)
-        p.fillRect(carta.adjusted(-i, 2 - i, i, 2 + i), QColor(0, 0, 0, 16));
-    p.fillRect(carta, Qt::white);
-    p.setClipRect(carta);
-    p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                     QPainter::SmoothPixmapTransform);
-    p.translate(carta.bottomLeft());
-    const FoglioReport& foglio = pagine_.fogli.at(pagina_);
-    for (const ImmagineFoglio& immagine : foglio.immagini)
-        DisegnaImmagine(p, immagine);
-    for (const RigaFoglio& riga : foglio.righe)
-        DisegnaRiga(p, riga);
-}
-
-/// Whatever font stands in for the file's, a line is as long as in the file.
-void FoglioQt::DisegnaRiga(QPainter& p, const RigaFoglio& riga) const {
-    const QString testo = QString::fromStdString(riga.testo);
-    const QFont carattere = FontDi(riga.posto);
-    const double larga = QFontMetricsF(carattere).horizontalAdvance(testo);
-    if (larga <= 0)
-        return;
-    const double voluta =
-        riga.posto.font == FontPagina::Numero
-            ? larga
-            : kPassoCourier * carattere.pixelSize() * static_cast<double>(testo.size());
-    const double unita = scala_ * kCmPerPunto / kFinezza;
-    p.save();
-    p.translate(riga.posto.x * scala_, -riga.posto.y * scala_);
-    p.scale(unita * voluta / larga, unita);
-    p.setPen(Qt::black);
-    p.setFont(carattere);
-    p.drawText(QPointF(riga.posto.aDestra ? -larga : 0, 0), testo);
-    p.restore();
-}
-
-void FoglioQt::DisegnaImmagine(QPainter& p, const ImmagineFoglio& immagine) {
-    const QRectF dove(immagine.dove.x * scala_, -(immagine.dove.y + immagine.dove.altezza) * scala_,
-                      immagine.dove.larghezza * scala_, immagine.dove.altezza * scala_);
-    if (immagine.quale == ImmaginePagina::Logo)
-        return p.drawImage(dove, logo_);
-    const QSize punti = (dove.size() * devicePixelRatioF()).toSize();
-    if (ridotta_.size() != punti)
-        ridotta_ = misura_.scaled(punti, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    p.drawImage(dove, ridotta_);
-}
 
 AnteprimaReport::AnteprimaReport(PagineReport pagine, const QString& misura, QWidget* padre)
     : QDialog(padre), pagine_(std::move(pagine)), foglio_(new FoglioQt(pagine_, this)),
@@ -199,7 +116,7 @@ void AnteprimaReport::Ingrandisci(int verso) {
 
 void AnteprimaReport::AggiornaScala() {
     const double fattore = kZoom[CBXZoom_->currentIndex()].fattore;
-    const QSize spazio = area_->size() - QSize(2 * kBordoFoglio + 2, 2 * kBordoFoglio + 2);
+    const QSize spazio = area_->size() - QSize(2 * FoglioQt::kBordo + 2, 2 * FoglioQt::kBordo + 2);
     const int barra = area_->verticalScrollBar()->sizeHint().width();
     double scala = fattore * kPixelPerCm;
     if (fattore < 0)

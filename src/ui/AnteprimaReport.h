@@ -3,39 +3,13 @@
 
 #include <QComboBox>
 #include <QDialog>
-#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 
-#include "report/PagineReport.h"
+#include "ui/FoglioQt.h"
 
 namespace orvane {
-
-/// One page as a sheet of paper.
-class FoglioQt : public QWidget {
-    Q_OBJECT
-public:
-    FoglioQt(const PagineReport& pagine, QWidget* padre);
-
-    void Mostra(size_t pagina);
-    /// Pixels a cm of the sheet.
-    void Scala(double pixelPerCm);
-
-protected:
-    void paintEvent(QPaintEvent* evento) override;
-
-private:
-    void DisegnaRiga(QPainter& p, const RigaFoglio& riga) const;
-    void DisegnaImmagine(QPainter& p, const ImmagineFoglio& immagine);
-
-    const PagineReport& pagine_;
-    QImage logo_;
-    QImage misura_;
-    QImage ridotta_; ///< the picture of the measure in the size that it was last drawn in
-    size_t pagina_ = 0;
-    double scala_ = 20;
-};
 
 class AnteprimaReport : public QDialog {
     Q_OBJECT

@@ -52,7 +52,10 @@ private:
     QWidget* CreaCsv();
     QCheckBox* CreaScelta(const char* nome, const QString& testo, const QString& aiuto, size_t voce,
                           bool acceso, int16_t siVale);
-    QLayout* CreaPulsanti();
+    QPushButton* CreaUscita(const char* nome, const QString& testo, const QString& aiuto,
+                            std::function<void()> cosa);
+    QLayout* CreaSalvataggi();
+    QLayout* CreaPiede();
 
     void Compila();
     void MostraCompilazione(bool si);
@@ -80,7 +83,7 @@ private:
     QLineEdit* TBMargin_ = nullptr;
     QLabel* sospeso_ = nullptr; ///< a margin was typed and not entered
     QLabel* nota_ = nullptr;
-    std::vector<QPushButton*> salva_;
+    std::vector<QPushButton*> salva_; ///< with the preview: off for a table cut short
     QPushButton* CMBContinue_ = nullptr;
     QPushButton* CMBExit_ = nullptr;
 };

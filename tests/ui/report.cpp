@@ -228,6 +228,12 @@ void ReportUi::AutoReportDopoLaCorsa() {
     banco.Trova<QLineEdit>("TBMisura")->setText(QStringLiteral("Lamp2"));
     QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
     QVERIFY(std::filesystem::exists(file));
+    // What cannot be written is told, over the wait that is still up.
+    std::filesystem::create_directories(file.parent_path() / "Report_Lamp3.PDF");
+    banco.Trova<QLineEdit>("TBMisura")->setText(QStringLiteral("Lamp3"));
+    QTest::mouseClick(banco.Trova<QPushButton>("CMBExecuteSweep"), Qt::LeftButton);
+    QVERIFY(banco.riquadri.last().endsWith(QLatin1String("Report_Lamp3.PDF Is already open")));
+    QVERIFY(!QApplication::overrideCursor());
 }
 
 QTEST_MAIN(ReportUi)
