@@ -6,6 +6,7 @@
 #include "base/Numeri.h"
 #include "base/Percorsi.h"
 #include "console/CambioUnita.h"
+#include "data/Cartelle.h"
 #include "data/NomiDisco.h"
 #include "data/Panels.h"
 #include "graph/Confronto.h"
@@ -41,11 +42,14 @@ void ImpostaSetup(Scrivania& s, const SetupRecord& base) {
     s.setup = std::move(nuovo);
 }
 
+/// Without a box where it cannot be written: an archive that is only to be read would show one at
+/// each measure.
 void ImpostaSweepPath(Scrivania& s, const std::string& percorso) {
     if (s.env.SweepPath == percorso)
         return;
     s.env.SweepPath = percorso;
-    SalvaPanelEPN(s, kPannelloEPN);
+    s.albero.AssicuraCartella(cartella::kPanels);
+    s.albero.Salva(kPannelloEPN, ScriviRecord(s.env));
 }
 
 void Svuota(Scrivania& s, StatoArchivio& a) {
@@ -118,7 +122,7 @@ std::string ProssimaConHeader(const Scrivania& s, const StatoArchivio& a, const 
                a.elenco.begin();
     };
     const auto quanti = static_cast<long>(a.elenco.size());
-    const long qui = posto(nome);
+    const long qui = posto(nome) < quanti ? posto(nome) : -1;
     const long da = posto(a.misura.nome);
     const int verso = da < quanti && da > qui ? -1 : 1;
     for (const int passo : {verso, -verso})
@@ -175,6 +179,15 @@ EsitoMostra VisualizzaDatiSweepata(Scrivania& s, StatoArchivio& a, const std::st
     if (a.elenco.empty())
         ImpostaSweepPath(s, "Untitled.EST");
     return esito;
+}
+
+EsitoMostra RinnovaArchivio(Scrivania& s, StatoArchivio& a) {
+    // By the list as it was: it alone tells what stood beside a measure that is gone.
+    if (a.attivo && !a.misura.nome.empty() && !HaHeader(s, a.misura.nome))
+        return VisualizzaDatiSweepata(s, a, a.misura.nome);
+    if (a.attivo)
+        ElencaArchivio(s, a);
+    return {.mostrata = a.misura.nome, .elencoCambiato = a.attivo};
 }
 
 bool ClickTreeViewFileSweep(Scrivania& s, StatoArchivio& a, size_t nodo) {

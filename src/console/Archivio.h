@@ -48,6 +48,8 @@ struct EsitoMostra {
 /// on the way is shown. A damaged header is told; the measure is then on show with `leggibile`
 /// false. An empty name blanks the view. Nothing without `attivo`: the set-up would be lost.
 EsitoMostra VisualizzaDatiSweepata(Scrivania& s, StatoArchivio& a, const std::string& nome);
+/// The list from the disk again; a measure on show that is gone gives way to its neighbour.
+EsitoMostra RinnovaArchivio(Scrivania& s, StatoArchivio& a);
 /// A row of the tree; false for a heading, and for one that is not there. Reads the trace, not the
 /// header.
 bool ClickTreeViewFileSweep(Scrivania& s, StatoArchivio& a, size_t nodo);
@@ -79,12 +81,10 @@ AbilitazioniArchivio ControllaAbilitazioniArchivio(const StatoArchivio& a);
 
 /// All traces on show again from their files: after a change of what is added to them.
 void CaricaTracceArchivio(Scrivania& s, StatoArchivio& a);
-/// The envelope of several of the measure's traces by one detector (the first that was measured
-/// without one), with the factors that `setup` has on; made in memory.
-std::shared_ptr<const SweepTrace> TracciaInviluppo(Scrivania& s, const MisuraAperta& misura,
-                                                   const SetupRecord& setup,
-                                                   std::span<const std::string> basi,
-                                                   std::optional<DetectorKind> detector);
+/// The measure's trace becomes the envelope of several of its traces by one detector (the first
+/// that was measured without one), with the factors that `setup` has on; made in memory.
+void CaricaInviluppo(Scrivania& s, MisuraAperta& misura, const SetupRecord& setup,
+                     std::span<const std::string> basi, std::optional<DetectorKind> detector);
 
 // --- Comparison.
 

@@ -21,9 +21,9 @@ DetectorKind DetectorInviluppo(const MisuraAperta& misura, std::optional<Detecto
 void CaricaTracciaNodo(Scrivania& s, MisuraAperta& misura, const ContestoNodi& contesto,
                        const SetupRecord& setup, std::optional<DetectorKind> detector) {
     if (misura.vista == ViewMode::Inviluppo && !contesto.Ha(submisura::kInviluppo))
-        misura.traccia = TracciaInviluppo(s, misura, setup, PosizioniMastTable(contesto), detector);
+        CaricaInviluppo(s, misura, setup, PosizioniMastTable(contesto), detector);
     else if (misura.base == kBaseInviluppo && !contesto.Ha(kBaseInviluppo))
-        misura.traccia = TracciaInviluppo(s, misura, setup, PassateDellaMisura(contesto), detector);
+        CaricaInviluppo(s, misura, setup, PassateDellaMisura(contesto), detector);
     else
         CaricaTracciaMisura(s, misura, setup, detector);
 }
@@ -62,20 +62,22 @@ void CaricaRiferimento(Scrivania& s, StatoArchivio& a) {
 
 } // namespace
 
-std::shared_ptr<const SweepTrace> TracciaInviluppo(Scrivania& s, const MisuraAperta& misura,
-                                                   const SetupRecord& setup,
-                                                   std::span<const std::string> basi,
-                                                   std::optional<DetectorKind> detector) {
+void CaricaInviluppo(Scrivania& s, MisuraAperta& misura, const SetupRecord& setup,
+                     std::span<const std::string> basi, std::optional<DetectorKind> detector) {
     const DetectorKind quale = DetectorInviluppo(misura, detector);
     std::vector<std::shared_ptr<const SweepTrace>> tracce;
+    SweepTrace coperti;
     MisuraAperta una = misura;
     una.vista = ViewMode::Normale;
     for (const std::string& base : basi) {
         una.base = base;
         CaricaTracciaMisura(s, una, setup, quale);
         tracce.push_back(una.traccia);
+        coperti.insert(coperti.end(), una.coperti->begin(), una.coperti->end());
     }
-    return std::make_shared<SweepTrace>(InviluppoTracce(tracce, quale));
+    misura.traccia = std::make_shared<SweepTrace>(InviluppoTracce(tracce, quale, &coperti));
+    std::ranges::stable_sort(coperti, {}, &CampioneTraccia::freqMhz);
+    misura.coperti = std::make_shared<SweepTrace>(std::move(coperti));
 }
 
 void CaricaTracceArchivio(Scrivania& s, StatoArchivio& a) {

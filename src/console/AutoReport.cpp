@@ -36,7 +36,7 @@ MisuraAperta ApriPerReport(Scrivania& s, const std::string& nome, const EnvRecor
     const auto detector = static_cast<DetectorKind>(
         ReportDellaMisura(env, TipoReport::UnDetector, misura).ReportDetector);
     misura.base = std::string(kBaseInviluppo);
-    misura.traccia = TracciaInviluppo(s, misura, run, passate, detector);
+    CaricaInviluppo(s, misura, run, passate, detector);
     return misura;
 }
 

@@ -38,15 +38,18 @@ double PiuBassa(const std::vector<Corsia>& corsie) {
 }
 
 /// The best sample of one frequency; moves the traces that have it behind it.
-CampioneTraccia Migliore(std::vector<Corsia>& corsie, double mhz, size_t detector) {
+CampioneTraccia Migliore(std::vector<Corsia>& corsie, double mhz, size_t detector,
+                         SweepTrace* coperti) {
     const CampioneTraccia* migliore = nullptr;
     for (Corsia& corsia : corsie) {
         if (corsia.Mhz() != mhz && !StessaFrequenza(corsia.Mhz(), mhz))
             continue;
-        const CampioneTraccia& questo = corsia.Qui();
-        if (!migliore || Valore(questo.livello[detector]) > Valore(migliore->livello[detector]))
-            migliore = &questo;
+        const CampioneTraccia* altro = &corsia.Qui();
         ++corsia.k;
+        if (!migliore || Valore(altro->livello[detector]) > Valore(migliore->livello[detector]))
+            std::swap(migliore, altro);
+        if (coperti && altro)
+            NotaCoperto(*coperti, *migliore, *altro);
     }
     return *migliore;
 }
@@ -86,7 +89,7 @@ bool SalvaRiga(const Scrivania& s, const std::string& misura, int numero, const 
 } // namespace
 
 SweepTrace InviluppoTracce(std::span<const std::shared_ptr<const SweepTrace>> tracce,
-                           DetectorKind detector) {
+                           DetectorKind detector, SweepTrace* coperti) {
     std::vector<Corsia> corsie;
     for (const auto& traccia : tracce)
         corsie.push_back({traccia.get()});
@@ -94,7 +97,7 @@ SweepTrace InviluppoTracce(std::span<const std::shared_ptr<const SweepTrace>> tr
     for (double mhz = PiuBassa(corsie); mhz != kMai; mhz = PiuBassa(corsie)) {
         const bool continua =
             std::ranges::any_of(corsie, [](const Corsia& corsia) { return corsia.Continua(); });
-        inviluppo.push_back(Migliore(corsie, mhz, static_cast<size_t>(detector)));
+        inviluppo.push_back(Migliore(corsie, mhz, static_cast<size_t>(detector), coperti));
         inviluppo.back().stacco = !continua;
     }
     return inviluppo;

@@ -13,9 +13,9 @@ namespace orvane {
 /// At each frequency that any of the traces has, the sample with the highest value of `detector`,
 /// with all that it holds; on a tie the earlier trace. Frequencies meet by `StessaFrequenza`, so
 /// that traces of different steps keep their own points between the common ones. A gap stays only
-/// where no trace goes on.
+/// where no trace goes on. `coperti` gets what the best samples hide.
 SweepTrace InviluppoTracce(std::span<const std::shared_ptr<const SweepTrace>> tracce,
-                           DetectorKind detector);
+                           DetectorKind detector, SweepTrace* coperti = nullptr);
 
 /// A line of a stored envelope: record k beside record k.
 struct RigaInviluppo {

@@ -154,20 +154,35 @@ bool Vince(const CampioneTraccia& nuovo, const CampioneTraccia& presente, size_t
     return a != b ? a > b : nuovo.riga < presente.riga;
 }
 
+/// How the samples of one frequency become one.
+struct Fusione {
+    size_t detector = 0;
+    bool fondi = true;
+    SweepTrace* coperti = nullptr;
+
+    void Aggiungi(CampioneTraccia& presente, CampioneTraccia nuovo) const {
+        if (Vince(nuovo, presente, detector))
+            std::swap(nuovo, presente);
+        if (coperti)
+            NotaCoperto(*coperti, presente, nuovo);
+    }
+};
+
 /// The samples of a line that stand before `finoMhz`, onto the end of the trace.
-void Accoda(SweepTrace& traccia, RigaLetta& riga, double finoMhz, size_t detector, bool fondi) {
+void Accoda(SweepTrace& traccia, RigaLetta& riga, double finoMhz, const Fusione& fusione) {
     do {
         const CampioneTraccia nuovo = riga.Prendi();
-        if (!fondi || traccia.empty() || !StessaFrequenza(traccia.back().freqMhz, nuovo.freqMhz))
+        if (!fusione.fondi || traccia.empty() ||
+            !StessaFrequenza(traccia.back().freqMhz, nuovo.freqMhz))
             traccia.push_back(nuovo);
-        else if (Vince(nuovo, traccia.back(), detector))
-            traccia.back() = nuovo;
+        else
+            fusione.Aggiungi(traccia.back(), nuovo);
     } while (riga.prossimaMhz < finoMhz);
 }
 
 /// All lines in the order of frequency, each sample looked at once: the line that is behind the
 /// others gives its samples up to the next one's.
-SweepTrace Fondi(std::vector<RigaLetta>& righe, size_t detector, bool fondi) {
+SweepTrace Fondi(std::vector<RigaLetta>& righe, const Fusione& fusione) {
     size_t quanti = 0;
     for (const RigaLetta& riga : righe)
         quanti += riga.quanti;
@@ -192,7 +207,7 @@ SweepTrace Fondi(std::vector<RigaLetta>& righe, size_t detector, bool fondi) {
         }
         if (primaMhz == kMai)
             return traccia;
-        Accoda(traccia, righe[prima], secondaMhz, detector, fondi);
+        Accoda(traccia, righe[prima], secondaMhz, fusione);
         teste[prima] = righe[prima].prossimaMhz;
     }
 }
@@ -231,12 +246,28 @@ bool StessaFrequenza(double aMhz, double bMhz) {
     return std::abs(aMhz - bMhz) < kStessaFrequenzaMhz;
 }
 
+void NotaCoperto(SweepTrace& coperti, const CampioneTraccia& vincitore,
+                 const CampioneTraccia& perdente) {
+    const bool aperto =
+        !coperti.empty() && StessaFrequenza(coperti.back().freqMhz, vincitore.freqMhz);
+    bool copre = aperto;
+    for (size_t d = 0; d < kNumDetector; ++d)
+        copre |= perdente.livello[d] > std::max(vincitore.livello[d], kNessunLivello);
+    if (!copre)
+        return;
+    if (!aperto)
+        coperti.push_back(vincitore);
+    for (size_t d = 0; d < kNumDetector; ++d)
+        coperti.back().livello[d] =
+            std::max({coperti.back().livello[d], vincitore.livello[d], perdente.livello[d]});
+}
+
 SweepTrace CreaTracciaSweep(const Scrivania& s, std::string_view misura, std::string_view base,
                             const ScanTable& tabella, DetectorKind detector,
                             const OpzioniTraccia& opzioni) {
     const bool MergeTrace = !Acceso(s.ambiente.RigaComando(), interruttore::kRsComp);
     std::vector<RigaLetta> righe = LeggiRighe(s.albero, misura, base, tabella, opzioni);
-    SweepTrace traccia = Fondi(righe, static_cast<size_t>(detector), MergeTrace);
+    SweepTrace traccia = Fondi(righe, {static_cast<size_t>(detector), MergeTrace, opzioni.coperti});
     SegnaStacchi(traccia, tabella);
     return traccia;
 }

@@ -80,8 +80,16 @@ enum class ViewMode {
     Inviluppo = 3  ///< "POSENVMEASMT.TM<n>"
 };
 
+/// Notes what a sample hides that takes the place of another of its frequency: where that one held
+/// a higher level of some detector, `coperti` gets the highest of each, once a frequency. Called in
+/// the order of frequency.
+void NotaCoperto(SweepTrace& coperti, const CampioneTraccia& vincitore,
+                 const CampioneTraccia& perdente);
+
 struct OpzioniTraccia {
     ViewMode vista = ViewMode::Normale;
+    /// Gets `NotaCoperto` of every frequency that lines share.
+    SweepTrace* coperti = nullptr;
     /// Frequency of step k of a line with `StepMode` 1, MHz, in any order; empty behind the last.
     /// Without it such lines have no samples.
     std::function<std::optional<double>(const ScanLine& riga, size_t k)> frequenza{};

@@ -73,10 +73,10 @@ SweepTrace DifferenzaTracce(const SweepTrace& mostrata, const SweepTrace& riferi
 std::vector<StratoQuadro> StratiConfronto(const MisuraAperta& mostrata,
                                           const MisuraAperta& riferimento, int detector,
                                           const EnvRecord& env) {
-    return {Strato(riferimento, detector, env.GraphColors[colore::kDetRefMeas],
-                   std::string(kNomeRiferimento)),
-            Strato(mostrata, detector, env.GraphColors[colore::kDetCompMeas],
-                   std::string(kNomeConfrontata))};
+    return {Strato(mostrata, detector, env.GraphColors[colore::kDetCompMeas],
+                   std::string(kNomeConfrontata)),
+            Strato(riferimento, detector, env.GraphColors[colore::kDetRefMeas],
+                   std::string(kNomeRiferimento))};
 }
 
 StratoQuadro StratoSovrapposto(const MisuraAperta& misura, size_t posto, int detector,

@@ -24,8 +24,8 @@ bool Comparabili(const ScanRecord& a, const ScanRecord& b);
 /// has too. A detector that either lacks there holds `kNessunLivello`.
 SweepTrace DifferenzaTracce(const SweepTrace& mostrata, const SweepTrace& riferimento);
 
-/// The two as layers, the reference first: `DetRefMeas` with "Reference", `DetCompMeas` with
-/// "Compared". `detector` is -1 for all that were measured.
+/// The two as layers, the shown one first: `DetCompMeas` with "Compared", `DetRefMeas` with
+/// "Reference". `detector` is -1 for all that were measured.
 std::vector<StratoQuadro> StratiConfronto(const MisuraAperta& mostrata,
                                           const MisuraAperta& riferimento, int detector,
                                           const EnvRecord& env);

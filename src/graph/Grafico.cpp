@@ -19,9 +19,11 @@ constexpr double kMezzoPunto = 0.5;
 
 /// Shorter stretches of filled columns stay in the polyline around them.
 constexpr int kMinimoTratto = 8;
+/// Columns to a sample from which on a line is drawn.
+constexpr int kMassimoVuote = 24;
 
-/// Collects one unbroken run after the other and draws each as one line; stretches without an empty
-/// column as columns, where the surface takes them.
+/// Collects one unbroken run after the other and draws each as columns, where the surface takes
+/// them and the samples are not too far apart, or as one line.
 class Tracciatore {
 public:
     Tracciatore(Superficie& superficie, const ScalaGrafico& scala, const ColonneTraccia& traccia,
@@ -33,7 +35,7 @@ public:
             Campione(*traccia_.Sinistra());
         for (int i = 0; i < traccia_.Quante();) {
             const int fine = FineTratto(i);
-            if (fine - i < kMinimoTratto || !Tratto(i, fine))
+            if (!Fitto(i, fine) || !Tratto(i, fine))
                 for (int k = i; k < fine; ++k)
                     Colonna(k);
             i = std::max(fine, i + 1);
@@ -45,29 +47,56 @@ public:
     size_t Punti() const { return punti_; }
 
 private:
-    /// Behind the last of the filled columns from `i` on that no gap divides.
+    /// Behind the last filled column from `i` on that no gap divides from it; empty ones between
+    /// them are no gap.
     int FineTratto(int i) const {
-        int fine = i;
-        while (fine < traccia_.Quante() && !traccia_.Colonna(fine).vuota &&
-               (fine == i || !traccia_.Colonna(fine).rottura))
-            ++fine;
+        int fine = traccia_.Colonna(i).vuota ? i : i + 1;
+        for (int k = fine; fine > i && k < traccia_.Quante(); ++k) {
+            const auto& c = traccia_.Colonna(k);
+            if (!c.vuota && c.rottura)
+                break;
+            fine = c.vuota ? fine : k + 1;
+        }
         return fine;
     }
-    TrattoColonna ColonnaPiena(int i, int da, int fine) const {
-        const auto& c = traccia_.Colonna(i);
-        const double entra = i == da ? c.primo : (traccia_.Colonna(i - 1).ultimo + c.primo) / 2.0;
-        const double esce =
-            i + 1 == fine ? c.ultimo : (c.ultimo + traccia_.Colonna(i + 1).primo) / 2.0;
-        const double offset = scala_.UnitOffset * 100;
-        return {.minimo = c.minimo + offset,
-                .massimo = c.massimo + offset,
-                .entra = entra + offset,
-                .esce = esce + offset};
+    /// Few samples far apart are a line; more of them are columns, for what a line of many points
+    /// costs.
+    bool Fitto(int da, int fine) const {
+        int piene = 0;
+        for (int i = da; i < fine; ++i)
+            piene += traccia_.Colonna(i).vuota ? 0 : 1;
+        return fine - da >= kMinimoTratto && piene * kMassimoVuote >= fine - da;
+    }
+    double Livello(double cent) const { return cent + scala_.UnitOffset * 100; }
+    /// The line from a filled column through empty ones to the next: where it comes into that.
+    double Congiungi(int prima, int poi) {
+        const double da = Livello(traccia_.Colonna(prima).ultimo);
+        const double passo = (Livello(traccia_.Colonna(poi).primo) - da) / (poi - prima);
+        piene_.back().esce = da + passo / 2;
+        for (int k = 1; k < poi - prima; ++k) {
+            const double qui = da + passo * k;
+            piene_.push_back(
+                {.minimo = qui, .massimo = qui, .entra = qui - passo / 2, .esce = qui + passo / 2});
+        }
+        return piene_.back().esce;
+    }
+    void RiempiPiene(int da, int fine) {
+        piene_.clear();
+        int prima = -1;
+        for (int i = da; i < fine; ++i) {
+            const auto& c = traccia_.Colonna(i);
+            if (c.vuota)
+                continue;
+            const double entra = prima < 0 ? Livello(c.primo) : Congiungi(prima, i);
+            piene_.push_back({.minimo = Livello(c.minimo),
+                              .massimo = Livello(c.massimo),
+                              .entra = entra,
+                              .esce = Livello(c.ultimo)});
+            prima = i;
+        }
     }
     bool Tratto(int da, int fine) {
-        piene_.clear();
-        for (int i = da; i < fine; ++i)
-            piene_.push_back(ColonnaPiena(i, da, fine));
+        RiempiPiene(da, fine);
         const double passo = scala_.larghezzaPixel / traccia_.Quante();
         if (!superficie_.Colonne(da * passo, passo, piene_, penna_))
             return false;
@@ -85,6 +114,8 @@ private:
     }
     void Colonna(int i) {
         const auto& c = traccia_.Colonna(i);
+        if (c.vuota)
+            return;
         if (c.rottura)
             Stacca();
         const auto x = PosizioneX(scala_, traccia_.Frequenza(i));

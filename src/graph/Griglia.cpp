@@ -23,6 +23,9 @@ constexpr int kPartiLineare = 10;
 constexpr double kStaccoLivello = 8;
 constexpr double kStaccoFrequenza = 5;
 constexpr double kStampaLarghezza = 2;
+/// A line of the grid is a pixel wide for so much height of the text, so that large pictures keep
+/// it.
+constexpr double kTestoPerPixel = 16;
 /// Height of a label's place, in text heights; free width between two labels, in pixels.
 constexpr double kPostoLivello = 1.2;
 constexpr double kFraFrequenze = 10;
@@ -46,12 +49,14 @@ PassoPixel UnitaPerPixel(const ScalaGrafico& scala, const RiquadroGriglia& dove)
     return {scala.larghezzaPixel / dove.larghezza, (scala.alto - scala.basso) / dove.altezza};
 }
 
-Penna PennaLinea(const EnvRecord& env, GenereLinea genere, bool stampa) {
+Penna PennaLinea(const EnvRecord& env, GenereLinea genere, const TintaGrafico& tinta) {
     const size_t coppia = 2 * static_cast<size_t>(genere);
-    if (stampa)
-        return {.colore = env.GraphColors[coppia + 1], .larghezza = kStampaLarghezza};
+    const double larghezza = std::max(1.0, std::floor(tinta.altezzaTesto / kTestoPerPixel));
+    if (tinta.PrintColors)
+        return {.colore = env.GraphColors[coppia + 1], .larghezza = kStampaLarghezza * larghezza};
     const bool punteggiata = genere == GenereLinea::Punteggiata;
     return {.colore = env.GraphColors[coppia],
+            .larghezza = larghezza,
             .tratto = punteggiata ? Tratto::Punteggiato : Tratto::Pieno};
 }
 
@@ -224,7 +229,7 @@ void Grid(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGrigl
     if (!ImpostaCoordinate(superficie, scala, dove))
         return;
     for (const LineaGriglia& linea : LineeGriglia(scala, tinta.linee))
-        superficie.Linea(linea.da, linea.a, PennaLinea(env, linea.genere, tinta.PrintColors));
+        superficie.Linea(linea.da, linea.a, PennaLinea(env, linea.genere, tinta));
 }
 
 void GridLabel(Superficie& superficie, const ScalaGrafico& scala, const RiquadroGriglia& dove,

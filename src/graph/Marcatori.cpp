@@ -7,6 +7,7 @@
 #include "base/Numeri.h"
 #include "base/Testo.h"
 #include "data/Interpolazione.h"
+#include "data/NomiTabelle.h"
 #include "graph/Verdetto.h"
 
 namespace orvane {
@@ -149,7 +150,7 @@ LetturaMarker LeggiMarker(const MisuraAperta& misura, const SetupRecord& setup, 
                                                    : TestoDb(campione.livello[d] + offsetCent)});
     LeggiFattori(misura, setup, campione, lettura);
     for (size_t slot = 0; slot < kLimitiMostrati; ++slot) {
-        if (setup.LimitOn[slot] == 0)
+        if (setup.LimitOn[slot] == 0 || !NominaTabella(setup.LimitName[slot]))
             continue;
         const LimFacRecord& limite = misura.tabelle.slot[kPrimoLimite + slot];
         const auto detector = DetectorDelLimite(setup.VerdictDetector[slot], setup.LimitName[slot],

@@ -85,13 +85,18 @@ void CaricaTracciaMisura(Scrivania& s, MisuraAperta& misura, const SetupRecord& 
                          std::optional<DetectorKind> detector) {
     const auto primo = std::find(misura.detector.begin(), misura.detector.end(), true);
     auto traccia = std::make_shared<SweepTrace>();
+    auto coperti = std::make_shared<SweepTrace>();
     if (primo != misura.detector.end())
         *traccia = CreaTracciaSweep(
             s, misura.nome, misura.base, misura.header.Scan.Righe,
             detector.value_or(static_cast<DetectorKind>(primo - misura.detector.begin())),
-            {.vista = misura.vista, .frequenza = FrequenzeDaTabella(s.albero)});
+            {.vista = misura.vista,
+             .coperti = coperti.get(),
+             .frequenza = FrequenzeDaTabella(s.albero)});
     ApplicaFattori(*traccia, misura.tabelle, setup);
+    ApplicaFattori(*coperti, misura.tabelle, setup);
     misura.traccia = std::move(traccia);
+    misura.coperti = std::move(coperti);
 }
 
 MisuraAperta ApriIntestazione(Scrivania& s, const std::string& nome) {

@@ -20,6 +20,9 @@ struct MisuraAperta {
     /// Levels in hundredths of a dB in dBµV with the sum of the factors in force; the files hold
     /// them without. Never null once open.
     std::shared_ptr<const SweepTrace> traccia = std::make_shared<SweepTrace>();
+    /// What the samples of `traccia` hide of other detectors (`NotaCoperto`), with the same
+    /// factors, in the order of frequency. Never null.
+    std::shared_ptr<const SweepTrace> coperti = std::make_shared<SweepTrace>();
     /// Limits and factors of `CaricaTabelleMisura`.
     TabelleLimFac tabelle;
     std::array<bool, kNumDetector> detector{}; ///< those that any line measured

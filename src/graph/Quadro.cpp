@@ -91,14 +91,15 @@ ColonneTraccia Riduci(const SweepTrace& traccia, size_t detector, const ScalaGra
     return colonne;
 }
 
-/// Gives what the traces cover. Peak lies highest: it is drawn first, so that it hides none of the
-/// others.
+/// Gives what the traces cover. The measure's own layer is the last, over the others. Peak lies
+/// highest: it is drawn first, so that it hides none of the others.
 std::vector<RettangoloTesto> DisegnaStrati(Superficie& superficie, const Disposizione& d,
                                            const std::vector<StratoQuadro>& strati,
                                            double spessore) {
     std::vector<RettangoloTesto> ingombri;
-    for (const StratoQuadro& strato : strati)
+    for (auto s = strati.rbegin(); s != strati.rend(); ++s)
         for (size_t i = 0; i < kNumDetector; ++i) {
+            const StratoQuadro& strato = *s;
             if (!strato.detector[i])
                 continue;
             const ColonneTraccia colonne = Riduci(*strato.traccia, i, d.scala);

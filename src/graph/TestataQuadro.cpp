@@ -53,8 +53,7 @@ std::vector<PezzoTestata> Insegne(const ContenutoQuadro& contenuto, const StileQ
         return {};
     std::vector<PezzoTestata> pezzi = {Insegna(verdetto.insieme, TestoGiudizio(verdetto.insieme))};
     for (const VerdettoLimite& v : verdetto.limiti)
-        if (v.giudizio != Giudizio::Nessuno)
-            pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
+        pezzi.push_back(Insegna(v.giudizio, TestoInsegna(v, contenuto.misura)));
     return pezzi;
 }
 
@@ -125,10 +124,13 @@ void Disegna(Superficie& superficie, const PezzoTestata& p, const TestataQuadro&
 } // namespace
 
 std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura) {
+    if (verdetto.giudizio == Giudizio::Nessuno)
+        return std::string(SiglaDetector(verdetto.detector)) + " " +
+               TestoGiudizio(Giudizio::Nessuno);
     const double delta = verdetto.Delta();
     const double passo = PassoTraccia(misura, verdetto.indice);
     return std::string(SiglaDetector(verdetto.detector)) + (delta > 0 ? " +" : " ") +
-           TestoFisso(delta, 1) + " dB at " + DetFormatoVal(verdetto.freqMhz, passo) + " MHz";
+           TestoFisso(delta, 2) + " dB at " + DetFormatoVal(verdetto.freqMhz, passo) + " MHz";
 }
 
 TestataQuadro DisponiTestata(const Superficie& superficie, const ContenutoQuadro& contenuto,

@@ -9,7 +9,8 @@
 
 namespace orvane {
 
-/// What a badge says of a limit: "QP -4.7 dB at 0.195 MHz".
+/// What a badge says of a limit: "QP -4.70 dB at 0.195 MHz"; "QP ---" where
+/// nothing could be held against it.
 std::string TestoInsegna(const VerdettoLimite& verdetto, const MisuraAperta& misura);
 
 /// Words of the strip, each behind the stroke of its trace or on its ground, or bare.

@@ -5,6 +5,7 @@
 
 #include "base/Testo.h"
 #include "data/Interpolazione.h"
+#include "data/NomiTabelle.h"
 
 namespace orvane {
 namespace {
@@ -111,13 +112,38 @@ int DistanzaCent(const VerdettoLimite& v) {
     return v.livelloCent - v.limiteCent;
 }
 
+/// The levels of a detector, in the order of the trace, hidden ones included.
+class LetturaLivelli {
+public:
+    LetturaLivelli(const MisuraAperta& misura, DetectorKind detector)
+        : misura_(misura), d_(static_cast<size_t>(detector)) {}
+    int16_t Prossimo(const CampioneTraccia& campione) {
+        const SweepTrace& coperti = *misura_.coperti;
+        int16_t livello = campione.livello[d_];
+        for (; k_ < coperti.size(); ++k_) {
+            const bool qui = StessaFrequenza(coperti[k_].freqMhz, campione.freqMhz);
+            if (!qui && coperti[k_].freqMhz > campione.freqMhz)
+                break;
+            if (qui)
+                livello = std::max(livello, coperti[k_].livello[d_]);
+        }
+        return livello;
+    }
+
+private:
+    const MisuraAperta& misura_;
+    size_t d_;
+    size_t k_ = 0;
+};
+
 /// Fills in the worst sample, and how many lie above.
-bool CercaPeggiore(const SweepTrace& traccia, const LimFacRecord& limite, VerdettoLimite& v) {
-    const auto d = static_cast<size_t>(v.detector);
+bool CercaPeggiore(const MisuraAperta& misura, const LimFacRecord& limite, VerdettoLimite& v) {
+    const SweepTrace& traccia = *misura.traccia;
+    LetturaLivelli livelli(misura, v.detector);
     LetturaLimite lettura(limite);
     bool trovato = false;
     for (size_t i = 0; i < traccia.size(); ++i) {
-        const int16_t livello = traccia[i].livello[d];
+        const int16_t livello = livelli.Prossimo(traccia[i]);
         if (livello <= kNessunLivello)
             continue;
         const int16_t valore = lettura.A(static_cast<float>(traccia[i].freqMhz * 1e6));
@@ -171,13 +197,13 @@ Giudizio Giudica(double deltaDb, double incertezzaDb) {
 Verdetto CalcolaVerdetto(const MisuraAperta& misura, const SetupRecord& setup) {
     Verdetto verdetto;
     for (size_t slot = 0; slot < kLimitiMostrati; ++slot) {
-        if (setup.LimitOn[slot] == 0)
+        if (setup.LimitOn[slot] == 0 || !NominaTabella(setup.LimitName[slot]))
             continue;
         const LimFacRecord& limite = misura.tabelle.slot[kPrimoLimite + slot];
         VerdettoLimite v{.slot = static_cast<int>(slot), .limite = Rifila(setup.LimitName[slot])};
         v.detector =
             DetectorDelLimite(setup.VerdictDetector[slot], v.limite, limite, misura.detector);
-        if (CercaPeggiore(*misura.traccia, limite, v))
+        if (CercaPeggiore(misura, limite, v))
             v.giudizio = Giudica(v.Delta(), static_cast<double>(setup.MeasUncertainty));
         verdetto.insieme = std::max(verdetto.insieme, v.giudizio);
         verdetto.limiti.push_back(std::move(v));

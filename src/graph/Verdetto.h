@@ -49,8 +49,9 @@ DetectorKind DetectorDelLimite(int scelto, const std::string& nome, const LimFac
 /// inconclusive; exactly at its edge is not.
 Giudizio Giudica(double deltaDb, double incertezzaDb);
 
-/// Of the limits that `setup` has on (slots 0 and 1), with its `MeasUncertainty` and
-/// `VerdictDetector`.
+/// Of the limits that `setup` names and has on (slots 0 and 1), with its `MeasUncertainty` and
+/// `VerdictDetector`. What the trace hides of the detector counts: a worst level can be higher than
+/// that of its sample on show.
 Verdetto CalcolaVerdetto(const MisuraAperta& misura, const SetupRecord& setup);
 
 } // namespace orvane

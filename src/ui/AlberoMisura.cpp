@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
+#include "ui/RigaScelta.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
 
@@ -25,6 +26,10 @@ protected:
         o->font.setWeight(o->state & QStyle::State_Selected ? QFont::DemiBold : QFont::Normal);
         o->palette.setColor(QPalette::Highlight, Tinta(o->palette, Ruolo::Scelta));
         o->palette.setColor(QPalette::HighlightedText, Tinta(o->palette, Ruolo::Testo));
+    }
+    void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override {
+        QStyledItemDelegate::paint(p, o, i);
+        SegnaFuoco(*p, o, o.rect);
     }
     QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex&) const override {
         return {o.rect.width(), o.fontMetrics.height() + 6};

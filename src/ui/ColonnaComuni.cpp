@@ -31,6 +31,7 @@ ColonnaComuni::ColonnaComuni(Scrivania& scrivania, QWidget* padre)
     setObjectName(QStringLiteral("SSTabComuni"));
     setAccessibleName(tr("Settings"));
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* colonna = new QVBoxLayout(interno_);

@@ -37,6 +37,9 @@ void FrmTableLimFacFT::CambiaUnita(int unita) {
     c.unitId = static_cast<int16_t>(unita);
     Applica(std::move(c));
     console_.scrivania.setup.TableUnitId = static_cast<int16_t>(unita);
+    // Over a stored measure the user's own settings wait for their return.
+    if (console_.stato.archivio.attivo)
+        console_.stato.archivio.SetupBackup.TableUnitId = static_cast<int16_t>(unita);
     SalvaPanelEAM(console_.scrivania, kPannelloEAM);
 }
 

@@ -17,6 +17,8 @@ constexpr double kSpazio = 14; ///< between columns
 constexpr double kRiga = 1.3;  ///< in line heights
 /// Kept free around a marker and the edges of the grid.
 constexpr double kDistanza = 12;
+/// Words hidden weigh so much more than as many pixels of a trace.
+constexpr double kPesoNomi = 10;
 /// Places that are tried across the picture.
 constexpr int kPosti = 12;
 
@@ -69,6 +71,8 @@ QSize LBMultiMK::sizeHint() const {
 
 void LBMultiMK::Posiziona(Intorno intorno) {
     intorno_ = std::move(intorno);
+    // A picture that is lower than the reading is better seen without it.
+    setVisible(!righe_.empty() && height() <= intorno_.campo.height());
     Riposiziona();
 }
 
@@ -93,12 +97,17 @@ std::optional<QRectF> LBMultiMK::PostoLibero(double x) const {
     return libero && intorno_.campo.contains(posto) ? std::optional(posto) : std::nullopt;
 }
 
-/// Along the top from the left, the first place that hides no trace, or the one that hides least.
+/// Along the top from the left, the first place that hides no trace and no words, or the one that
+/// hides least.
 QPointF LBMultiMK::PostoDaSolo() const {
     const QRectF& campo = intorno_.campo;
     std::vector<double> inizi = {campo.left()};
     for (const double x : intorno_.evita)
         inizi.push_back(x + kDistanza);
+    for (const QRectF& nome : intorno_.nomi)
+        inizi.push_back(nome.right() + kDistanza);
+    if (!intorno_.occupato.isEmpty())
+        inizi.push_back(intorno_.occupato.left() - kDistanza - width());
     const double ultimo = campo.right() - width();
     for (int i = 1; i <= kPosti; ++i)
         inizi.push_back(campo.left() + (ultimo - campo.left()) * i / kPosti);
@@ -108,9 +117,11 @@ QPointF LBMultiMK::PostoDaSolo() const {
         const auto posto = PostoLibero(x);
         if (!posto)
             continue;
-        const double aria = std::min(
-            0.0,
-            intorno_.cima ? intorno_.cima(posto->left(), posto->right()) - posto->bottom() : 0.0);
+        double aria = intorno_.sotto ? -intorno_.sotto(*posto) : 0;
+        for (const QRectF& nome : intorno_.nomi) {
+            const QRectF sotto = nome & *posto;
+            aria -= kPesoNomi * sotto.width() * sotto.height();
+        }
         if (aria > migliore) {
             migliore = aria;
             scelto = posto->topLeft();

@@ -19,12 +19,14 @@ public:
     /// Takes the size of its rows; without rows it is hidden.
     void Mostra(std::vector<RigaLettura> righe);
     /// What it keeps away from: `campo` holds it, at `evita` run vertical lines, `occupato` is
-    /// taken, and `cima` tells how high the traces reach between two places along the picture.
+    /// taken, at `nomi` stand words that it leaves free where it can, and `sotto` tells how much of
+    /// the traces a place would hide.
     struct Intorno {
         QRectF campo;
         std::vector<double> evita;
         QRectF occupato;
-        std::function<double(double, double)> cima;
+        std::vector<QRectF> nomi;
+        std::function<double(const QRectF&)> sotto;
     };
     /// `PosizionaLBMultiMK`: as far as there is room; where the user dragged it, there it stays.
     void Posiziona(Intorno intorno);

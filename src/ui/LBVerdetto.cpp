@@ -30,12 +30,9 @@ QColor Sopra(const QColor& tinta, const QColor& fondo) {
                             mescola(tinta.blueF(), fondo.blueF()));
 }
 
-/// With the typographic minus and a sign in front of everything but zero; what one decimal would
-/// make zero has two.
+/// With the typographic minus and a sign in front of everything but zero.
 QString TestoDb(double db) {
-    constexpr double kMezzoDecimo = 0.05;
-    const QString cifre =
-        Q(TestoFisso(std::abs(db), std::abs(db) < kMezzoDecimo && db != 0 ? 2 : 1));
+    const QString cifre = Q(TestoFisso(std::abs(db), 2));
     return db == 0 ? cifre : (db < 0 ? QStringLiteral("−") : QStringLiteral("+")) + cifre;
 }
 

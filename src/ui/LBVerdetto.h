@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-/// "QP −4.7 dB at 0.195 MHz"; a click is for going there.
+/// "QP −4.70 dB at 0.195 MHz"; a click is for going there.
 class LBVerdetto : public QAbstractButton {
     Q_OBJECT
 public:

@@ -37,6 +37,13 @@ QString Tr(const char* testo) {
     return QCoreApplication::translate("LettureQuadro", testo);
 }
 
+/// A name among other words.
+QString NomeCorto(const std::string& nome) {
+    constexpr qsizetype kLettere = 18;
+    const QString testo = Q(nome);
+    return testo.size() <= kLettere ? testo : testo.first(kLettere - 1) + QStringLiteral("…");
+}
+
 /// Fills the rows of one reading; the colours are made readable on the ground of the panel.
 class Compilatore {
 public:
@@ -56,19 +63,19 @@ public:
                                  Colore(0, d)});
         }
     }
-    /// What the other measures have at this frequency.
-    void AltriStrati(double freqMhz, double unitOffset) {
-        for (size_t i = 1; i < contenuto_.strati.size(); ++i) {
+    /// What the other measures, or the passes, have at this frequency.
+    void AltriStrati(size_t dal, double freqMhz, double unitOffset) {
+        for (size_t i = dal; i < contenuto_.strati.size(); ++i) {
             const StratoQuadro& strato = contenuto_.strati[i];
             const auto vicino = CampioneVicino(*strato.traccia, freqMhz);
             for (size_t d = 0; vicino && d < kNumDetector; ++d)
                 if (const int16_t livello = (*strato.traccia)[*vicino].livello[d];
                     Mostrato(i, d) && livello > kNessunLivello)
-                    righe.push_back(
-                        {Q(strato.nome) + QLatin1Char(' ') + QLatin1String(kNomiDetector[d]),
-                         Q(TestoFisso(livello / 100.0 + unitOffset, 2)),
-                         {},
-                         Colore(i, d)});
+                    righe.push_back({NomeCorto(strato.nome) + QLatin1Char(' ') +
+                                         QLatin1String(kNomiDetector[d]),
+                                     Q(TestoFisso(livello / 100.0 + unitOffset, 2)),
+                                     {},
+                                     Colore(i, d)});
         }
     }
     void Fattori(const LetturaMarker& lettura) {
@@ -81,7 +88,11 @@ public:
                              tenue_});
     }
     void Distanze(const LetturaMarker& lettura) {
-        for (const auto& distanza : lettura.distanze)
+        for (const auto& distanza : lettura.distanze) {
+            // A limit that is on without a table says nothing.
+            if (std::ranges::find(contenuto_.limiti, distanza.slot, &LimiteQuadro::slot) ==
+                contenuto_.limiti.end())
+                continue;
             righe.push_back(
                 {Tr("%1 to limit %2")
                      .arg(QLatin1String(kNomiDetector[static_cast<size_t>(distanza.detector)]))
@@ -89,6 +100,7 @@ public:
                  Q(distanza.testo) + QStringLiteral(" dB"),
                  {},
                  ColoreLimite(distanza.slot)});
+        }
     }
 
     std::vector<RigaLettura> righe;
@@ -148,8 +160,14 @@ std::vector<RigaLettura> RigheMarker(const ContenutoQuadro& contenuto, const Set
         delta = LeggiDelta(contenuto.misura, *primo, *secondo);
     Compilatore c(contenuto, tavolozza);
     c.Titolo(Q(lettura.frequenza), delta ? QStringLiteral("Δ ") + Q(delta->frequenza) : QString());
-    c.Livelli(lettura, delta ? &*delta : nullptr);
-    c.AltriStrati(traccia[*qui].freqMhz, static_cast<double>(ImpostaUnita(setup.UnitId)));
+    // Passes say more than the highest of them, which alone has a difference.
+    const bool passate =
+        !contenuto.strati.empty() && contenuto.strati.front().traccia != contenuto.misura.traccia;
+    if (!passate || delta)
+        c.Livelli(lettura, delta ? &*delta : nullptr);
+    if (!passate || !delta)
+        c.AltriStrati(passate ? 0 : 1, traccia[*qui].freqMhz,
+                      static_cast<double>(ImpostaUnita(setup.UnitId)));
     c.Fattori(lettura);
     c.Distanze(lettura);
     return std::move(c.righe);
@@ -163,6 +181,22 @@ QString TestoRighe(const std::vector<RigaLettura>& righe) {
         pezzi << parole.join(QLatin1Char(' '));
     }
     return pezzi.join(QStringLiteral(", ")).replace(QStringLiteral("Δ"), Tr("delta"));
+}
+
+QString TestoStatoMarker(const ContenutoQuadro& contenuto, const SetupRecord& setup) {
+    const auto [primo, secondo] = contenuto.marcatori.indice;
+    const auto qui = primo ? primo : secondo;
+    if (!qui || *qui >= contenuto.misura.traccia->size() || contenuto.strati.empty())
+        return {};
+    const LetturaMarker lettura = LeggiMarker(contenuto.misura, setup, *qui);
+    QStringList pezzi = {Q(lettura.frequenza)};
+    for (const auto& livello : lettura.livelli)
+        if (const auto d = static_cast<size_t>(livello.detector);
+            contenuto.strati.front().detector[d])
+            pezzi << QLatin1String(kNomiDetector[d]) + QLatin1Char(' ') + Q(livello.testo);
+    const auto unita = static_cast<size_t>(std::clamp<int>(setup.UnitId, 0, 7));
+    return pezzi.join(QStringLiteral("   ")) + QLatin1Char(' ') +
+           Q(TabellaUnitaGrafico()[unita].testo);
 }
 
 QString FrequenzaCampione(const MisuraAperta& misura, size_t indice) {
@@ -181,28 +215,34 @@ QString TestoPicco(const MisuraAperta& misura, DetectorKind detector, const Picc
                                                    : TestoFrequenza(picco.freqMhz));
 }
 
-double DisegnaLegenda(QPainter& p, QPointF angolo, const std::vector<VoceLegenda>& voci,
-                      const QPalette& tavolozza) {
+void DisegnaLegenda(QPainter& p, const QRectF& riga, const std::vector<VoceLegenda>& voci,
+                    const QPalette& tavolozza) {
     if (voci.size() < 2)
-        return 0;
+        return;
     constexpr double kCampione = 18;
+    constexpr double kStacco = 6; ///< between the samples and the name
+    constexpr double kFra = 20;
     const QFontMetricsF metrica(p.font());
+    const double posto = (riga.width() + kFra) / double(voci.size()) - kCampione - kStacco - kFra;
     p.setRenderHint(QPainter::Antialiasing);
-    double x = angolo.x();
+    double x = riga.left();
     for (const VoceLegenda& voce : voci) {
         // Up to six thin samples, spread over the height of the name.
-        const double passo = metrica.height() / double(voce.colori.size() + 1);
-        double riga = angolo.y();
+        const double passo = riga.height() / double(voce.colori.size() + 1);
+        double y = riga.top();
         for (const QColor& colore : voce.colori) {
-            riga += passo;
+            y += passo;
             p.setPen(QPen(colore, 2));
-            p.drawLine(QPointF(x, riga), QPointF(x + kCampione, riga));
+            p.drawLine(QPointF(x, y), QPointF(x + kCampione, y));
         }
+        x += kCampione + kStacco;
+        const QString nome = metrica.elidedText(voce.nome, Qt::ElideRight, posto);
+        const double largo = metrica.horizontalAdvance(nome);
         p.setPen(Tinta(tavolozza, voce.viva ? Ruolo::Testo : Ruolo::Tenue));
-        p.drawText(QPointF(x + kCampione + 6, angolo.y() + metrica.ascent()), voce.nome);
-        x += kCampione + metrica.horizontalAdvance(voce.nome) + 26;
+        p.drawText(QRectF(x, riga.top(), largo + 1, riga.height()),
+                   Qt::AlignVCenter | Qt::TextDontClip, nome);
+        x += largo + kFra;
     }
-    return metrica.height();
 }
 
 } // namespace orvane

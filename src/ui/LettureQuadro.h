@@ -31,6 +31,8 @@ std::vector<RigaLettura> RigheMarker(const ContenutoQuadro& contenuto, const Set
 /// Rows as one sentence for a screen reader.
 QString TestoRighe(const std::vector<RigaLettura>& righe);
 
+/// "0.195 MHz   Peak 59.12   Avg 55.03 dBµV" of the same marker, for a line; empty without one.
+QString TestoStatoMarker(const ContenutoQuadro& contenuto, const SetupRecord& setup);
 /// "0.195 MHz", as at a marker there. The trace must have the sample.
 QString FrequenzaCampione(const MisuraAperta& misura, size_t indice);
 /// "Peak 51.32 dBµV at 0.195 MHz"
@@ -43,8 +45,8 @@ struct VoceLegenda {
     std::vector<QColor> colori;
     bool viva = true; ///< in full text colour
 };
-/// From a point to the right, without a frame. Returns the height used; 0 for fewer than two names.
-double DisegnaLegenda(QPainter& p, QPointF angolo, const std::vector<VoceLegenda>& voci,
-                      const QPalette& tavolozza);
+/// In one row, without a frame; long names are cut to what fits. Nothing for fewer than two names.
+void DisegnaLegenda(QPainter& p, const QRectF& riga, const std::vector<VoceLegenda>& voci,
+                    const QPalette& tavolozza);
 
 } // namespace orvane

@@ -104,7 +104,8 @@ void MainForm::CollegaQuadro() {
     });
     connect(quadro_, &MainPict::PiccoScelto, this,
             [&picchi](int, qulonglong indice) { picchi.Evidenzia(indice); });
-    connect(quadro_, &MainPict::PiccoSorvolato, &picchi, &PannelloPicchi::Evidenzia);
+    connect(quadro_, &MainPict::PiccoSorvolato, &picchi, &PannelloPicchi::ShowPictMouseHP);
+    connect(quadro_, &MainPict::LetturaCambiata, stato_, &RigaStato::MostraMarker);
     connect(quadro_, &MainPict::SintonizzaManuale, this, &MainForm::SintonizzaManuale);
     connect(quadro_, &MainPict::MisuraSuccessiva, this, [this](int verso) {
         if (console_->stato.modalita == Modalita::SweepsArchive)
@@ -156,14 +157,13 @@ void MainForm::RinnovaElenco() {
     StatoArchivio& a = console_->stato.archivio;
     if (!a.attivo)
         return;
-    orvane::ElencaArchivio(scrivania_, a);
+    const std::string prima = a.misura.nome;
+    const bool stessa = RinnovaArchivio(scrivania_, a).mostrata == prima;
     archivio_->MostraElenco(a.elenco);
     archivio_->Scegli(a.misura.nome);
-    const bool manca = std::ranges::find(a.elenco, a.misura.nome) == a.elenco.end();
-    if (manca && !(a.misura.nome.empty() && a.elenco.empty()))
-        ApriMisuraScelta(Q(a.misura.nome));
-    else
-        MostraInVista(true);
+    if (!stessa)
+        comuni_->Carica();
+    MostraInVista(stessa);
 }
 
 /// Picture and everything beside it, by what is open.

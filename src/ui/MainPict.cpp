@@ -119,6 +119,7 @@ void MainPict::AggiornaLettura() {
         righe = LettureCorsa(XToFreq(scala_, puntataX_));
     setAccessibleDescription(haMisura_ ? TestoRighe(righe) : QString());
     lettura_->Mostra(std::move(righe));
+    Q_EMIT LetturaCambiata(TestoStatoMarker(contenuto_, setup_));
     DisponiFigli();
 }
 

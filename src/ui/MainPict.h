@@ -25,6 +25,9 @@ class QMenu;
 
 namespace orvane {
 
+/// No sample has this index.
+inline constexpr qulonglong kNessunPicco = ~0ULL;
+
 class LBMultiMK;
 class LBVerdetto;
 class SBZoomSweep;
@@ -94,12 +97,14 @@ Q_SIGNALS:
     void Puntata(double mhz, double livello);
     void PuntataPersa();
     void MarkerMosso(int quale, qulonglong indice);
+    /// What is read at the marker, in one line; empty without one.
+    void LetturaCambiata(const QString& testo);
     /// "Tune Manual @" of the context menu.
     void SintonizzaManuale(double mhz);
     void ZoomCambiato();
     /// A symbol was clicked; its marker has moved.
     void PiccoScelto(int detector, qulonglong indice);
-    /// The pointer has come upon a symbol.
+    /// The pointer has come upon a symbol, or has left it: then `kNessunPicco`.
     void PiccoSorvolato(qulonglong indice);
     /// `InterceptMousewheelSelMeas`: the next measure of the archive (1) or the one before (-1).
     void MisuraSuccessiva(int verso);
@@ -140,7 +145,8 @@ private:
 
     void Riscala();
     void DisponiFigli();
-    double CimaTracce(double da, double a);
+    double TracceSotto(const QRectF& parte);
+    double AreaSotto(const ColonneTraccia& traccia, const QRectF& parte) const;
     double AltezzaDi(double cent) const;
     void InvalidaTracce();
     void DisegnaSfondo();
@@ -206,6 +212,7 @@ private:
     LBMultiMK* lettura_;
     SBZoomSweep* barra_;
     std::vector<LBVerdetto*> badge_;
+    std::vector<QRectF> nomiLimiti_; ///< where the names of the limits stand, as drawn last
 
     bool rotella_ = true;
     int avanzoRotella_ = 0; ///< eighths of a degree that are no step yet

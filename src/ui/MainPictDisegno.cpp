@@ -92,33 +92,45 @@ void MainPict::DisponiFigli() {
         if (indice && *indice < Traccia().size())
             if (const auto x = PostoX(Traccia()[*indice].freqMhz))
                 evita.push_back(*x);
-    const double legenda =
-        VociLegenda().size() > 1 ? QFontMetricsF(CarattereLettura()).height() + kOrlo : 0;
-    lettura_->Posiziona({.campo = griglia.adjusted(kOrlo, kOrlo + legenda, -kOrlo, -kOrlo),
+    lettura_->Posiziona({.campo = griglia.adjusted(kOrlo, kOrlo, -kOrlo, -kOrlo),
                          .evita = std::move(evita),
                          .occupato = occupato,
-                         .cima = [this](double da, double a) { return CimaTracce(da, a); }});
+                         .nomi = nomiLimiti_,
+                         .sotto = [this](const QRectF& parte) { return TracceSotto(parte); }});
 }
 
-/// The highest place of the measure's traces between two others along the picture.
-double MainPict::CimaTracce(double da, double a) {
-    double livello = scala_.basso;
-    if (haMisura_)
-        misurate_.Vista(CampoMostrato(), std::max(1, static_cast<int>(griglia_.larghezza)));
-    for (size_t i = 0; haMisura_ && i < contenuto_.strati.size(); ++i)
-        for (size_t d = 0; d < kNumDetector; ++d) {
-            const ColonneTraccia* traccia = misurate_.Traccia(i, d);
-            if (!traccia || !mostrati_[d])
-                continue;
-            const auto colonna = [&](double x) {
-                return std::clamp(static_cast<int>(x * Rapporto() - griglia_.sinistra), 0,
-                                  traccia->Quante());
-            };
-            for (int k = colonna(da); k < colonna(a); ++k)
-                if (const auto& c = traccia->Colonna(k); !c.vuota)
-                    livello = std::max(livello, c.massimo + scala_.UnitOffset * 100);
-        }
-    return AltezzaDi(livello);
+/// How much of the measure's traces lies in a part of the picture, logical pixels in a square.
+double MainPict::TracceSotto(const QRectF& parte) {
+    if (!haMisura_)
+        return 0;
+    misurate_.Vista(CampoMostrato(), std::max(1, static_cast<int>(griglia_.larghezza)));
+    double area = 0;
+    for (size_t i = 0; i < contenuto_.strati.size(); ++i)
+        for (size_t d = 0; d < kNumDetector; ++d)
+            if (const ColonneTraccia* traccia = misurate_.Traccia(i, d); traccia && mostrati_[d])
+                area += AreaSotto(*traccia, parte);
+    return area;
+}
+
+double MainPict::AreaSotto(const ColonneTraccia& traccia, const QRectF& parte) const {
+    const auto colonna = [&](double x) {
+        return std::clamp(static_cast<int>(x * Rapporto() - griglia_.sinistra), 0,
+                          traccia.Quante());
+    };
+    // In levels, so that a column costs a comparison or two.
+    const double alPixel = (scala_.alto - scala_.basso) / std::max(1.0, Griglia().height());
+    const auto livello = [&](double y) {
+        return scala_.alto - (y - Griglia().top()) * alPixel - scala_.UnitOffset * 100;
+    };
+    const double alto = livello(parte.top());
+    const double basso = livello(parte.bottom());
+    double area = 0;
+    const int fine = colonna(parte.right());
+    for (int k = colonna(parte.left()); k < fine; ++k)
+        if (const auto& c = traccia.Colonna(k); !c.vuota)
+            area += std::max(0.0, std::min<double>(c.massimo, alto) -
+                                      std::max(c.minimo - alPixel, basso));
+    return area / alPixel / Rapporto();
 }
 
 void MainPict::DisegnaSfondo() {
@@ -138,19 +150,21 @@ void MainPict::DisegnaStratoTracce() {
     p.setFont(font());
     {
         SuperficieQt superficie(p, strato_.width(), strato_.height());
-        DisegnaLimiti(superficie);
         p.setRenderHint(QPainter::Antialiasing, Modo().aspetto.lisce != 0);
         if (haMisura_)
             DisegnaTracceMisura(superficie);
         else
             DisegnaTracceCorsa(superficie);
         p.setRenderHint(QPainter::Antialiasing);
+        DisegnaLimiti(superficie);
         ScriviNomiLimiti(superficie);
         DisegnaSimboli(superficie);
     }
     p.scale(Rapporto(), Rapporto());
     p.setFont(CarattereLettura());
-    DisegnaLegenda(p, Griglia().topLeft() + QPointF(kOrlo + 2, kOrlo), VociLegenda(), palette());
+    const QRectF griglia = Griglia();
+    DisegnaLegenda(p, {griglia.left(), 0, griglia.width(), griglia.top()}, VociLegenda(),
+                   palette());
     stratoValido_ = true;
 }
 
@@ -162,9 +176,10 @@ void MainPict::DisegnaLimiti(Superficie& superficie) {
     }
 }
 
-/// Over the traces, and off the badges.
+/// Over the traces, and off the badges. The reading then keeps off the names.
 void MainPict::ScriviNomiLimiti(Superficie& superficie) {
     const double r = Rapporto();
+    const size_t primi = badge_.size();
     std::vector<RettangoloTesto> occupati;
     for (const LBVerdetto* badge : badge_) {
         const QRect b = badge->geometry();
@@ -175,8 +190,14 @@ void MainPict::ScriviNomiLimiti(Superficie& superficie) {
         const QColor c = ColoreLeggibile(ColoreQt(limite.colore), fondo);
         ScriviNomeLimite(superficie, scala_, griglia_, limite.limite, limite.nome,
                          Rgb(c.red(), c.green(), c.blue()),
-                         TinteQuadro(Modo(), font()).altezzaTesto, occupati);
+                         TinteQuadro(Modo(), font()).altezzaTesto, occupati, {},
+                         Rgb(fondo.red(), fondo.green(), fondo.blue()));
     }
+    std::vector<QRectF> nomi;
+    for (const RettangoloTesto& o : std::span(occupati).subspan(primi))
+        nomi.emplace_back(QPointF(o.sinistra, o.alto) / r, QPointF(o.destra, o.basso) / r);
+    if (std::exchange(nomiLimiti_, nomi) != nomi)
+        QMetaObject::invokeMethod(this, &MainPict::DisponiFigli, Qt::QueuedConnection);
 }
 
 void MainPict::DisegnaTracceCorsa(Superficie& superficie) {

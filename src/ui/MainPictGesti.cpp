@@ -151,9 +151,9 @@ void MainPict::Sorvola(QPointF dove) {
     if (picco.has_value() != sorvolato_.has_value() ||
         (picco && (picco->detector != sorvolato_->detector || picco->quale != sorvolato_->quale))) {
         sorvolato_ = picco;
-        if (picco)
-            Q_EMIT PiccoSorvolato(
-                contenuto_.picchi[static_cast<size_t>(picco->detector)][picco->quale].indice);
+        Q_EMIT PiccoSorvolato(
+            picco ? contenuto_.picchi[static_cast<size_t>(picco->detector)][picco->quale].indice
+                  : kNessunPicco);
         update();
     }
     setCursor(picco                         ? Qt::PointingHandCursor
@@ -182,7 +182,8 @@ void MainPict::mouseReleaseEvent(QMouseEvent* evento) {
 
 void MainPict::leaveEvent(QEvent*) {
     puntataX_ = -1;
-    sorvolato_.reset();
+    if (std::exchange(sorvolato_, std::nullopt))
+        Q_EMIT PiccoSorvolato(kNessunPicco);
     Q_EMIT PuntataPersa();
     if (!haMisura_)
         AggiornaLettura();

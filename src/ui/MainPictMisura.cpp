@@ -132,6 +132,7 @@ void MainPict::CreaBadge() {
         connect(badge, &LBVerdetto::clicked, this,
                 [this, indice = limite.indice] { MuoviMarker(0, indice); });
         badge->show();
+        setTabOrder(badge_.empty() ? static_cast<QWidget*>(this) : badge_.back(), badge);
         badge_.push_back(badge);
     }
 }

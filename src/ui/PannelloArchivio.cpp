@@ -99,6 +99,7 @@ void PannelloArchivio::CreaElenco() {
 QWidget* PannelloArchivio::CreaDettagli() {
     auto* area = new QScrollArea(this);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
@@ -169,8 +170,8 @@ void PannelloArchivio::CreaAvviso() {
 void PannelloArchivio::MostraIncompiute() {
     const QString nomi = NomiIncompiute(scrivania_.albero);
     avviso_->setVisible(!nomi.isEmpty());
-    testoAvviso_->setText(
-        tr("Incomplete: %1. The run was cut off; what it had swept is there.").arg(nomi));
+    testoAvviso_->setText(tr("Incomplete: %1").arg(nomi));
+    testoAvviso_->setToolTip(tr("The run was cut off; what it had swept is there"));
 }
 
 void PannelloArchivio::Accetta() {

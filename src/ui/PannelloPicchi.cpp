@@ -1,5 +1,7 @@
 #include "ui/PannelloPicchi.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -9,6 +11,7 @@
 
 #include "records/ImpostazioniReport.h"
 #include "ui/Moduli.h"
+#include "ui/RigaScelta.h"
 #include "ui/StileConsole.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
@@ -22,12 +25,17 @@ constexpr int kMargine = 9;
 /// Rows between hair lines; what is over its limit in the colour of a fault, and bold.
 class DelegatoPicchi : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    DelegatoPicchi(const int& sorvolata, QObject* padre)
+        : QStyledItemDelegate(padre), sorvolata_(sorvolata) {}
     void paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const override {
         const bool oltre = i.data(kOltre).toBool();
         p->save();
         if (o.state & QStyle::State_Selected)
             p->fillRect(o.rect, Tinta(o.palette, Ruolo::Scelta));
+        else if (i.row() == sorvolata_)
+            p->fillRect(o.rect, Tinta(o.palette, Ruolo::Sorvolo));
+        if (i.column() == 0)
+            SegnaFuoco(*p, o, o.rect);
         p->setPen(Tinta(o.palette, Ruolo::Bordo));
         p->drawLine(o.rect.bottomLeft(), o.rect.bottomRight());
         QFont carattere = o.font;
@@ -39,6 +47,9 @@ public:
         p->drawText(o.rect.adjusted(kMargine, 0, -4, 0), Qt::AlignVCenter, i.data().toString());
         p->restore();
     }
+
+private:
+    const int& sorvolata_;
 };
 
 /// What is greyed because it is not there yet, with its reason.
@@ -53,15 +64,18 @@ QPushButton* CreaSpento(const char* nome, const QString& testo, const QString& m
 
 PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     setObjectName(QStringLiteral("FRMHighestPeaks"));
+    testa_ = CreaTesta(); // ahead of the table for the Tab key too
     griglia_ =
         Nomina(new QTableWidget(this), QStringLiteral("GridHighestPeaks"), tr("Highest Peaks"));
     griglia_->setFrameShape(QFrame::NoFrame);
     griglia_->setShowGrid(false);
-    griglia_->setItemDelegate(new DelegatoPicchi(griglia_));
+    griglia_->setItemDelegate(new DelegatoPicchi(sorvolata_, griglia_));
     griglia_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     griglia_->setSelectionBehavior(QAbstractItemView::SelectRows);
     griglia_->setSelectionMode(QAbstractItemView::SingleSelection);
     griglia_->setTabKeyNavigation(false);
+    griglia_->setMouseTracking(true);
+    griglia_->viewport()->installEventFilter(this);
     griglia_->viewport()->setBackgroundRole(QPalette::Window);
     griglia_->verticalHeader()->hide();
     griglia_->horizontalHeader()->setHighlightSections(false);
@@ -75,8 +89,6 @@ PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     auto* colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
-    colonna->addWidget(CreaTesta());
-    colonna->addWidget(CreaFilo(this));
     colonna->addWidget(griglia_, 1);
     colonna->addWidget(vuota_, 1);
     connect(griglia_, &QTableWidget::currentCellChanged, this, [this](int riga) {
@@ -86,6 +98,7 @@ PannelloPicchi::PannelloPicchi(QWidget* padre) : QWidget(padre) {
     // A click on the row that is current already brings the marker back to it.
     connect(griglia_, &QTableWidget::cellClicked, this,
             [this](int riga) { Q_EMIT Scelto(tabella_.righe[size_t(riga)].indice); });
+    connect(griglia_, &QTableWidget::cellEntered, this, &PannelloPicchi::Sorvola);
     ScalaTesto(100);
     Mostra({}, false);
 }
@@ -102,18 +115,18 @@ QWidget* PannelloPicchi::CreaTesta() {
                             tr("Makes a frequency table from the list"), testa);
     auto* subRange = CreaSpento("CMBMakeTabSubRange", tr("Sub Range"),
                                 tr("Sub Range measurements are not part of this release"), testa);
-    auto* report = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
-                                tr("Report 1 detector 2 limits"), testa);
-    connect(report, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
-    report->setProperty(kProprietaRuolo, "accento");
+    report_ = CreaPulsante(QStringLiteral("CMBReport"), tr("Report"),
+                           tr("Report 1 detector 2 limits"), testa);
+    connect(report_, &QPushButton::clicked, this, &PannelloPicchi::ReportChiesto);
+    report_->setProperty(kProprietaRuolo, "accento");
     auto* didascalia = CreaDidascalia(tr("Peaks"), testa);
     didascalia->setBuddy(quanti_);
     auto* riga = new QHBoxLayout(testa);
-    riga->setContentsMargins(10, 7, 10, 7);
+    riga->setContentsMargins(0, 0, 0, 0);
     riga->setSpacing(8);
     riga->addWidget(righe_, 1);
     for (QWidget* w :
-         std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange, report})
+         std::initializer_list<QWidget*>{didascalia, quanti_, tabFreq_, subRange, report_})
         riga->addWidget(w);
     connect(quanti_, &QSpinBox::valueChanged, this, &PannelloPicchi::QuantiCambiati);
     connect(tabFreq_, &QPushButton::clicked, this, &PannelloPicchi::TabellaFrequenze);
@@ -144,6 +157,7 @@ void PannelloPicchi::Mostra(TabellaPicchi tabella, bool conMisura) {
     Riempi();
     const auto quante = int(tabella_.righe.size());
     quanti_->setEnabled(conMisura);
+    report_->setEnabled(conMisura);
     tabFreq_->setEnabled(quante > 0);
     righe_->setText(!conMisura ? QString() : quante == 1 ? tr("1 row") : tr("%1 rows").arg(quante));
     griglia_->setVisible(quante > 0);
@@ -192,18 +206,37 @@ void PannelloPicchi::DisponiColonne() {
     testata->resizeSection(0, 2 * kMargine + 3 * griglia_->fontMetrics().averageCharWidth());
 }
 
+int PannelloPicchi::Riga(qulonglong indice) const {
+    const auto riga = std::ranges::find(tabella_.righe, indice, &RigaPicco::indice);
+    return riga == tabella_.righe.end() ? -1 : int(riga - tabella_.righe.begin());
+}
+
 void PannelloPicchi::Evidenzia(qulonglong indice) {
     const QSignalBlocker zitta(griglia_);
-    int riga = -1;
-    for (size_t i = 0; i < tabella_.righe.size(); ++i)
-        if (tabella_.righe[i].indice == indice)
-            riga = int(i);
+    const int riga = Riga(indice);
     griglia_->setCurrentCell(riga, riga < 0 ? -1 : 1);
     if (riga < 0)
         griglia_->clearSelection();
     else
         griglia_->selectRow(riga);
     griglia_->viewport()->update();
+}
+
+void PannelloPicchi::ShowPictMouseHP(qulonglong indice) {
+    Sorvola(Riga(indice));
+    if (sorvolata_ >= 0)
+        griglia_->scrollTo(griglia_->model()->index(sorvolata_, 0));
+}
+
+void PannelloPicchi::Sorvola(int riga) {
+    sorvolata_ = riga;
+    griglia_->viewport()->update();
+}
+
+bool PannelloPicchi::eventFilter(QObject* oggetto, QEvent* evento) {
+    if (evento->type() == QEvent::Leave)
+        Sorvola(-1);
+    return QWidget::eventFilter(oggetto, evento);
 }
 
 } // namespace orvane

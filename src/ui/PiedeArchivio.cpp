@@ -22,15 +22,22 @@ PiedeArchivio::PiedeArchivio(QWidget* padre) : QWidget(padre) {
     pagine_->addWidget(picchi_);
     pagine_->addWidget(righe_);
     auto* colonna = new QVBoxLayout(this);
-    colonna->setContentsMargins(0, 4, 0, 0);
-    colonna->setSpacing(4);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(0);
+    QWidget* testa = picchi_->Testa();
+    QSizePolicy tienePosto = testa->sizePolicy();
+    tienePosto.setRetainSizeWhenHidden(true);
+    testa->setSizePolicy(tienePosto);
     auto* riga = new QHBoxLayout;
-    riga->setContentsMargins(8, 0, 8, 0);
+    riga->setContentsMargins(8, 7, 10, 7);
+    riga->setSpacing(10);
     riga->addWidget(linguette_);
-    riga->addStretch(1);
+    riga->addWidget(testa, 1);
     colonna->addLayout(riga);
     colonna->addWidget(CreaFilo(this));
     colonna->addWidget(pagine_, 1);
+    connect(pagine_, &QStackedWidget::currentChanged, testa,
+            [testa](int pagina) { testa->setVisible(pagina == int(Pagina::Picchi)); });
     connect(linguette_, &QTabBar::currentChanged, this, [this](int pagina) {
         pagine_->setCurrentIndex(pagina);
         Q_EMIT PaginaScelta(static_cast<Pagina>(pagina));

@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include "base/Testo.h"
 #include "data/Interpolazione.h"
 #include "graph/Confronto.h"
 #include "records/ColoriGrafico.h"
@@ -40,12 +41,12 @@ StratoQuadro ComponiStrato(const MisuraAperta& misura, int detector, const EnvRe
     return strato;
 }
 
-/// The passes of a measure that are traces of their own, as "L1" of "<measure>-L1".
+/// The passes of a measure that are traces of their own, as "L1" of "<measure>-L1"; one that was
+/// renamed keeps its former name in theirs.
 std::vector<const NodoSubMisura*> Passate(const StatoArchivio& aperta) {
     std::vector<const NodoSubMisura*> passate;
-    const std::string inizio = aperta.misura.nome + "-";
     for (const NodoSubMisura& nodo : aperta.albero)
-        if (!nodo.gruppo && nodo.prefisso.empty() && nodo.file.starts_with(inizio))
+        if (!nodo.gruppo && nodo.prefisso.empty() && nodo.file.ends_with("-" + Rifila(nodo.testo)))
             passate.push_back(&nodo);
     return passate;
 }
@@ -59,7 +60,7 @@ DetectorKind PrimoDetector(const MisuraAperta& misura) {
 
 } // namespace
 
-/// A measure that is compared stands beside its reference. The whole of one with several passes is
+/// A measure that is compared stands before its reference. The whole of one with several passes is
 /// shown as its passes, each in a turn of the colours; markers and verdict read the highest of
 /// them.
 std::vector<StratoQuadro> RegiaMisura::StratiPropri(const StatoArchivio& aperta) const {
@@ -104,10 +105,6 @@ void RegiaMisura::Mostra(const StatoArchivio& aperta, bool tieni) {
         return Togli();
     ContenutoQuadro contenuto = ComponiQuadro(aperta.misura, s_.setup, s_.env);
     AggiungiLimitiRighe(s_, contenuto);
-    // A limit that is on without a table says nothing.
-    std::erase_if(contenuto.verdetto.limiti, [&](const VerdettoLimite& v) {
-        return NumeroPunti(aperta.misura.tabelle.slot[size_t(kPrimoLimite + v.slot)]) == 0;
-    });
     contenuto.strati = StratiPropri(aperta);
     std::ranges::move(StratiSopra(aperta), std::back_inserter(contenuto.strati));
     MostraTabellaPicchi(aperta, contenuto);

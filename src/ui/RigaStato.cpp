@@ -25,6 +25,7 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
     barra_->setRange(0, kParti);
     barra_->setTextVisible(false);
     barra_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
+    messaggio_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     messaggio_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     freq_->setMinimumWidth(fontMetrics().averageCharWidth() * 28);
     auto* riga = new QHBoxLayout(this);
@@ -43,6 +44,11 @@ RigaStato::RigaStato(QWidget* padre) : QWidget(padre) {
 void RigaStato::MostraFreqLivello(double mhz, double livello, const QString& unita) {
     freq_->setText(
         QStringLiteral("%1    %2 %3").arg(TestoFrequenza(mhz), Q(TestoFisso(livello, 1)), unita));
+}
+
+void RigaStato::MostraMarker(const QString& lettura) {
+    marker_ = lettura;
+    freq_->setText(marker_);
 }
 
 void RigaStato::MostraMessaggio(const QString& testo) {

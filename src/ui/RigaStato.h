@@ -16,7 +16,9 @@ public:
 
     /// `LBFreqTrc`: MHz, and dB in the display unit.
     void MostraFreqLivello(double mhz, double livello, const QString& unita);
-    void NascondiFreqLivello() { freq_->clear(); }
+    /// What stands in its place while the pointer is elsewhere: the reading at the marker.
+    void MostraMarker(const QString& lettura);
+    void NascondiFreqLivello() { freq_->setText(marker_); }
     void MostraMessaggio(const QString& testo);
     /// "<line>: " and what its pass goes through.
     void MostraPassata(const QString& etichetta) { etichetta_ = etichetta; }
@@ -26,6 +28,7 @@ public:
 
 private:
     QString etichetta_;
+    QString marker_;
     QLabel* freq_;
     QLabel* messaggio_;
     QLabel* passata_;

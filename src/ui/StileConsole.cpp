@@ -254,8 +254,10 @@ void StileConsole::drawComplexControl(ComplexControl controllo, const QStyleOpti
         const QRect presa = subControlRect(controllo, o, SC_ScrollBarSlider, oggetto);
         const bool viva = o->state & State_MouseOver;
         return Arrotondato(*p, QRectF(presa).adjusted(2, 2, -2, -2),
-                           Tinta(o->palette, viva ? Ruolo::Spento : Ruolo::BordoCampo), QColor(),
-                           3);
+                           Tinta(o->palette, Fuoco(*o) ? Ruolo::Accento
+                                             : viva    ? Ruolo::Spento
+                                                       : Ruolo::BordoCampo),
+                           QColor(), 3);
     }
     QProxyStyle::drawComplexControl(controllo, o, p, oggetto);
 }

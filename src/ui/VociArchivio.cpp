@@ -6,6 +6,7 @@
 
 #include "data/Incompiute.h"
 #include "ui/IconeScan.h"
+#include "ui/RigaScelta.h"
 #include "ui/Tema.h"
 #include "ui/Testi.h"
 
@@ -90,6 +91,7 @@ void DelegatoMisura::paint(QPainter* p, const QStyleOptionViewItem& o, const QMo
         p->setBrush(Tinta(o.palette, scelta ? Ruolo::Scelta : Ruolo::Sorvolo));
         p->drawRoundedRect(riga, 4, 4);
     }
+    SegnaFuoco(*p, o, riga);
     QFont piccolo = o.font;
     piccolo.setPointSizeF(piccolo.pointSizeF() * 0.88);
     const QString data = guasta ? QStringLiteral("damaged") : i.data(VoceMisura::Data).toString();

@@ -193,7 +193,7 @@ EsitoVerbo ArchivioEnvelope(Banco& banco, Parole parole) {
     const auto nome = MisuraDaParola(banco, argomenti.Posizioni()[0], esito);
     if (!nome)
         return esito;
-    const MisuraAperta misura = ApriMisura(banco.scrivania, *nome);
+    MisuraAperta misura = ApriMisura(banco.scrivania, *nome);
     if (!misura.leggibile)
         return kGuastoFile;
     const auto detector = DetectorChiesto(argomenti, misura);
@@ -206,8 +206,8 @@ EsitoVerbo ArchivioEnvelope(Banco& banco, Parole parole) {
     auto basi = contesto.mastTable ? PosizioniMastTable(contesto) : PassateDellaMisura(contesto);
     if (basi.empty())
         basi = {*nome};
-    StampaCampioni(banco, *TracciaInviluppo(banco.scrivania, misura, setup, basi, *detector),
-                   *detector, "level_db");
+    CaricaInviluppo(banco.scrivania, misura, setup, basi, *detector);
+    StampaCampioni(banco, *misura.traccia, *detector, "level_db");
     return kFatto;
 }
 

@@ -155,11 +155,16 @@ RichiestaQuadro LeggiRichiesta(const Argomenti& argomenti) {
     return r;
 }
 
-/// Reference and dynamics; a unit that is not the measure's keeps the trace in its place.
+/// Dynamics, and the level at the top as the unit reads it; without one, a unit that is not the
+/// measure's keeps the trace in its place.
 void ImpostaScala(const RichiestaQuadro& r, const SetupRecord& misurato, SetupRecord& setup) {
-    setup.RefLevel =
-        r.riferimento.value_or(RiferimentoInUnita(misurato, static_cast<int>(setup.UnitId)));
+    setup.RefLevel = RiferimentoInUnita(misurato, static_cast<int>(setup.UnitId));
     setup.DinamicaId = r.dinamicaId.value_or(setup.DinamicaId);
+    if (!r.riferimento)
+        return;
+    setup.RefLevel = 0;
+    const double cima = SetScaleGraph(setup, 1, 2, true, 1, 0).alto / 100;
+    setup.RefLevel = static_cast<int16_t>(*r.riferimento - std::lround(cima));
 }
 
 /// The first detector that was asked for and not measured, or none.

@@ -130,6 +130,23 @@ TEST_F(ArchivioTest, AMeasureWithoutHeaderLeadsOnInTheDirectionOfTheWalk) {
     EXPECT_EQ(a.misura.nome, "B");
 }
 
+TEST_F(ArchivioTest, AMeasureThatAnotherProgramDeletesGivesWayToItsNeighbour) {
+    for (const char* nome : {"A", "B", "C"})
+        Misura(nome);
+    // The panel cannot be written, which says nothing at any measure.
+    std::filesystem::create_directories(Host("Panels/Untitled.EPN"));
+    AttivaSweepsArchive(s, a);
+    VisualizzaDatiSweepata(s, a, "B");
+    std::filesystem::remove_all(Host("Sweep/A"));
+    EXPECT_EQ(RinnovaArchivio(s, a).mostrata, "B");
+    Misura("A");
+    std::filesystem::remove_all(Host("Sweep/B"));
+    EXPECT_EQ(RinnovaArchivio(s, a).mostrata, "C");
+    EXPECT_EQ(a.elenco, (std::vector<std::string>{"A", "C"}));
+    EXPECT_EQ(VisualizzaDatiSweepata(s, a, "never").mostrata, "A");
+    EXPECT_TRUE(ambiente.riquadri.empty());
+}
+
 std::string Albero(const StatoArchivio& a) {
     std::string testo;
     for (const NodoSubMisura& n : a.albero) {

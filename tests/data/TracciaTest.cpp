@@ -75,7 +75,13 @@ TEST_F(TracciaTest, OverlappingLinesGiveOneSampleAFrequency) {
     Riga(1, 0.3, 0.1, {Passo(9, 900), Passo(13, 901), Passo(20, 902), Passo(21), Passo(22)});
     ASSERT_NE(0.1 + 2 * 0.1, 0.3);
     EXPECT_EQ(Crea(DetectorKind::QPeak).at(2).livello[0], 9) << "the selected detector decides";
-    const SweepTrace t = Crea();
+    SweepTrace coperti;
+    const SweepTrace t =
+        CreaTracciaSweep(s, "m", "m", tabella, DetectorKind::Peak, {.coperti = &coperti});
+    ASSERT_EQ(coperti.size(), 2u) << "at 0.5 the winner is higher in both";
+    EXPECT_EQ(coperti[0].livello[1], 900);
+    EXPECT_EQ(coperti[1].livello[1], 901);
+    EXPECT_EQ(coperti[1].livello[0], 13);
     ASSERT_EQ(t.size(), 7u);
     const std::array<int16_t, 7> peak = {10, 11, 12, 13, 20, 21, 22};
     const std::array<int16_t, 7> riga = {0, 0, 0, 0, 1, 1, 1};

@@ -71,11 +71,11 @@ TEST(Confronto, LayersBearTheColoursAndNamesOfTheirPart) {
     misura.detector[0] = misura.detector[3] = true;
     const auto strati = StratiConfronto(misura, misura, -1, env);
     ASSERT_EQ(strati.size(), 2u);
-    EXPECT_EQ(strati[0].nome, "Reference");
-    EXPECT_EQ(strati[0].colori[3], static_cast<int32_t>(colore::kDetRefMeas));
+    EXPECT_EQ(strati[0].nome, "Compared");
+    EXPECT_EQ(strati[0].colori[0], static_cast<int32_t>(colore::kDetCompMeas));
     EXPECT_EQ(strati[0].detector, misura.detector);
-    EXPECT_EQ(strati[1].nome, "Compared");
-    EXPECT_EQ(strati[1].colori[0], static_cast<int32_t>(colore::kDetCompMeas));
+    EXPECT_EQ(strati[1].nome, "Reference");
+    EXPECT_EQ(strati[1].colori[3], static_cast<int32_t>(colore::kDetRefMeas));
     const auto altra = StratoSovrapposto(misura, 7, 3, env);
     EXPECT_EQ(altra.nome, "Lamp");
     EXPECT_EQ(altra.colori[0], static_cast<int32_t>(colore::kTracceSeconde + 1));

@@ -218,9 +218,9 @@ TEST(Traccia, TrecentomilaCampioniTengonoLaPunta) {
     EXPECT_NEAR(dove[12], FreqToX(q.scala, 0.15 + 123456 * kPasso), 1);
 }
 
-/// Full columns go as columns, joined to each other; what is sparse around them stays a line up to
-/// the first and on from the last.
-TEST(Traccia, FitteAColonneRadeALinea) {
+/// Columns as far as no gap divides them, joined to each other, with the line through the empty
+/// ones.
+TEST(Traccia, FitteAColonne) {
     Quadro q(10, 20, false);
     q.superficie.prendeColonne = true;
     ColonneTraccia traccia = q.Colonne();
@@ -234,15 +234,27 @@ TEST(Traccia, FitteAColonneRadeALinea) {
     q.Disegna(traccia);
     ASSERT_EQ(q.superficie.colonne.size(), 2u);
     const auto& prime = q.superficie.colonne[0];
-    EXPECT_NEAR(prime.sinistra, FreqToX(q.scala, 12), 1);
-    EXPECT_NEAR(static_cast<double>(prime.colonne.size()), q.dove.larghezza / 10, 2);
+    const double mhz = q.dove.larghezza / 10; // columns to a MHz
+    EXPECT_NEAR(prime.sinistra, FreqToX(q.scala, 11), 1);
+    EXPECT_NEAR(static_cast<double>(prime.colonne.size()), 3 * mhz, 2);
     for (size_t i = 1; i < prime.colonne.size(); ++i)
-        EXPECT_EQ(prime.colonne[i].entra, prime.colonne[i - 1].esce);
-    EXPECT_EQ(prime.colonne[20].massimo, 49);
-    ASSERT_EQ(q.superficie.spezzate.size(), 2u);
-    EXPECT_NEAR(q.superficie.spezzate[0].punti.back().x, FreqToX(q.scala, 12), 1.5);
-    EXPECT_NEAR(q.superficie.spezzate[1].punti.front().x, FreqToX(q.scala, 13), 1.5);
-    EXPECT_EQ(q.superficie.spezzate[1].punti.back().y, 2000);
+        EXPECT_NEAR(prime.colonne[i].entra, prime.colonne[i - 1].esce, 1e-6);
+    EXPECT_NEAR(prime.colonne[static_cast<size_t>(mhz / 2)].massimo, 500, 15);
+    EXPECT_EQ(prime.colonne[static_cast<size_t>(mhz) + 20].massimo, 49);
+    EXPECT_EQ(prime.colonne.back().massimo, 2000);
+    EXPECT_TRUE(q.superficie.spezzate.empty());
+}
+
+TEST(Traccia, RadeALinea) {
+    Quadro q(10, 20, false);
+    q.superficie.prendeColonne = true;
+    ColonneTraccia traccia = q.Colonne();
+    for (const double mhz : {11.0, 12.0, 14.0, 16.0})
+        traccia.Aggiungi(mhz, static_cast<int16_t>(100 * mhz));
+    q.Disegna(traccia);
+    EXPECT_TRUE(q.superficie.colonne.empty());
+    ASSERT_EQ(q.superficie.spezzate.size(), 1u);
+    EXPECT_EQ(q.superficie.spezzate[0].punti.size(), 4u);
 }
 
 TEST(Degenere, NullaSiFermaONuoce) {

@@ -66,7 +66,8 @@ TEST(Marcatori, ReadLevelsFactorsAndDistances) {
     const MisuraAperta misura = Misura();
     SetupRecord setup;
     setup.UnitId = 2;
-    setup.LimitOn = {1};
+    setup.LimitOn = {1, 1};
+    setup.LimitName[0] = "Mains"; // the other is on without a name
     setup.FactorOn = {1};
     setup.FactorName[0] = "Clamp";
     setup.SommaFact = 1;

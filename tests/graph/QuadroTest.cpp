@@ -79,7 +79,7 @@ TEST_F(QuadroTest, PaperHasTracesLimitVerdictAndLegend) {
     EXPECT_EQ(s2.rettangoli[0].colore, kCarta);
     for (const char* testo : {"M", "Peak", "QPeak", "Own QP"})
         EXPECT_TRUE(Trova(s2, testo)) << testo;
-    const auto* insegna = Trova(s2, "QP +5.0 dB at 2.000 MHz");
+    const auto* insegna = Trova(s2, "QP +5.00 dB at 2.000 MHz");
     ASSERT_TRUE(insegna);
     EXPECT_EQ(insegna->colore, TintaGiudizio(Giudizio::Fail).testo);
     std::map<int32_t, int> spezzate;

@@ -76,7 +76,8 @@ TEST(Verdetto, TheWorstSampleOfEachLimitDecides) {
     SetupRecord setup;
     EXPECT_TRUE(CalcolaVerdetto(misura, setup).limiti.empty());
     setup.LimitOn = {1, 1};
-    setup.LimitName[0] = "Mains QP";
+    EXPECT_TRUE(CalcolaVerdetto(misura, setup).limiti.empty()) << "on, but none is named";
+    setup.LimitName = {"Mains QP", "Gone"};
     const Verdetto verdetto = CalcolaVerdetto(misura, setup);
     ASSERT_EQ(verdetto.limiti.size(), 2u);
     const VerdettoLimite& v = verdetto.limiti[0];
@@ -88,6 +89,17 @@ TEST(Verdetto, TheWorstSampleOfEachLimitDecides) {
     EXPECT_EQ(v.giudizio, Giudizio::Fail);
     EXPECT_EQ(verdetto.limiti[1].giudizio, Giudizio::Nessuno) << "an empty curve";
     EXPECT_EQ(verdetto.insieme, Giudizio::Fail);
+    // What another line measured at 2 MHz and lost by its peak; 2.5 MHz is no point of the trace.
+    SweepTrace coperti(2, traccia[1]);
+    coperti[0].livello[1] = 5400;
+    coperti[1].freqMhz = 2.5;
+    coperti[1].livello[1] = 9000;
+    misura.coperti = std::make_shared<SweepTrace>(coperti);
+    const VerdettoLimite coperto = CalcolaVerdetto(misura, setup).limiti[0];
+    EXPECT_EQ(coperto.indice, 1u);
+    EXPECT_DOUBLE_EQ(coperto.Delta(), 4);
+    EXPECT_EQ(coperto.oltre, 4u) << "a frequency once";
+    misura.coperti = std::make_shared<SweepTrace>();
     setup.MeasUncertainty = 2.5f;
     EXPECT_EQ(CalcolaVerdetto(misura, setup).insieme, Giudizio::Inconclusive);
 }

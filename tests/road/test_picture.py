@@ -58,6 +58,12 @@ class ProvaPicture(ProvaStrada):
             self.assertIn(parole, disegno)
         self.Riesce("picture", "M", "--out", str(self.dati / "a.svg"), "--no-settings")
         self.assertNotIn("Start [MHz]", (self.dati / "a.svg").read_text())
+        # The reference is the top of the axis: from -20 dBm down, each 20 dB by 0 dBuV.
+        self.assertNotIn("-27 dBm", disegno)
+        self.Riesce("picture", "M", "--out", str(self.dati / "a.svg"), "--reference", "-20")
+        disegno = (self.dati / "a.svg").read_text()
+        self.assertIn("-27 dBm", disegno)
+        self.assertNotIn(">-7 dBm", disegno)
 
     def test_rifiuti(self):
         prima = sorted(self.dati.rglob("*"))

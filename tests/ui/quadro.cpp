@@ -97,6 +97,8 @@ private Q_SLOTS:
     void BarraMuoveLaFinestra();
     void SimboloSceltoMuoveIlMarker();
     void LetturaConBuco();
+    void LetturaDellePassate();
+    void LetturaLasciaINomi();
     void BadgeVannoAlPeggiore();
     void LimitiSottoUnaCorsa();
     void ColoriLeggibili();
@@ -288,6 +290,42 @@ void QuadroUi::LetturaConBuco() {
     QVERIFY(!lettura->isVisible());
 }
 
+/// Each pass by its name; with a delta marker the highest of them, which alone has a difference.
+void QuadroUi::LetturaDellePassate() {
+    Cavalletto c;
+    ContenutoQuadro quadro = c.Contenuto();
+    StratoQuadro strato = quadro.strati.front();
+    strato.traccia = std::make_shared<SweepTrace>(*strato.traccia);
+    quadro.strati.clear();
+    for (const char* nome : {"L1", "Kitchen appliance"})
+        quadro.strati.emplace_back(strato).nome = nome;
+    quadro.marcatori.indice[0] = kPicchi[0];
+    const auto nomi = [&] {
+        QStringList righe;
+        for (const RigaLettura& riga : RigheMarker(quadro, c.setup, c.quadro.palette()))
+            righe << riga.nome;
+        return righe.mid(1).join(QLatin1Char(';'));
+    };
+    QCOMPARE(nomi(), QStringLiteral("L1 Peak;L1 Avg;Kitchen appliance Peak;Kitchen appliance Avg"));
+    quadro.marcatori.indice[1] = kPicchi[1];
+    QCOMPARE(nomi(), QStringLiteral("Peak;Avg"));
+    QVERIFY(
+        TestoStatoMarker(quadro, c.setup).endsWith(QStringLiteral("Peak 50.00   Avg 15.00 dBµV")));
+}
+
+void QuadroUi::LetturaLasciaINomi() {
+    LBMultiMK lettura(nullptr);
+    lettura.Mostra({{QStringLiteral("4.0 MHz"), {}, {}, Qt::black}});
+    const QRectF campo(0, 0, 800, 400);
+    lettura.Posiziona({.campo = campo});
+    QCOMPARE(lettura.pos(), QPoint(0, 0));
+    const QRectF nome(20, 4, 200, 14);
+    lettura.Posiziona({.campo = campo, .nomi = {nome}});
+    QVERIFY(!nome.intersects(lettura.geometry()) && lettura.isVisibleTo(nullptr));
+    lettura.Posiziona({.campo = QRectF(0, 0, 800, 10)}); // lower than the reading
+    QVERIFY(lettura.isHidden());
+}
+
 void QuadroUi::BadgeVannoAlPeggiore() {
     Cavalletto c;
     VerdettoLimite male{.slot = 0,
@@ -302,7 +340,7 @@ void QuadroUi::BadgeVannoAlPeggiore() {
     VerdettoLimite nulla{.slot = 1, .limite = "C", .detector = DetectorKind::Avg};
     c.quadro.ImpostaVerdetto({{male, nulla}, Giudizio::Fail});
     auto* badge = c.quadro.findChild<LBVerdetto*>(QStringLiteral("LBVerdetto0"));
-    QCOMPARE(badge->text(), QStringLiteral("QP  +1.2 dB at 8.0 MHz"));
+    QCOMPARE(badge->text(), QStringLiteral("QP  +1.20 dB at 8.0 MHz"));
     QVERIFY(badge->accessibleName().contains(QStringLiteral("B: FAIL")));
     QVERIFY(!c.quadro.findChild<LBVerdetto*>(QStringLiteral("LBVerdetto1"))->isEnabled());
     badge->click();

@@ -57,8 +57,8 @@ private:
 void Tabella::init() {
     banco_ = std::make_unique<Banco>();
     InstallaLibreria(banco_->posto->scrivania);
-    banco_->posto->scrivania.setup.AncillaryKind = 1;
     banco_->Scheda(Modalita::Sweep);
+    banco_->posto->scrivania.setup.AncillaryKind = 1;
     griglia_ = banco_->Trova<QTableView>("GridScanTab");
     QVERIFY(QTest::qWaitForWindowActive(&banco_->Finestra()));
     griglia_->setFocus();

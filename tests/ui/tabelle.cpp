@@ -228,6 +228,8 @@ void Tabelle::UnitaResta() {
     Vai(0, 1);
     Scrivi("-27");
     QCOMPARE(int{*Contenuto().righe[0].livelloCent}, prima + 100);
+    delete editor_;
+    banco_->Scheda(Modalita::Sweep);
     banco_->posto->scrivania.setup.TableUnitId = 1;
     QVERIFY(CaricaPanelEAM(banco_->posto->scrivania, kPannelloEAM));
     QCOMPARE(int{banco_->posto->scrivania.setup.TableUnitId}, 0);

@@ -63,6 +63,7 @@ private:
         double Spessore(double larghezza) const;
     };
 
+    void Puntini(QPointF inizio, QPointF fine, const QPen& penna);
     void Traccia(std::span<const QPointF> pixel, const Penna& penna);
     void Scrivi(const QFont& font, Punto dove, Ancora ancora, const std::string& testo,
                 int32_t colore);
