@@ -20,7 +20,8 @@ using namespace orvane;
 
 constexpr const char* kUso =
     "usage: orvane-console [--data DIR] [--link LINK] [--style light|dark] [SWITCHES]\n"
-    "  LINK: sim[:MODEL][,fw=X.YZ][,seed=N], usb, com:N or tty:PATH\n";
+    "  LINK: sim[:MODEL][,fw=X.YZ][,seed=N][,speed=line|full][,port=N], usb, com:N or\n"
+    "        tty:PATH\n";
 
 struct Opzioni {
     std::filesystem::path dati = std::filesystem::current_path();

@@ -45,8 +45,8 @@ void StampaAiuto(std::ostream& uscita) {
            << "      tty:PATH\n\n";
     for (const VoceVerbo& voce : TabellaVerbi())
         uscita << "  " << voce.nome << " " << voce.uso << "\n      " << voce.aiuto << "\n";
-    uscita << "\nexit status: 0 done, 1 refused by a check, 2 wrong use, 3 link or receiver,\n"
-           << "             4 file, 5 stopped\n";
+    uscita << "\nexit status: 0 done, 1 refused or a verdict other than PASS, 2 wrong use,\n"
+           << "             3 link or receiver, 4 file, 5 stopped\n";
 }
 
 /// Takes one option with its value; false when it is none that the program knows.
