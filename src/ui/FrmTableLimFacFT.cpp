@@ -20,11 +20,6 @@ ContenutoTabella TabellaNuova(TableKind kind, const SetupRecord& setup) {
     return {.kind = kind, .unitId = setup.TableUnitId};
 }
 
-void NonAncora(QPushButton* pulsante) {
-    pulsante->setEnabled(false);
-    pulsante->setToolTip(QObject::tr("Not part of this release"));
-}
-
 } // namespace
 
 FrmTableLimFacFT::FrmTableLimFacFT(Console& console, TableKind kind, std::string daCaricare,
@@ -66,10 +61,7 @@ QLayout* FrmTableLimFacFT::CreaBarraFile() {
                               void (FrmTableLimFacFT::*cosa)()) {
         auto* p = CreaPulsante(QLatin1String(nome), testo, aiuto, this);
         riga->addWidget(p);
-        if (cosa)
-            connect(p, &QPushButton::clicked, this, cosa);
-        else
-            NonAncora(p);
+        connect(p, &QPushButton::clicked, this, cosa);
     };
     pulsante("CMBLoadFT", tr("Load…"), tr("Opens a table (Ctrl+O)"), &FrmTableLimFacFT::Carica);
     auto* salva = CreaPulsante(QStringLiteral("CMBSaveFTAs"), tr("Save As…"),
@@ -81,8 +73,10 @@ QLayout* FrmTableLimFacFT::CreaBarraFile() {
              &FrmTableLimFacFT::ImportaTesto);
     pulsante("CMBSaveFTAsText", tr("As Text…"), tr("Saves the points as a text file"),
              &FrmTableLimFacFT::SalvaTesto);
-    pulsante("CMBSaveFTAsPDF", tr("As PDF…"), {}, nullptr);
-    pulsante("CMBSaveFTAsRTF", tr("As RTF…"), {}, nullptr);
+    pulsante("CMBSaveFTAsPDF", tr("As PDF…"), tr("Saves the points as pages to print"),
+             &FrmTableLimFacFT::SalvaPDF);
+    pulsante("CMBSaveFTAsRTF", tr("As RTF…"), tr("Saves the points for a word processor"),
+             &FrmTableLimFacFT::SalvaRTF);
     riga->addStretch(1);
     if (LimiteOFattore(modifica_.Contenuto().kind))
         pulsante("CMBStoreCFL", tr("Upload to receiver…"),

@@ -75,7 +75,10 @@ private:
     void Carica();
     void CaricaDa(const std::string& percorso);
     bool Salva(bool continua);
-    void SalvaTesto();
+    void SalvaTesto() { SalvaCome(tr("Save as Text"), tr("Text files"), QStringLiteral("TXT")); }
+    void SalvaPDF() { SalvaCome(tr("Save As PDF"), tr("PDF files"), QStringLiteral("PDF")); }
+    void SalvaRTF() { SalvaCome(tr("Save As RTF"), tr("RTF files"), QStringLiteral("RTF")); }
+    void SalvaCome(const QString& titolo, const QString& genere, const QString& estensione);
     void ImportaTesto();
     void CaricaNelRicevitore();
     QString NomeTabella() const;

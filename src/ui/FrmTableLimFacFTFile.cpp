@@ -4,6 +4,8 @@
 #include "data/CaricaSalva.h"
 #include "data/FileTabelle.h"
 #include "data/NomiDisco.h"
+#include "report/SalvaTabella.h"
+#include "ui/AttesaFile.h"
 #include "ui/FrmLoadSave.h"
 #include "ui/FrmTableLimFacFT.h"
 #include "ui/Testi.h"
@@ -43,20 +45,23 @@ void FrmTableLimFacFT::ImportaFile(const std::filesystem::path& file) {
     RaccontaImporto(std::move(c), esito);
 }
 
-void FrmTableLimFacFT::SalvaTesto() {
+void FrmTableLimFacFT::SalvaCome(const QString& titolo, const QString& genere,
+                                 const QString& estensione) {
     Conferma();
     const RichiestaFile richiesta = RichiestaTabella(modifica_.Contenuto().kind);
     console_.scrivania.albero.AssicuraCartella(richiesta.cartella);
-    QFileDialog dialogo(this, tr("Save as Text"),
-                        Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella))),
-                        tr("Text files (*.TXT *.txt)"));
+    QFileDialog dialogo(
+        this, titolo, Q(Utf8DaPath(console_.scrivania.albero.Host(richiesta.cartella))),
+        QStringLiteral("%1 (*.%2 *.%3)").arg(genere, estensione, estensione.toLower()));
     dialogo.setAcceptMode(QFileDialog::AcceptSave);
-    dialogo.setDefaultSuffix(QStringLiteral("TXT"));
-    dialogo.selectFile(NomeTabella() + QStringLiteral(".TXT"));
+    dialogo.setDefaultSuffix(estensione);
+    dialogo.selectFile(NomeTabella() + QLatin1Char('.') + estensione);
     if (dialogo.exec() != QDialog::Accepted)
         return;
     const QString file = dialogo.selectedFiles().constFirst();
-    if (SalvaComeTesto(console_.scrivania, PathDaUtf8(S(file)), modifica_.Contenuto()))
+    AttesaFile attesa(this);
+    if (SalvaTabellaCome(console_.scrivania, modifica_.Contenuto(), S(NomeTabella()),
+                         PathDaUtf8(S(file)), attesa))
         Messaggio(tr("Written to %1").arg(file));
 }
 
