@@ -179,6 +179,26 @@ def ScanRecord(*righe):
     return bytes(byte)
 
 
+def f32(x):
+    return struct.unpack("<f", struct.pack("<f", x))[0]
+
+
+def Curva(punti, lineare=0, segmento=0, titolo=b""):
+    """1972 bytes of a limit or a factor, from frequencies in Hz and hundredths of a dB."""
+    freq = [f for f, _ in punti] + [0.0] * (202 - len(punti))
+    valori = [v for _, v in punti] + [0] * (201 - len(punti))
+    return struct.pack("<202f201hh50shh706x", *freq, *valori, segmento, titolo.ljust(50), lineare, 1)
+
+
+def Valore(punti, hz, asse):
+    """Segments are closed below and open above; None where the curve has no value."""
+    for (f0, v0), (f1, v1) in zip(punti, punti[1:]):
+        if f0 <= hz < f1:
+            a = f32((v1 - v0) / (asse(f1) - asse(f0)))
+            return max(-32768, min(32767, round(a * asse(hz) + f32(v1 - a * asse(f1)))))
+    return None
+
+
 def Passi(campioni, detector):
     """RS file of the bytes that came over the wire: whole steps, twelve bytes each."""
     uscita = bytearray()

@@ -8,6 +8,7 @@ from peer import Flusso, LivelloPlausibile, Peer
 
 RIGA = "--start 0.15 --stop 1.15 --step 0.01 --hold 10"  # 101 steps
 RIGA_K3X = "--start 30 --stop 31 --step 0.01 --hold 10 --presel off --rbw 120kHz"
+RIGA_5590 = "--start 7000 --stop 7001 --step 0.01 --hold 10"
 SMART = RIGA + " --smart on --margin 6 --limit QP"
 IDENTIFICA = "#ASBK* #?IDN* #?BCD* #?MIL* #?CRA* #?S/N*".split()
 IDENTIFICA_K3X = [*IDENTIFICA[:3], "#?3PR*", *IDENTIFICA[3:]]
@@ -68,6 +69,12 @@ GENERI = {
         opzioni=("--trigger", "1"), regole={"?UPP": ["UPP=0", "UPP=0", "UPP=1"]}),
     "K3X": Genere(RIGA_K3X, Comune(Linea(Sfd(**K3X), batteria=("#?BAT*", "#SSTP*", "#S3PRR*")),
                                prima=IDENTIFICA_K3X), modello="K3X low"),
+    "3360/01": Genere(  # what it lacks never reaches the line
+        RIGA + " --presel off",
+        ["#ASBK*", "#?IDN*", "#?3PR*", "#?CRA*", "#?S/N*", PRIMA[0],
+         *Linea(Sfd(dopo="6;10;OFF;OFF;0"), ["#SSTP*", "#S3PRC*"], ())], modello="3360/01"),
+    "5590": Genere(RIGA_5590, Comune(Linea(Sfd(dopo="9;10;OFF;OFF;0", da="7000000000;7001000000"))),
+                   modello="5590"),
     "5520F": Genere(RIGA, [*FATTI_5520F, *PRIMA, "#SSTP*", "#?CO6*", Sfd(s="S"), "#?UHT*"],
                     modello="5520F", hz=10000.0),
     "GX2207F": Genere(
@@ -120,7 +127,7 @@ class ProvaGeneri(ProvaStrada):
     def test_generi(self):
         def Corpo(nome):
             genere = GENERI[nome]
-            dati = self.Sottocartella(nome.replace(" ", "-"))
+            dati = self.Sottocartella(nome.replace(" ", "-").replace("/", "-"))
             self.Prepara(dati, genere)
             flussi = [Flusso(lambda k, d, n=n: LivelloPlausibile(k * n + n, d), **genere.flusso)
                       for n in range(1, len(genere.passate) + 1)]  # fmt: skip

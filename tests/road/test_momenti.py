@@ -117,6 +117,8 @@ class ProvaMomenti(ProvaStrada):
             byte = rs.read_bytes() if rs.exists() else b""
             self.assertEqual(len(byte) % 12, 0)
             self.assertEqual(byte != b"", dove == "trace")
+            if dove == "trace":  # in the middle of a step
+                self.assertRegex(esito.err, r"\[box\] Cannot save file .*M\.RS0 -> OK")
             if byte:
                 self.assertEqual(byte, Passi(peer.campioni[0], [0])[: len(byte)])
             self.Prossima(dati, 500.0)
