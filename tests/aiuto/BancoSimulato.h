@@ -2,16 +2,19 @@
 // that note what they were told.
 #pragma once
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <vector>
 
 #include "aiuto/AmbienteProva.h"
 #include "aiuto/CartellaProva.h"
+#include "data/Misure.h"
 #include "data/Panels.h"
 #include "data/Scrivania.h"
 #include "link/LogTraffico.h"
 #include "link/Ricevitore.h"
+#include "setup/TabellaScan.h"
 #include "simulator/FlussoSimulato.h"
 #include "sweep/Corsa.h"
 
@@ -71,6 +74,14 @@ struct VistaNota : VistaErrore, VistaCorsa {
     void MostraBatteria(const std::string&) override {}
 };
 
+/// A new line of that band, its detectors by their letters.
+inline ScanLine Banda(const char* banda, const char* detector) {
+    ScanLine riga;
+    ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
+    riga.Detector = *LeggiDetector(detector);
+    return riga;
+}
+
 struct BancoSimulato {
     explicit BancoSimulato(const OpzioniSimulatore& opzioni = {}) : simulato(opzioni) {
         ambiente.linkPronto = [this] { return simulato.Pronti(ambiente.ora) > 0; };
@@ -83,6 +94,15 @@ struct BancoSimulato {
         ApplicaEnv(scrivania.env, false);
     }
 
+    /// Commands of the receiver that begin like this.
+    size_t Quanti(std::string_view inizio) const {
+        return static_cast<size_t>(std::ranges::count_if(
+            simulato.Comandi(), [&](const std::string& c) { return c.starts_with(inizio); }));
+    }
+    /// Whole steps of a trace file.
+    size_t Passi(const std::string& misura, const std::string& base, int riga = 0) const {
+        return File(PercorsoRS(misura, base, riga)).size() / kByteCampione;
+    }
     /// Bytes of a file of the data tree.
     std::vector<uint8_t> File(const std::string& percorso) const {
         return scrivania.albero.Leggi(percorso).value_or(std::vector<uint8_t>{});

@@ -177,13 +177,7 @@ class ProvaSweep(ProvaStrada):
         flussi = {
             "mark torn after each byte": Flusso(tagli_fine=(1, 2, 3, 4, 5, 6)),
             "every odd level": Flusso(livello=lambda k, d: (0x7FFF, 0x8000, 0xFFFE, 0xFFFF)[k % 4]),
-            "odd blocks": Flusso(pezzi=7, pausa=0.001),
             "every byte by itself": Flusso(),
-            "late bytes behind the mark": Flusso(coda=b"\x12\x34\x56\x78" * 3),
-            "letters of the mark among the samples":
-                Flusso(livello=lambda k, d: (0x4653, 0x5F44, 0x4E45, 0x4644)[k % 4]),
-            "a reply of before in front": Flusso(riscontro=b"UHT=5\r\nSFD=OK\r\n"),
-            "a part-step before the mark": Flusso(taglia=101 * 4 + 3, passi=102, fine=True),
         }  # fmt: skip
 
         def Corpo(nome):
@@ -196,22 +190,6 @@ class ProvaSweep(ProvaStrada):
             self.assertEqual(rs, Passi(peer.campioni[0], [0, 1]))
 
         InParallelo(self, flussi, Corpo)
-
-    def test_nomi_occupati(self):
-        """A name that is taken, in whatever case: No refuses and keeps, Yes takes the next free one."""
-        self.Tabella("T", BREVE)
-        with Peer(flussi=[Flusso(), Flusso(LivelloPlausibile)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "TEST", peer=peer)
-            prima = self.FileMisura("TEST", "RS0").read_bytes()
-            esito = self.Orvane("sweep", "--scan", "T", "--name", "test", peer=peer)
-            self.assertEqual((esito.codice, esito.out), (1, ""), str(esito))
-            self.assertIn("[box] Sweep test already exists. Rename in test_000? -> No\n", esito.err)
-            self.assertIn("[box] Replace it? -> No\n", esito.err)
-            for nome in ("test_000", "TEST_001"):
-                esito = self.Riesce("sweep", "--scan", "T", "--name", nome[:4], peer=peer, risposta="yes")
-                self.assertEqual(esito.out, f"{self.dati}/Sweep/{nome}\n")
-        self.assertEqual(self.FileMisura("TEST", "RS0").read_bytes(), prima)
-        self.assertEqual(len(peer.campioni), 3)  # the refused run asked for no sweep
 
     def test_rifiuto_dei_controlli(self):
         """The checks before a run refuse with their words; no file of the measure is made."""
