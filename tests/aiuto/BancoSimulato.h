@@ -9,6 +9,7 @@
 
 #include "aiuto/AmbienteProva.h"
 #include "aiuto/CartellaProva.h"
+#include "aiuto/DriverUsbProva.h"
 #include "data/Misure.h"
 #include "data/Panels.h"
 #include "data/Scrivania.h"
@@ -19,21 +20,6 @@
 #include "sweep/Corsa.h"
 
 namespace orvane::prova {
-
-struct NessunUsb : DriverUsb {
-    bool Installato() override { return false; }
-    StatoUsb ListaNumero(uint32_t&) override { return std::nullopt; }
-    StatoUsb ListaDescrizione(uint32_t, std::string&) override { return std::nullopt; }
-    StatoUsb Apri(const std::string&, HandleUsb&) override { return std::nullopt; }
-    StatoUsb ImpostaBaud(HandleUsb, uint32_t) override { return std::nullopt; }
-    StatoUsb ImpostaCaratteristiche(HandleUsb, int, int, int) override { return std::nullopt; }
-    StatoUsb ImpostaTrasferimenti(HandleUsb, uint32_t, uint32_t) override { return std::nullopt; }
-    StatoUsb Scrivi(HandleUsb, std::span<const uint8_t>, size_t&) override { return std::nullopt; }
-    StatoUsb Leggi(HandleUsb, std::span<uint8_t>, size_t&) override { return std::nullopt; }
-    StatoUsb InCoda(HandleUsb, size_t&) override { return std::nullopt; }
-    StatoUsb Svuota(HandleUsb) override { return std::nullopt; }
-    StatoUsb Chiudi(HandleUsb) override { return std::nullopt; }
-};
 
 struct NessunaPorta : CatalogoPorte {
     std::vector<PortaCom> Elenca() override { return {}; }
@@ -84,6 +70,7 @@ inline ScanLine Banda(const char* banda, const char* detector) {
 
 struct BancoSimulato {
     explicit BancoSimulato(const OpzioniSimulatore& opzioni = {}) : simulato(opzioni) {
+        usb.installato = usb.chiamabile = false;
         ambiente.linkPronto = [this] { return simulato.Pronti(ambiente.ora) > 0; };
         ambiente.prossimoByte = [this] {
             return simulato.ProssimoByte(ambiente.ora)
@@ -112,7 +99,7 @@ struct BancoSimulato {
     AmbienteProva ambiente;
     RicevitoreSimulato simulato;
     FlussoSimulato flusso{ambiente, simulato};
-    NessunUsb usb;
+    DriverUsbProva usb{ambiente}; ///< without a library to call
     NessunaPorta catalogo;
     StatoProtocollo stato;
     LogTraffico log{ambiente, cartella.Percorso()};

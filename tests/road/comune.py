@@ -16,6 +16,12 @@ from pathlib import Path
 
 PROGRAMMI = Path(sys.argv[1] if len(sys.argv) > 1 else "build/release/bin").resolve()
 NESSUN_LIVELLO = -20000
+BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+SWEEP = ("sweep", "--scan", "T", "--name", "M")
+# What a run says to a 5520 by the line's options alone.
+IDENTIFICA = ["#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*"]
+PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
+GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
 
 
 class Esito:
@@ -89,7 +95,7 @@ class ProvaStrada(unittest.TestCase):
         self.dati = Path(tempfile.mkdtemp(prefix="orvane-road-"))
         self.addCleanup(shutil.rmtree, self.dati, ignore_errors=True)
 
-    def Avvia(self, *argomenti, peer=None, dati=None, pazienza=None, risposta=None):
+    def Avvia(self, *argomenti, peer=None, dati=None, pazienza=None, risposta=None, **corsa):
         opzioni = ["--data", str(dati or self.dati)]
         if peer:
             opzioni += ["--link", "tty:" + peer.percorso]
@@ -97,7 +103,7 @@ class ProvaStrada(unittest.TestCase):
             opzioni += ["--patience", str(pazienza)]
         if risposta:
             opzioni += ["--answer", risposta]
-        return Corsa([*opzioni, *argomenti])
+        return Corsa([*opzioni, *argomenti], **corsa)
 
     def Orvane(self, *argomenti, secondi=60, **opzioni):
         esito = self.Avvia(*argomenti, **opzioni).Attendi(secondi)

@@ -3,11 +3,11 @@ and antennas of the set-up."""
 
 import json
 
-from comune import Campo, Esegui, ProvaStrada, ScanLine, ScanRecord, Testo
+from comune import Campo, Esegui, GENERATORE, PRIMA, ProvaStrada, ScanLine, ScanRecord, Testo
 from peer import Peer
 
 IDENTIFICA = ("#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?3PR*")
-CORSA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*", "#STGL0*", "#STGTOFF*", "#STGF0e3*"]
+CORSA = PRIMA + GENERATORE
 INGRESSO = ["#SSTP*", "#S3PRC*"]
 COMANDO = "#SSFD 150000;30000000;5000;P;10;6;10;OFF;ON;0*"
 

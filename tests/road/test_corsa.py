@@ -7,10 +7,8 @@ import signal
 import subprocess
 import time
 
-from comune import PROGRAMMI, Esegui, Passi, ProvaStrada
+from comune import BREVE, Esegui, Passi, PROGRAMMI, ProvaStrada, SWEEP
 from peer import Flusso, Peer
-
-BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
 
 
 class ProvaCorsa(ProvaStrada):
@@ -19,7 +17,7 @@ class ProvaCorsa(ProvaStrada):
         self.Tabella("T", BREVE)
 
     def Parole(self, *altre):
-        return ["--json", "sweep", "--scan", "T", "--name", "M", *altre]
+        return ["--json", *SWEEP, *altre]
 
     @staticmethod
     def Eventi(esito):
@@ -107,7 +105,7 @@ class ProvaCorsa(ProvaStrada):
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.05)]) as peer:
             processo = subprocess.Popen(
                 [PROGRAMMI / "orvane", "--data", self.dati, "--link", "tty:" + peer.percorso,
-                 "sweep", "--scan", "T", "--name", "M", "--pause-after", "0.2"],
+                 *SWEEP, "--pause-after", "0.2"],
                 stdin=terminale, stdout=subprocess.DEVNULL, stderr=terminale,
             )  # fmt: skip
             os.close(terminale)
@@ -126,7 +124,7 @@ class ProvaCorsa(ProvaStrada):
     def test_fine_brusca(self):
         """Killed in mid-sweep: whole steps, a header that loads, and a mark until it is accepted."""
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
-            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            corsa = self.Avvia(*SWEEP, peer=peer)
             self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 100))
             self.assertTrue(self.Riesce("archive").out.endswith("\trunning\n"))
             for parole in (("delete", "M"), ("rename", "M", "N"), ("accept", "M")):

@@ -3,17 +3,15 @@ and every file of the measure by its bytes."""
 
 import struct
 
-from comune import Campo, Esegui, InParallelo, NESSUN_LIVELLO, Passi, ProvaStrada
+from comune import (Campo, Esegui, GENERATORE, IDENTIFICA, InParallelo, NESSUN_LIVELLO, Passi,
+                    PRIMA, ProvaStrada, SWEEP)  # fmt: skip
 from peer import Flusso, LivelloPlausibile, Peer
 
 RIGA = "--start 0.15 --stop 1.15 --step 0.01 --hold 10"  # 101 steps
 RIGA_K3X = "--start 30 --stop 31 --step 0.01 --hold 10 --presel off --rbw 120kHz"
 RIGA_5590 = "--start 7000 --stop 7001 --step 0.01 --hold 10"
 SMART = RIGA + " --smart on --margin 6 --limit QP"
-IDENTIFICA = "#ASBK* #?IDN* #?BCD* #?MIL* #?CRA* #?S/N*".split()
 IDENTIFICA_K3X = [*IDENTIFICA[:3], "#?3PR*", *IDENTIFICA[3:]]
-PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
-GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
 LIMITE = ["#SLIW0,150e3;66*", "#SLIW1,30000e3;56*", "#SLIEQP*", "#SLIM6*"]
 TABELLA = ["#SSFW 0,150000*", "#SSFW 1,575000*", "#SSFW 2,1000000*", "#SSFW 3,1075000*",
            "#SSFW 4,1150000*"]
@@ -132,8 +130,7 @@ class ProvaGeneri(ProvaStrada):
             flussi = [Flusso(lambda k, d, n=n: LivelloPlausibile(k * n + n, d), **genere.flusso)
                       for n in range(1, len(genere.passate) + 1)]  # fmt: skip
             with Peer(genere.modello, flussi=flussi, regole=genere.regole) as peer:
-                esito = self.Riesce("sweep", "--scan", "T", "--name", "M", *genere.opzioni, peer=peer,
-                                    dati=dati)  # fmt: skip
+                esito = self.Riesce(*SWEEP, *genere.opzioni, peer=peer, dati=dati)
             self.assertEqual(SenzaRipetizioni(peer.comandi), SenzaRipetizioni(genere.attesi))
             self.assertEqual(len(peer.campioni), len(genere.passate))
             boxes = [r for r in esito.err.splitlines() if r.startswith("[box] ")]

@@ -5,15 +5,13 @@ import random
 import struct
 import time
 
-from comune import Corsa, Esegui, InParallelo, Passi, ProvaStrada, ScanLine, ScanRecord
+from comune import BREVE, Esegui, InParallelo, Passi, ProvaStrada, ScanLine, ScanRecord, SWEEP
 from peer import Flusso, Peer
-
-BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
 
 
 class ProvaGuasti(ProvaStrada):
     def Sweep(self, dati=None, **opzioni):
-        return self.Orvane("sweep", "--scan", "T", "--name", "M", dati=dati, **opzioni)
+        return self.Orvane(*SWEEP, dati=dati, **opzioni)
 
     def MisuraIntera(self, campioni, detector, dati=None, nome="M"):
         """The header is whole, and the trace is a run of whole steps of what was sent."""
@@ -54,7 +52,7 @@ class ProvaGuasti(ProvaStrada):
         """Stop: the receiver is told, the measure stands and can be shown."""
         self.Tabella("T", "--band B --detector P,Q")
         with Peer(flussi=[Flusso(tieni=True, pezzi=101, pausa=0.01)]) as peer:
-            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            corsa = self.Avvia(*SWEEP, peer=peer)
             self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 4000))
             corsa.Segnala()
             esito = corsa.Attendi()
@@ -71,7 +69,7 @@ class ProvaGuasti(ProvaStrada):
         """The receiver does not answer and the user wants out, twice: that ends it soon."""
         self.Tabella("T", BREVE)
         with Peer(regole={"SDIS": None}) as peer:
-            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            corsa = self.Avvia(*SWEEP, peer=peer)
             self.assertTrue(peer.Aspetta(lambda: any(c.startswith("#SDIS") for c in peer.comandi)))
             corsa.Segnala()
             time.sleep(0.2)
@@ -80,14 +78,11 @@ class ProvaGuasti(ProvaStrada):
         self.assertEqual(esito.codice, 5, str(esito))
         self.assertFalse((self.dati / "Sweep" / "M" / "M.RS0").exists())
 
-
-class ProvaDisco(ProvaStrada):
     def test_disco_pieno_per_le_uscite(self):
         """Standard output that takes nothing is a failure of a file too."""
         self.Tabella("T", BREVE)
         with open("/dev/full", "w") as pieno:
-            corsa = Corsa(["--data", str(self.dati), "scan", "show", "T"], uscita=pieno)
-            self.assertEqual(corsa.Attendi().codice, 4)
+            self.assertEqual(self.Orvane("scan", "show", "T", uscita=pieno).codice, 4)
 
     def test_pannelli_rovinati(self):
         """EPN and EAM of every wrong length, and of random bytes: no crash; a run runs, or is refused
@@ -103,8 +98,7 @@ class ProvaDisco(ProvaStrada):
             for file in ("Untitled.EPN", "Untitled.EAM", "Untitled.PTH"):
                 (dati / "Panels" / file).write_bytes(byte)
             with Peer() as peer:
-                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati,
-                                    risposta="yes")  # fmt: skip
+                esito = self.Sweep(dati, peer=peer, risposta="yes")
             if esito.codice == 1 and len(byte) > 2542:
                 self.assertIn("orvane: refused: ", esito.err)
             else:
@@ -137,8 +131,7 @@ class ProvaDisco(ProvaStrada):
             mostra = self.Orvane("scan", "show", "T", dati=dati)
             self.assertEqual(mostra.codice, 4 if len(byte) < 12676 else 0, str(mostra))
             with Peer(flussi=[Flusso(passi=5)]) as peer:
-                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati,
-                                    pazienza=0.5)  # fmt: skip
+                esito = self.Sweep(dati, peer=peer, pazienza=0.5)
             self.assertIn(esito.codice, (4,) if len(byte) < 12676 else (0, 1), str(esito))
 
         InParallelo(self, casi, Corpo)
@@ -147,7 +140,7 @@ class ProvaDisco(ProvaStrada):
         """Headers and traces torn anywhere: the archive lists them, the trace says what is wrong."""
         self.Tabella("T", BREVE)
         with Peer() as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.Riesce(*SWEEP, peer=peer)
         ksh, rs = self.FileMisura("M", "KSH"), self.FileMisura("M", "RS0")
         header, traccia = ksh.read_bytes(), rs.read_bytes()
         for n in (0, 12676, 17769):

@@ -6,7 +6,7 @@ import random
 import struct
 from pathlib import Path
 
-from comune import Curva, Esegui, ProvaStrada, Valore, f32
+from comune import Curva, Esegui, f32, ProvaStrada, Valore
 
 SHIPPED = Path(__file__).resolve().parents[2] / "share/orvane/Limits"
 
@@ -14,12 +14,6 @@ SHIPPED = Path(__file__).resolve().parents[2] / "share/orvane/Limits"
 def next_to(value, places):
     bits = struct.unpack("<I", struct.pack("<f", value))[0]
     return struct.unpack("<f", struct.pack("<I", bits + places))[0]
-
-
-def points_of(data):
-    freq = struct.unpack_from("<202f", data, 0)
-    value = struct.unpack_from("<201h", data, 808)
-    return [(freq[i], value[i]) for i in range(201) if freq[i] != 0], struct.unpack_from("<h", data, 1262)[0]
 
 
 def linear(hz):
@@ -71,18 +65,9 @@ class Limits(ProvaStrada):
 
     def test_shipped_library(self):
         self.orvane("limit", "library")
-        made = sorted(p.name for p in (self.dati / "Limits").iterdir())
-        self.assertEqual(made, sorted(p.name for p in SHIPPED.iterdir()))
-        rng = random.Random(1)
-        for name in made:
-            data = (self.dati / "Limits" / name).read_bytes()
-            self.assertEqual(data, (SHIPPED / name).read_bytes(),
-                             "make it afresh with `orvane --data share/orvane limit library`")
-            points, lin = points_of(data)
-            probes = self.probes(points, rng, 200)
-            self.assertEqual(self.values("limit", name[:-4], probes),
-                             ["none" if v is None else str(v)
-                              for v in (Valore(points, f, math.log) for f in probes)])
+        made, shipped = ({p.name: p.read_bytes() for p in folder.iterdir()}
+                         for folder in (self.dati / "Limits", SHIPPED))  # fmt: skip
+        self.assertEqual(made, shipped, "make it afresh with `orvane --data share/orvane limit library`")
 
     def test_library_keeps_what_is_there(self):
         self.put("Limits", "CISPR 15 mains QP.5SL", b"own")

@@ -8,8 +8,8 @@ import struct
 import time
 from html.parser import HTMLParser
 
-from comune import (Campo, Curva, Esegui, NESSUN_LIVELLO, ProvaStrada, ScanLine, ScanRecord, Testo,
-                    Valore, f32)  # fmt: skip
+from comune import (Campo, Curva, Esegui, f32, NESSUN_LIVELLO, ProvaStrada, ScanLine, ScanRecord,
+                    Testo, Valore)  # fmt: skip
 
 NOMI = ["Peak", "QPeak", "Rms", "Avg", "Rms-Avg", "C-Avg"]
 UNITA = {"dBm": -10700, "dBµV": 0, "dBµA": -3400, "dBpW": -1700, "dBµV/m": 0, "dBµA/m": -5150,

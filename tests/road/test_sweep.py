@@ -5,14 +5,9 @@ import random
 import re
 import struct
 
-from comune import (Campo, Esegui, InParallelo, NESSUN_LIVELLO, Passi, ProvaStrada, ScanLine,
-                    ScanRecord, Testo)  # fmt: skip
-from peer import Decodifica, Flusso, Livello, LivelloPlausibile, Peer
-
-IDENTIFICA = ["#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*"]
-GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
-PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
-BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+from comune import (BREVE, Campo, Esegui, GENERATORE, IDENTIFICA, InParallelo, Passi, PRIMA,
+                    ProvaStrada, ScanLine, ScanRecord, SWEEP, Testo)  # fmt: skip
+from peer import Flusso, LivelloPlausibile, Peer
 
 
 def Linea(comando):
@@ -124,7 +119,7 @@ class ProvaSweep(ProvaStrada):
         """Two overlapping lines: a command and a file each; the trace takes the higher level."""
         self.Tabella("T", f"{BREVE} --detector P,A", "--start 0.65 --stop 1.65 --step 0.01")
         with Peer(flussi=[Flusso(LivelloPlausibile), Flusso(lambda k, d: 4000 + 30 * k)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, risposta="yes")
+            self.Riesce(*SWEEP, peer=peer, risposta="yes")
         inizio = peer.comandi.index("#?BAT*")
         attesi = Linea("#SSFD 150000;1150000;10000;PA;0;6;10;OFF;ON;0*")
         attesi += Linea("#SSFD 650000;1650000;10000;P;0;6;10;OFF;ON;0*")
@@ -158,7 +153,7 @@ class ProvaSweep(ProvaStrada):
         """A fast model may step otherwise than it was told: the header of the measure says so."""
         self.Tabella("T", BREVE)
         with Peer("5520F", flussi=[Flusso(intestazione=12500.0, passi=81)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.Riesce(*SWEEP, peer=peer)
         # Told to keep its step, since the line does not leave it to the receiver.
         self.assertIn("#SSFDS 150000;1150000;10000;P;0;6;10;OFF;ON;0*", peer.comandi)
         ksh = self.FileMisura("M", "KSH").read_bytes()
@@ -184,7 +179,7 @@ class ProvaSweep(ProvaStrada):
             dati = self.Sottocartella(nome.replace(" ", "-"))
             self.Tabella("T", f"{BREVE} --detector P,Q", dati=dati)
             with Peer(flussi=[flussi[nome]], spezza=nome == "every byte by itself") as peer:
-                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+                self.Riesce(*SWEEP, peer=peer, dati=dati)
             rs = self.FileMisura("M", "RS0", dati).read_bytes()
             self.assertEqual(len(rs), 101 * 12)
             self.assertEqual(rs, Passi(peer.campioni[0], [0, 1]))
@@ -195,7 +190,7 @@ class ProvaSweep(ProvaStrada):
         """The checks before a run refuse with their words; no file of the measure is made."""
         self.Tabella("T", "--band B --detector N")
         with Peer(regole={"?CRA": "CRA=N/A"}) as peer:
-            esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer)
+            esito = self.Orvane(*SWEEP, peer=peer)
         self.assertEqual(esito.codice, 1, str(esito))
         self.assertIn("Rms-Avg Detector not available", esito.err)
         self.assertIn("line 1: ", esito.err)

@@ -505,16 +505,13 @@ struct BancoUnita : BancoAperto {
 const std::string kAccendi = TestoCambioUnita(UnitaRichiesta::Estesa, "");
 const std::string kNonVa = "*** KRV 5520 Connected ***\r  This span cannot be swept";
 
-TEST(RigaPerRiga, NothingIsAskedWhereTheUnitFits) {
+TEST(RigaPerRiga, TheUnitIsAskedForWhereItDoesNotFitAndIdentified) {
     BancoUnita b;
     b.r.modello = ConUnita(1);
     EXPECT_TRUE(b.Esegui());
     EXPECT_EQ(b.Riquadri(), Testi{});
     EXPECT_EQ(b.peer.scritti, Testi{});
-}
-
-TEST(RigaPerRiga, TheUnitIsSwitchedOnAndIdentified) {
-    BancoUnita b;
+    b.r.modello = {};
     b.Collega("BCD=ON;5570");
     EXPECT_TRUE(b.Esegui());
     EXPECT_EQ(b.Riquadri(), Testi{kAccendi});
