@@ -121,24 +121,6 @@ class ProvaMomenti(ProvaStrada):
 
         InParallelo(self, DISCO, Corpo)
 
-    def test_sola_lettura(self):
-        """A data root where nothing can be made, by a user who is not root."""
-        self.Tabella("T", BREVE)
-        nessuno = 65534 if os.geteuid() == 0 else None
-        cartelle = [self.dati, *(p for p in self.dati.iterdir() if p.is_dir())]
-        for cartella in cartelle:
-            cartella.chmod(0o555)
-        with Peer("5520F", flussi=[Flusso(intestazione=10000.0)]) as peer:
-            os.chmod(peer.percorso, 0o666)
-            esito = self.Orvane(*SWEEP, peer=peer, utente=nessuno)
-        self.assertEqual(esito.codice, 4, str(esito))
-        self.assertIn("M.KSH", esito.err)
-        self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
-        for cartella in cartelle:
-            cartella.chmod(0o755)
-        self.assertFalse((self.dati / "Sweep" / "M").exists())
-        self.Prossima(self.dati)
-
     def test_sola_lettura_nel_mezzo(self):
         """The measure's directory becomes one where nothing can be made, while samples come: the trace
         is whole, and the header, which cannot be written again, is that of the start."""

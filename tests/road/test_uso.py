@@ -41,9 +41,6 @@ CASI = [
     (["sweep", "--scan", "X", "--pause-for", "3"], 2, "--pause-for wants --pause-after"),
     (["sweep", "--scan", "X", "--pause-after", "3"], 2, "wants --pause-for where there is no terminal"),
     (["sweep", "--scan", "X", "--pause-after", "nan", "--pause-for", "1"], 2, "wants seconds"),
-    (["trace"], 2, "wants one MEASURE"),
-    (["trace", "Missing"], 4, "there is no measure Sweep\\Missing\\Missing.KSH"),
-    (["trace", "X", "--sub", "../X"], 2, "is no valid name"),
 ]
 
 
