@@ -55,13 +55,13 @@ class Flusso:
     """What comes back for one sweep command.
 
     intestazione: a step in Hz to make the bytes of the 5520F before the samples of; pezzi: the stream
-    goes out in blocks of so many bytes, `pausa` seconds apart; tagli_fine: where the end mark is
-    torn; tieni: samples come until aborted."""
+    goes out in blocks of so many bytes, `pausa` seconds apart; taglia: falls silent behind so many
+    bytes of samples; tagli_fine: where the end mark is torn; tieni: samples come until aborted."""
 
-    def __init__(self, livello=Livello, intestazione=None, passi=None, pezzi=4096, pausa=0.0,
-                 tagli_fine=(), tieni=False):  # fmt: skip
+    def __init__(self, livello=Livello, riscontro=b"SFD=OK\r\n", intestazione=None, passi=None,
+                 pezzi=4096, pausa=0.0, taglia=None, tagli_fine=(), tieni=False):  # fmt: skip
         self.livello, self.passi, self.pezzi, self.pausa = livello, passi, pezzi, pausa
-        self.tagli_fine, self.tieni = tagli_fine, tieni
+        self.riscontro, self.taglia, self.tagli_fine, self.tieni = riscontro, taglia, tagli_fine, tieni
         self.intestazione = intestazione and struct.pack("<f", intestazione) + bytes(range(28))
 
     def Campioni(self, passi, detector):
@@ -77,16 +77,20 @@ class Flusso:
 
     def Pezzi(self, comando):
         """Bytes to send, seconds to wait, or "chiudi", in order."""
-        yield b"SFD=OK\r\n"
+        yield self.riscontro
+        if b"OK" not in self.riscontro:
+            return
         if self.intestazione:
             yield self.intestazione
         while True:
-            dati = self.Campioni(self.PassiDi(comando), Detector(comando))
+            dati = self.Campioni(self.PassiDi(comando), Detector(comando))[: self.taglia]
             for i in range(0, len(dati), self.pezzi):
                 yield Misurati(dati[i : i + self.pezzi])
                 yield self.pausa
             if not self.tieni:
                 break
+        if self.taglia is not None:
+            return
         fine, da = b"SFD_END", 0
         for taglio in (*self.tagli_fine, len(fine)):
             yield fine[da:taglio]
