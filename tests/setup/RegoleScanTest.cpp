@@ -57,19 +57,6 @@ ScanLine Span(double start, double stop) {
     return {.Start = start, .Stop = stop, .Detector = {1}};
 }
 
-TEST(RegoleScan, AnEmptyTablePassesEveryRule) {
-    for (const ReceiverModel& m : {ReceiverModel{}, K3X(), Modello3360(nullptr)}) {
-        const Tavolo t(m);
-        EXPECT_TRUE(ControllaLineScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaCondRadScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaFstartFstopScanTab(t.C(), true, 0, 9).empty());
-        EXPECT_TRUE(ControllaRBWScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaSovrapposizioniFreq(t.C()).empty());
-        EXPECT_TRUE(ControlloStepScanTab(t.C()).empty());
-        EXPECT_TRUE(ControlloStepScanTabK3XK6X(t.C()).empty());
-    }
-}
-
 enum class Esame { Passa, Trovato, Segnato };
 
 /// Flags as digits: "0110" of the lines, then "11" of the polarisations.

@@ -247,6 +247,8 @@ TEST_F(CorsaTest, TheAbortEndsARunThatWaitsForASetter) {
     EXPECT_EQ(banco.vista.strisce.size(), 1u);
     EXPECT_FALSE(banco.vista.strisciaVisibile);
     EXPECT_FALSE(banco.scrivania.albero.EsisteCartella(CartellaMisura("M")));
+    banco.simulato.Scorda();
+    EXPECT_EQ(Esegui(), EsitoCorsa::Compiuta) << "the next run begins anew";
 }
 
 TEST_F(CorsaTest, ChecksRefuseBeforeAnythingIsWritten) {
