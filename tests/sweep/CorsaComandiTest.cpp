@@ -165,29 +165,15 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
 }
 
 TEST(CorsaComandiTest, ALineThatCannotBeSentEndsTheRun) {
-    struct {
-        const char* nome;
-        std::function<void(ScanLine&)> guasta;
-        const char* parole;
-    } const casi[] = {
-        {"no table",
-         [](ScanLine& r) {
-             r.FreqTable = "None";
-             r.StepMode = 1;
-         },
-         "Frequency table None  NOT FOUND"},
-        {"no limit",
-         [](ScanLine& r) {
-             r.Limit = "None";
-             r.Smart = r.LimitOn = 1;
-         },
-         "Too few limit frequencies\rMin 2 different frequencies"},
-    };
-    for (const auto& caso : casi) {
-        SCOPED_TRACE(caso.nome);
+    ScanLine senzaTabella = Banda("B", "P"), senzaLimite = senzaTabella;
+    senzaTabella.FreqTable = senzaLimite.Limit = "None";
+    senzaTabella.StepMode = senzaLimite.Smart = senzaLimite.LimitOn = 1;
+    for (const auto& [riga, parole] :
+         {std::pair{senzaTabella, "Frequency table None  NOT FOUND"},
+          {senzaLimite, "Too few limit frequencies\rMin 2 different frequencies"}}) {
+        SCOPED_TRACE(parole);
         BancoSimulato banco;
-        banco.scan.Righe[0] = Banda("B", "P");
-        caso.guasta(banco.scan.Righe[0]);
+        banco.scan.Righe[0] = riga;
         // Whether a check finds it or the run: no sweep begins.
         EXPECT_NE(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
         ASSERT_FALSE(banco.ambiente.riquadri.empty());
@@ -196,7 +182,7 @@ TEST(CorsaComandiTest, ALineThatCannotBeSentEndsTheRun) {
             ComponiScan(banco.scrivania, banco.ricevitore.modello, banco.scan.Righe);
         EXPECT_FALSE(scan.intero);
         ASSERT_EQ(scan.obiezioni.size(), 1u);
-        EXPECT_EQ(scan.obiezioni[0].testo, caso.parole);
+        EXPECT_EQ(scan.obiezioni[0].testo, parole);
     }
 }
 
