@@ -34,6 +34,14 @@ struct AmbienteProva : Ambiente {
         agenda.emplace(ora + secondi, std::move(cosa));
     }
 
+    /// The words of all boxes so far.
+    std::vector<std::string> Testi() const {
+        std::vector<std::string> testi;
+        for (const Riquadro& riquadro : riquadri)
+            testi.push_back(riquadro.testo);
+        return testi;
+    }
+
     double Adesso() const override { return ora; }
     OraCalendario Calendario() const override { return calendario; }
 

@@ -46,12 +46,7 @@ struct BancoBase {
         return {std::istreambuf_iterator<char>(file), {}};
     }
     double Trascorsi() const { return ambiente.ora - inizio; }
-    std::vector<std::string> Riquadri() const {
-        std::vector<std::string> testi;
-        for (const Riquadro& riquadro : ambiente.riquadri)
-            testi.push_back(riquadro.testo);
-        return testi;
-    }
+    std::vector<std::string> Riquadri() const { return ambiente.Testi(); }
 
     CartellaProva cartella;
     AmbienteProva ambiente;

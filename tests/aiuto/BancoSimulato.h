@@ -2,35 +2,24 @@
 // that note what they were told.
 #pragma once
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <vector>
 
 #include "aiuto/AmbienteProva.h"
 #include "aiuto/CartellaProva.h"
+#include "aiuto/DriverUsbProva.h"
+#include "data/Misure.h"
 #include "data/Panels.h"
 #include "data/Scrivania.h"
 #include "link/LogTraffico.h"
 #include "link/Ricevitore.h"
+#include "setup/TabellaScan.h"
 #include "simulator/FlussoSimulato.h"
 #include "sweep/Corsa.h"
 
 namespace orvane::prova {
-
-struct NessunUsb : DriverUsb {
-    bool Installato() override { return false; }
-    StatoUsb ListaNumero(uint32_t&) override { return std::nullopt; }
-    StatoUsb ListaDescrizione(uint32_t, std::string&) override { return std::nullopt; }
-    StatoUsb Apri(const std::string&, HandleUsb&) override { return std::nullopt; }
-    StatoUsb ImpostaBaud(HandleUsb, uint32_t) override { return std::nullopt; }
-    StatoUsb ImpostaCaratteristiche(HandleUsb, int, int, int) override { return std::nullopt; }
-    StatoUsb ImpostaTrasferimenti(HandleUsb, uint32_t, uint32_t) override { return std::nullopt; }
-    StatoUsb Scrivi(HandleUsb, std::span<const uint8_t>, size_t&) override { return std::nullopt; }
-    StatoUsb Leggi(HandleUsb, std::span<uint8_t>, size_t&) override { return std::nullopt; }
-    StatoUsb InCoda(HandleUsb, size_t&) override { return std::nullopt; }
-    StatoUsb Svuota(HandleUsb) override { return std::nullopt; }
-    StatoUsb Chiudi(HandleUsb) override { return std::nullopt; }
-};
 
 struct NessunaPorta : CatalogoPorte {
     std::vector<PortaCom> Elenca() override { return {}; }
@@ -71,8 +60,17 @@ struct VistaNota : VistaErrore, VistaCorsa {
     void MostraBatteria(const std::string&) override {}
 };
 
+/// A new line of that band, its detectors by their letters.
+inline ScanLine Banda(const char* banda, const char* detector) {
+    ScanLine riga;
+    ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
+    riga.Detector = *LeggiDetector(detector);
+    return riga;
+}
+
 struct BancoSimulato {
     explicit BancoSimulato(const OpzioniSimulatore& opzioni = {}) : simulato(opzioni) {
+        usb.installato = usb.chiamabile = false;
         ambiente.linkPronto = [this] { return simulato.Pronti(ambiente.ora) > 0; };
         ambiente.prossimoByte = [this] {
             return simulato.ProssimoByte(ambiente.ora)
@@ -83,6 +81,15 @@ struct BancoSimulato {
         ApplicaEnv(scrivania.env, false);
     }
 
+    /// Commands of the receiver that begin like this.
+    size_t Quanti(std::string_view inizio) const {
+        return static_cast<size_t>(std::ranges::count_if(
+            simulato.Comandi(), [&](const std::string& c) { return c.starts_with(inizio); }));
+    }
+    /// Whole steps of a trace file.
+    size_t Passi(const std::string& misura, const std::string& base, int riga = 0) const {
+        return File(PercorsoRS(misura, base, riga)).size() / kByteCampione;
+    }
     /// Bytes of a file of the data tree.
     std::vector<uint8_t> File(const std::string& percorso) const {
         return scrivania.albero.Leggi(percorso).value_or(std::vector<uint8_t>{});
@@ -92,7 +99,7 @@ struct BancoSimulato {
     AmbienteProva ambiente;
     RicevitoreSimulato simulato;
     FlussoSimulato flusso{ambiente, simulato};
-    NessunUsb usb;
+    DriverUsbProva usb{ambiente}; ///< without a library to call
     NessunaPorta catalogo;
     StatoProtocollo stato;
     LogTraffico log{ambiente, cartella.Percorso()};

@@ -35,12 +35,7 @@ struct CaricamentoTest : ::testing::Test {
         ImportaTesto(c, testo);
         return StoreFacLim(banco.ricevitore, vista, c, slot, nome, posizione);
     }
-    Testi Riquadri() const {
-        Testi testi;
-        for (const Riquadro& riquadro : banco.ambiente.riquadri)
-            testi.push_back(riquadro.testo);
-        return testi;
-    }
+    Testi Riquadri() const { return banco.ambiente.Testi(); }
 };
 
 TEST(TestoPunto, IsInKilohertzBelowOneGigahertz) {

@@ -117,6 +117,7 @@ TEST_F(TracciaTest, LinesWithoutSamplesOrWithoutAStepAreLeftOut) {
     Riga(2, 3.0, 0, {Passo(1)});
     Riga(3, 4.0, std::numeric_limits<double>::quiet_NaN(), {Passo(1)});
     tabella[4] = {.Start = 5, .Step = 1}; // no file
+    Riga(5, 0, 0.1, {Passo(1)});          // not in use
     const SweepTrace t = Crea();
     ASSERT_EQ(t.size(), 1u);
     EXPECT_EQ(t[0].riga, 1);

@@ -16,6 +16,12 @@ from pathlib import Path
 
 PROGRAMMI = Path(sys.argv[1] if len(sys.argv) > 1 else "build/release/bin").resolve()
 NESSUN_LIVELLO = -20000
+BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+SWEEP = ("sweep", "--scan", "T", "--name", "M")
+# What a run says to a 5520 by the line's options alone.
+IDENTIFICA = ["#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*"]
+PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
+GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
 
 
 class Esito:
@@ -89,7 +95,7 @@ class ProvaStrada(unittest.TestCase):
         self.dati = Path(tempfile.mkdtemp(prefix="orvane-road-"))
         self.addCleanup(shutil.rmtree, self.dati, ignore_errors=True)
 
-    def Avvia(self, *argomenti, peer=None, dati=None, pazienza=None, risposta=None):
+    def Avvia(self, *argomenti, peer=None, dati=None, pazienza=None, risposta=None, **corsa):
         opzioni = ["--data", str(dati or self.dati)]
         if peer:
             opzioni += ["--link", "tty:" + peer.percorso]
@@ -97,7 +103,7 @@ class ProvaStrada(unittest.TestCase):
             opzioni += ["--patience", str(pazienza)]
         if risposta:
             opzioni += ["--answer", risposta]
-        return Corsa([*opzioni, *argomenti])
+        return Corsa([*opzioni, *argomenti], **corsa)
 
     def Orvane(self, *argomenti, secondi=60, **opzioni):
         esito = self.Avvia(*argomenti, **opzioni).Attendi(secondi)
@@ -177,6 +183,26 @@ def ScanRecord(*righe):
         byte[1200 * i : 1200 * (i + 1)] = righe[i] if i < len(righe) else RigaVuota()
     Testo(byte, 12006, 60, "")
     return bytes(byte)
+
+
+def f32(x):
+    return struct.unpack("<f", struct.pack("<f", x))[0]
+
+
+def Curva(punti, lineare=0, segmento=0, titolo=b""):
+    """1972 bytes of a limit or a factor, from frequencies in Hz and hundredths of a dB."""
+    freq = [f for f, _ in punti] + [0.0] * (202 - len(punti))
+    valori = [v for _, v in punti] + [0] * (201 - len(punti))
+    return struct.pack("<202f201hh50shh706x", *freq, *valori, segmento, titolo.ljust(50), lineare, 1)
+
+
+def Valore(punti, hz, asse):
+    """Segments are closed below and open above; None where the curve has no value."""
+    for (f0, v0), (f1, v1) in zip(punti, punti[1:]):
+        if f0 <= hz < f1:
+            a = f32((v1 - v0) / (asse(f1) - asse(f0)))
+            return max(-32768, min(32767, round(a * asse(hz) + f32(v1 - a * asse(f1)))))
+    return None
 
 
 def Passi(campioni, detector):

@@ -22,21 +22,11 @@ MODELLI = {
     "5590": {"?IDN": "IDN=5520-FW - {fw}", "?BCD": "BCD=ON;5590"},
     "5520+GX2207": {"?IDN": "IDN=5520-FW - {fw}", "?BCD": "BCD=ON;GX2207"},
     "K3X low": {"?IDN": "IDN=5520/K3X - {fw}", "?BCD": "BCD=OFF;K3X"},
-    "K3X high": {"?IDN": "IDN=5520/K3X - {fw}", "?BCD": "BCD=ON;K3X"},
-    "K0X high": {"?IDN": "IDN=5520/K0X - {fw}", "?BCD": "BCD=ON;K3X"},
-    "K6X high": {"?IDN": "IDN=5520/K6X - {fw}", "?BCD": "BCD=ON;K6X"},
-    "60 OEM low": {"?IDN": "IDN=60 OEM - {fw}", "?BCD": "BCD=OFF;OEM"},
     "5520F": {"?IDN": "IDN=5520F-FW - {fw}", "?CO6": "CO6=CND"},
     "5520F rad": {"?IDN": "IDN=5520F-FW - {fw}", "?CO6": "CO6=RAD;30,6000,"},
     "VSD3": {"?IDN": "IDN=VSD3 {fw}", "?CO6": "CO6=CND"},
-    "T4470K": {"?IDN": "IDN=T4470K {fw}", "?CO6": "CO6=RAD;30,6000,"},
-    "GX2207": {"?IDN": "IDN=GX2207-FW - {fw}", "?BCD": "BCD=OFF"},
-    "TB05": {"?IDN": "IDN=TB05-FW - {fw}", "?BCD": "BCD=OFF"},
     "GX2207F": {"?IDN": "IDN=GX2207F-FW - {fw}", "?BCD": "BCD=OFF"},
-    "3360": {"?IDN": "IDN=3360-FW - {fw}", "?3PR": "3PR=CON"},
-    "3360/00": {"?IDN": "IDN=3360/00-FW - {fw}", "?3PR": "3PR=CON"},
     "3360/01": {"?IDN": "IDN=3360/01-FW - {fw}", "?3PR": "3PR=CON"},
-    "3360/02 rad": {"?IDN": "IDN=3360/02-FW - {fw}", "?3PR": "3PR=RAD;28,1000,"},
     "3360/03 rad": {"?IDN": "IDN=3360/03-FW - {fw}", "?3PR": "3PR=RAD;28,3000,"},
 }
 
@@ -61,31 +51,18 @@ def LivelloPlausibile(passo, detector):
     return 6000 - detector * 500 - (passo * 13) % 2500
 
 
-def Decodifica(v):
-    """Hundredths of a dB of a wire value. Minus 65535, as every stored trace has it."""
-    return v - 65535 if v > 32767 else v
-
-
 class Flusso:
-    """What comes back for one sweep command. Counts are bytes of samples.
+    """What comes back for one sweep command.
 
-    taglia: falls silent behind so many; chiudi: takes the line away behind so many; intestazione:
-    bytes of the 5520F before the samples, or a step in Hz to make them of; pezzi: the stream goes
-    out in blocks of so many bytes, `pausa` seconds apart; tagli_fine: where the end mark is torn;
-    coda: what follows the mark; fine: whether the mark comes, if not by itself; tieni: samples come
-    until aborted."""
+    intestazione: a step in Hz to make the bytes of the 5520F before the samples of; pezzi: the stream
+    goes out in blocks of so many bytes, `pausa` seconds apart; taglia: falls silent behind so many
+    bytes of samples; tagli_fine: where the end mark is torn; tieni: samples come until aborted."""
 
     def __init__(self, livello=Livello, riscontro=b"SFD=OK\r\n", intestazione=None, passi=None,
-                 pezzi=4096, pausa=0.0, tagli_fine=(), taglia=None, chiudi=None, coda=b"",
-                 fine=None, tieni=False):  # fmt: skip
-        self.livello, self.riscontro, self.passi = livello, riscontro, passi
-        self.intestazione = intestazione
-        if isinstance(intestazione, float):
-            self.intestazione = struct.pack("<f", intestazione) + bytes(range(28))
-        self.pezzi, self.pausa, self.tagli_fine = pezzi, pausa, tagli_fine
-        self.taglia, self.chiudi, self.coda = taglia, chiudi, coda
-        self.tieni = tieni
-        self.fine = taglia is None and chiudi is None if fine is None else fine
+                 pezzi=4096, pausa=0.0, taglia=None, tagli_fine=(), tieni=False):  # fmt: skip
+        self.livello, self.passi, self.pezzi, self.pausa = livello, passi, pezzi, pausa
+        self.riscontro, self.taglia, self.tagli_fine, self.tieni = riscontro, taglia, tagli_fine, tieni
+        self.intestazione = intestazione and struct.pack("<f", intestazione) + bytes(range(28))
 
     def Campioni(self, passi, detector):
         return b"".join(
@@ -105,28 +82,20 @@ class Flusso:
             return
         if self.intestazione:
             yield self.intestazione
-        detector = Detector(comando)
-        giro = 0
         while True:
-            dati = self.Campioni(self.PassiDi(comando), detector)
-            limite = min(x for x in (self.taglia, self.chiudi, len(dati)) if x is not None)
-            for i in range(0, limite, self.pezzi):
-                yield Misurati(dati[i : min(i + self.pezzi, limite)])
+            dati = self.Campioni(self.PassiDi(comando), Detector(comando))[: self.taglia]
+            for i in range(0, len(dati), self.pezzi):
+                yield Misurati(dati[i : i + self.pezzi])
                 yield self.pausa
-            giro += 1
             if not self.tieni:
                 break
-        if self.chiudi is not None:
-            yield 0.05
-            yield "chiudi"
-        if not self.fine:
+        if self.taglia is not None:
             return
         fine, da = b"SFD_END", 0
         for taglio in (*self.tagli_fine, len(fine)):
             yield fine[da:taglio]
             yield 0.02
             da = taglio
-        yield self.coda
 
 
 class Misurati(bytes):
@@ -152,8 +121,8 @@ class Peer:
 
     regole: replies by the beginning of a command without "#" ("?IDN", "SDIS"); text gets its CR LF,
     bytes go as they are, None is silence, a list is worked off and its last entry stays, a callable
-    is asked. A sweep told to pause stands still until it is resumed. muto: no reply to anything. ritardo: seconds before each reply. spezza: every byte by
-    itself. flussi: a Flusso for each sweep command, the last one stays."""
+    is asked. A sweep told to pause stands still until it is resumed. muto: no reply to anything.
+    ritardo: seconds before each reply. spezza: every byte by itself. flussi: a Flusso for each sweep command, the last one stays."""
 
     def __init__(self, modello="5520", fw=FIRMWARE, regole=None, flussi=None, muto=False,
                  ritardo=0.0, spezza=False):  # fmt: skip

@@ -1,16 +1,14 @@
-"""The look at a scan table before a run, over receivers of several families: what is found, in which
+"""The look at a scan table before a run, over receivers of two families: what is found, in which
 order, and that nothing is touched. The expectations are stated line by line, apart from the program's
 own rules."""
 
 import json
 
-from comune import Campo, Esegui, InParallelo, ProvaStrada, ScanLine, ScanRecord
+from comune import Esegui, InParallelo, ProvaStrada, ScanLine, ScanRecord
 from peer import Peer
 
 IDENTIFICA = ("#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*", "#?3PR*", "#?CO6*")
-START, STOP, PASSO, DETECTOR, TENUTA, RBW, ATT, PREAMP, PRESEL = (
-    "Start [MHz]", "Stop [MHz]", "Step", "Detector", "Hold Time", "RBW", "Min Att", "Pre Amp",
-    "Pre Sel")  # fmt: skip
+START, STOP, TENUTA, ATT = "Start [MHz]", "Stop [MHz]", "Hold Time", "Min Att"
 
 
 def Banda(start, stop, rbw, passo, detector=(0,), **campi):
@@ -45,24 +43,9 @@ class ProvaCheck(ProvaStrada):
                 (8, [(2, START), (2, STOP)], "stop"),
                 (14, [(2, START), (2, STOP)], "stop"),
                 (16, [(1, ATT)], "stop")]),
-            # After Yes each line asks for its unit: its filter is its own matter.
-            "5520, B and C": ("5520", [Banda(0.15, 30, 2, 0.005), Banda(30, 300, 1, 0.1)], "yes", [
-                (7, [], "asked")]),
-            # ...and here it is not; the preselector is fixed.
-            "5590": ("5590", [Banda(7000, 9000, 0, 0.25, MinAtt=4, PreAmp=1, **senza_sel)], None, [
-                (20, [(1, PREAMP), (1, ATT)], "stop"),
-                (21, [(1, PRESEL)], "corrected")]),
-            "K6X": ("K6X high", [Banda(30, 300, 1, 1, AutoStep=0), Banda(1000, 3000, 0, 0.25, (1,),
-                                                                         **senza_sel)], None, [
-                (10, [(2, RBW)], "stop"),
-                (15, [(1, PASSO)], "corrected"),
-                (19, [(1, PRESEL)], "stop")]),
             "3360": ("3360/01", [Banda(0.15, 1, 2, 0.005, (1,), **senza_sel),
                                  Banda(0.5, 2, 2, 0.005, (0, 5), HoldTime=1000, **senza_sel)], "yes", [
                 (17, [(1, START), (1, STOP), (2, START), (2, STOP)], "asked"),
-                (33, [(1, TENUTA)], "corrected")]),
-            "5520F": ("5520F", [Banda(0.15, 30, 0, 0.25, (4,), HoldTime=999, AutoStep=0)], None, [
-                (10, [(1, RBW)], "stop"),
                 (33, [(1, TENUTA)], "corrected")]),
         }  # fmt: skip
 
@@ -87,19 +70,6 @@ class ProvaCheck(ProvaStrada):
             self.assertEqual([f.get("answer") for f in documento["findings"]], [risposta or "no"])
             self.assertEqual(documento["findings"][0]["words"],
                              "Warning: Overlapping frequencies.\nDo you want to continue?")  # fmt: skip
-
-    def test_un_si_ripara(self):
-        """Yes to the network's question is seen by what looks later; the file keeps its lines."""
-        setup = bytearray(5094)
-        Campo(setup, 3000, "h", 1)
-        (self.dati / "Panels").mkdir()
-        (self.dati / "Panels" / "Untitled.EAM").write_bytes(setup)
-        riga = bytearray(Banda(30, 300, 1, 0.1, PreSel=0))
-        Campo(riga, 102, "4h", 1, 0, 0, 0)  # "N ", which a two-line network has not
-        for risposta, attesi in (("yes", [3, 5, 5]), ("no", [3])):
-            documento, esito = self.Esamina(self.dati, "K3X low", riga, risposta=risposta)
-            self.assertEqual([f["check"] for f in documento["findings"]], attesi, str(esito))
-            self.assertTrue(documento["refused"])
 
     def test_nome(self):
         """With a name the measure's place is looked at too, and left as it is."""

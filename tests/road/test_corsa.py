@@ -7,10 +7,8 @@ import signal
 import subprocess
 import time
 
-from comune import PROGRAMMI, Esegui, Passi, ProvaStrada
+from comune import BREVE, Esegui, Passi, PROGRAMMI, ProvaStrada, SWEEP
 from peer import Flusso, Peer
-
-BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
 
 
 class ProvaCorsa(ProvaStrada):
@@ -19,7 +17,7 @@ class ProvaCorsa(ProvaStrada):
         self.Tabella("T", BREVE)
 
     def Parole(self, *altre):
-        return ["--json", "sweep", "--scan", "T", "--name", "M", *altre]
+        return ["--json", *SWEEP, *altre]
 
     @staticmethod
     def Eventi(esito):
@@ -62,22 +60,6 @@ class ProvaCorsa(ProvaStrada):
         self.assertEqual(self.FileMisura("M", "RS0").read_bytes(), Passi(peer.campioni[0], [0]))
         self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 101 * 12)
 
-    def test_fermata_in_pausa(self):
-        """A stop leaves the pause without a resume; the measure stands."""
-        with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
-            parole = self.Parole("--pause-after", "0", "--pause-for", "60")
-            corsa = self.Avvia(*parole, peer=peer)
-            corsa.AspettaDetto('"phase":"pause"')
-            self.assertTrue(peer.fermo)
-            corsa.Segnala()
-            esito = corsa.Attendi()
-        self.assertEqual(esito.codice, 5, str(esito))
-        self.assertNotIn("#ASRE*", peer.comandi)
-        self.assertIn("#ASBK*", peer.comandi[peer.comandi.index("#ASPA*") :])
-        rs = self.FileMisura("M", "RS0").read_bytes()
-        self.assertGreater(len(rs), 0)
-        self.assertEqual(rs, Passi(peer.campioni[0], [0])[: len(rs)])
-
     def test_timer(self):
         """The countdown goes by seconds; a stop in it leaves no file."""
         with Peer() as peer:
@@ -96,19 +78,13 @@ class ProvaCorsa(ProvaStrada):
         self.assertFalse([c for c in peer.comandi[da:] if c.startswith("#SSFD")])
 
     def test_trigger(self):
-        """The port is read until it says so: 0, or anything else."""
-        for voluto, prima, poi in (("0", "UPP=1", "UPP=0"), ("1", "UPP=0", "UPP=2")):
-            with self.subTest(trigger=voluto):
-                nome = "M" + voluto
-                letture = [prima] * 3 + [poi]
-                with Peer(regole={"?UPP": letture}) as peer:
-                    esito = self.Riesce("--json", "sweep", "--scan", "T", "--name", nome,
-                                        "--trigger", voluto, peer=peer)  # fmt: skip
-                # The list is worked off down to its last entry before the sweep begins.
-                self.assertEqual(letture, [poi])
-                visti = [e for e in self.Eventi(esito) if e["event"] == "trigger"]
-                self.assertEqual([e["user_port"] for e in visti][-1], int(poi[-1]))
-                self.assertTrue(all(e["wanted"] == int(voluto) for e in visti))
+        """The port is read until it says 0, and each reading is told."""
+        letture = ["UPP=1"] * 3 + ["UPP=0"]
+        with Peer(regole={"?UPP": letture}) as peer:
+            esito = self.Riesce(*self.Parole("--trigger", "0"), peer=peer)
+        visti = [e for e in self.Eventi(esito) if e["event"] == "trigger"]
+        self.assertEqual((visti[0]["user_port"], visti[-1]["user_port"]), (1, 0))
+        self.assertTrue(all(e["wanted"] == 0 for e in visti))
 
     def test_domande_al_terminale(self):
         """Where somebody sits, a prompt waits for Enter, and so does a pause without an end."""
@@ -129,7 +105,7 @@ class ProvaCorsa(ProvaStrada):
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.05)]) as peer:
             processo = subprocess.Popen(
                 [PROGRAMMI / "orvane", "--data", self.dati, "--link", "tty:" + peer.percorso,
-                 "sweep", "--scan", "T", "--name", "M", "--pause-after", "0.2"],
+                 *SWEEP, "--pause-after", "0.2"],
                 stdin=terminale, stdout=subprocess.DEVNULL, stderr=terminale,
             )  # fmt: skip
             os.close(terminale)
@@ -145,26 +121,10 @@ class ProvaCorsa(ProvaStrada):
             self.assertEqual(processo.wait(60), 0)
         self.assertEqual(self.FileMisura("M", "RS0").stat().st_size, 101 * 12)
 
-    def test_parole_errate(self):
-        casi = {
-            "--timer 0": "--timer wants seconds",
-            "--timer 1.5": "--timer wants whole seconds",
-            "--trigger 2": "--trigger wants 0 or 1",
-            "--timer 3 --trigger 1": "exclude each other",
-            "--pause-for 3": "--pause-for wants --pause-after",
-            "--pause-after 3": "wants --pause-for where there is no terminal",
-            "--pause-after nan --pause-for 1": "--pause-after wants seconds",
-        }
-        for opzioni, dice in casi.items():
-            with self.subTest(opzioni=opzioni):
-                esito = self.Orvane("sweep", "--scan", "T", *opzioni.split())
-                self.assertEqual(esito.codice, 2, str(esito))
-                self.assertIn(dice, esito.err)
-
     def test_fine_brusca(self):
         """Killed in mid-sweep: whole steps, a header that loads, and a mark until it is accepted."""
         with Peer(flussi=[Flusso(pezzi=4, pausa=0.02)]) as peer:
-            corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer)
+            corsa = self.Avvia(*SWEEP, peer=peer)
             self.assertTrue(peer.Aspetta(lambda: peer.campioni and len(peer.campioni[0]) > 100))
             self.assertTrue(self.Riesce("archive").out.endswith("\trunning\n"))
             for parole in (("delete", "M"), ("rename", "M", "N"), ("accept", "M")):

@@ -3,16 +3,15 @@ and every file of the measure by its bytes."""
 
 import struct
 
-from comune import Campo, Esegui, InParallelo, NESSUN_LIVELLO, Passi, ProvaStrada
+from comune import (Campo, Esegui, GENERATORE, IDENTIFICA, InParallelo, NESSUN_LIVELLO, Passi,
+                    PRIMA, ProvaStrada, SWEEP)  # fmt: skip
 from peer import Flusso, LivelloPlausibile, Peer
 
 RIGA = "--start 0.15 --stop 1.15 --step 0.01 --hold 10"  # 101 steps
 RIGA_K3X = "--start 30 --stop 31 --step 0.01 --hold 10 --presel off --rbw 120kHz"
+RIGA_5590 = "--start 7000 --stop 7001 --step 0.01 --hold 10"
 SMART = RIGA + " --smart on --margin 6 --limit QP"
-IDENTIFICA = "#ASBK* #?IDN* #?BCD* #?MIL* #?CRA* #?S/N*".split()
 IDENTIFICA_K3X = [*IDENTIFICA[:3], "#?3PR*", *IDENTIFICA[3:]]
-PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
-GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
 LIMITE = ["#SLIW0,150e3;66*", "#SLIW1,30000e3;56*", "#SLIEQP*", "#SLIM6*"]
 TABELLA = ["#SSFW 0,150000*", "#SSFW 1,575000*", "#SSFW 2,1000000*", "#SSFW 3,1075000*",
            "#SSFW 4,1150000*"]
@@ -68,6 +67,12 @@ GENERI = {
         opzioni=("--trigger", "1"), regole={"?UPP": ["UPP=0", "UPP=0", "UPP=1"]}),
     "K3X": Genere(RIGA_K3X, Comune(Linea(Sfd(**K3X), batteria=("#?BAT*", "#SSTP*", "#S3PRR*")),
                                prima=IDENTIFICA_K3X), modello="K3X low"),
+    "3360/01": Genere(  # what it lacks never reaches the line
+        RIGA + " --presel off",
+        ["#ASBK*", "#?IDN*", "#?3PR*", "#?CRA*", "#?S/N*", PRIMA[0],
+         *Linea(Sfd(dopo="6;10;OFF;OFF;0"), ["#SSTP*", "#S3PRC*"], ())], modello="3360/01"),
+    "5590": Genere(RIGA_5590, Comune(Linea(Sfd(dopo="9;10;OFF;OFF;0", da="7000000000;7001000000"))),
+                   modello="5590"),
     "5520F": Genere(RIGA, [*FATTI_5520F, *PRIMA, "#SSTP*", "#?CO6*", Sfd(s="S"), "#?UHT*"],
                     modello="5520F", hz=10000.0),
     "GX2207F": Genere(
@@ -120,13 +125,12 @@ class ProvaGeneri(ProvaStrada):
     def test_generi(self):
         def Corpo(nome):
             genere = GENERI[nome]
-            dati = self.Sottocartella(nome.replace(" ", "-"))
+            dati = self.Sottocartella(nome.replace(" ", "-").replace("/", "-"))
             self.Prepara(dati, genere)
             flussi = [Flusso(lambda k, d, n=n: LivelloPlausibile(k * n + n, d), **genere.flusso)
                       for n in range(1, len(genere.passate) + 1)]  # fmt: skip
             with Peer(genere.modello, flussi=flussi, regole=genere.regole) as peer:
-                esito = self.Riesce("sweep", "--scan", "T", "--name", "M", *genere.opzioni, peer=peer,
-                                    dati=dati)  # fmt: skip
+                esito = self.Riesce(*SWEEP, *genere.opzioni, peer=peer, dati=dati)
             self.assertEqual(SenzaRipetizioni(peer.comandi), SenzaRipetizioni(genere.attesi))
             self.assertEqual(len(peer.campioni), len(genere.passate))
             boxes = [r for r in esito.err.splitlines() if r.startswith("[box] ")]

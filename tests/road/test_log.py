@@ -1,6 +1,6 @@
 """The diagnostic files that switches of the command line turn on."""
 
-from comune import Esegui, ProvaStrada
+from comune import Esegui, ProvaStrada, SWEEP
 from peer import Flusso, Peer
 
 SCAMBI = [("#ASBK*", "SBK=OK"), ("#?IDN*", "IDN=5520-FW - 2.20 12/03/18"), ("#?BCD*", "BCD=OFF"),
@@ -47,7 +47,7 @@ class ProvaLog(ProvaStrada):
         self.Tabella("T", "--start 0.15 --stop 1.15 --step 0.01 --detector P,Q",
                      "--start 2 --stop 3 --step 0.01")  # fmt: skip
         with Peer(flussi=[Flusso(), Flusso(pezzi=33, pausa=0.002)]) as peer:
-            self.Riesce("/LOGSWEEP", "sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.Riesce("/LOGSWEEP", *SWEEP, peer=peer)
         comandi = [c.encode() for c in peer.comandi if c.startswith("#SSFD")]
         atteso = b"".join(
             comando + b"\r\n\r\nSFD=OK\r\n" + bytes(campioni) + b"SFD_END"

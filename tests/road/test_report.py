@@ -8,7 +8,8 @@ import struct
 import time
 from html.parser import HTMLParser
 
-from comune import Campo, Esegui, NESSUN_LIVELLO, ProvaStrada, ScanLine, ScanRecord, Testo
+from comune import (Campo, Curva, Esegui, f32, NESSUN_LIVELLO, ProvaStrada, ScanLine, ScanRecord,
+                    Testo, Valore)  # fmt: skip
 
 NOMI = ["Peak", "QPeak", "Rms", "Avg", "Rms-Avg", "C-Avg"]
 UNITA = {"dBm": -10700, "dBµV": 0, "dBµA": -3400, "dBpW": -1700, "dBµV/m": 0, "dBµA/m": -5150,
@@ -22,25 +23,6 @@ FATTORI = {"Lisn": [(0.15e6, 1000), (5e6, 1150), (20e6, 900), (32e6, 1000)],
            "Cable loss dB": [(1e6, 50), (10e6, 120), (12e6, 130)]}  # fmt: skip
 SOLO = "Short"
 LETTO = time.mktime((2026, 5, 17, 14, 3, 9, 0, 0, -1))
-
-
-def f32(x):
-    return struct.unpack("<f", struct.pack("<f", x))[0]
-
-
-def Curva(punti):
-    freq = [f for f, _ in punti] + [0.0] * (202 - len(punti))
-    valori = [v for _, v in punti] + [0] * (201 - len(punti))
-    return struct.pack("<202f201hh50shh706x", *freq, *valori, 0, b" " * 50, 0, 1)
-
-
-def Valore(punti, hz, asse):
-    """None below the first point and from the last on."""
-    for (f0, v0), (f1, v1) in zip(punti, punti[1:]):
-        if f0 <= hz < f1:
-            a = f32((v1 - v0) / (asse(f1) - asse(f0)))
-            return round(a * asse(hz) + f32(v1 - a * asse(f1)))
-    return None
 
 
 def Numero(cent):

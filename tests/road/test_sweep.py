@@ -5,14 +5,9 @@ import random
 import re
 import struct
 
-from comune import (Campo, Esegui, InParallelo, NESSUN_LIVELLO, Passi, ProvaStrada, ScanLine,
-                    ScanRecord, Testo)  # fmt: skip
-from peer import Decodifica, Flusso, Livello, LivelloPlausibile, Peer
-
-IDENTIFICA = ["#ASBK*", "#?IDN*", "#?BCD*", "#?MIL*", "#?CRA*", "#?S/N*"]
-GENERATORE = ["#STGL0*", "#STGTOFF*", "#STGF0e3*"]
-PRIMA = ["#SCFA -1*", "#SDIS80;65*", "#SPLMOFF*", "#STGSOFF*"]
-BREVE = "--start 0.15 --stop 1.15 --step 0.01"  # 101 steps
+from comune import (BREVE, Campo, Esegui, GENERATORE, IDENTIFICA, InParallelo, Passi, PRIMA,
+                    ProvaStrada, ScanLine, ScanRecord, SWEEP, Testo)  # fmt: skip
+from peer import Flusso, LivelloPlausibile, Peer
 
 
 def Linea(comando):
@@ -120,90 +115,11 @@ class ProvaSweep(ProvaStrada):
         self.assertEqual(comandi, ["#SSFD 150000;650000;10000;PA;20;12;30;ON;OFF;0*",
                                    "#SSFD 500000;1000000;10000;PA;20;12;30;ON;OFF;0*"])  # fmt: skip
 
-    def test_detector(self):
-        """Each set has its own width on the wire; the others hold the mark of no value."""
-        insiemi = {"P": [0], "q": [1], "P,R": [0, 2], "C,A,P": [0, 3, 5], "P,Q,R,A,N,C": range(6)}
-
-        def Corpo(insieme):
-            dati = self.Sottocartella(insieme)
-            self.Tabella("T", f"{BREVE} --detector {insieme}", dati=dati)
-            with Peer() as peer:
-                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
-            lettere = "".join("PQRANC"[d] for d in insiemi[insieme])
-            self.assertIn(f";{lettere};", peer.comandi[-2])
-            rs = self.FileMisura("M", "RS0", dati).read_bytes()
-            self.assertEqual(rs, Passi(peer.campioni[0], insiemi[insieme]))
-            atteso = [Decodifica(Livello(7, d)) if d in insiemi[insieme] else NESSUN_LIVELLO
-                      for d in range(6)]  # fmt: skip
-            self.assertEqual(list(struct.unpack_from("<6h", rs, 12 * 7)), atteso)
-
-        InParallelo(self, insiemi, Corpo)
-
-    def test_comandi(self):
-        """The sweep command's fields from the options of the line."""
-        casi = {
-            "--band A": "9000;150000;50;P;0;7;10;OFF;ON;0",
-            "--band C": "30000000;300000000;100000;P;0.2;10;10;OFF;ON;0",
-            "--band B --min-att 0 --preamp on --presel off --hold 1000":
-                "150000;30000000;5000;P;1000;6;0;ON;OFF;0",
-            "--start 0,15 --stop 29.9 --rbw 10kHz --hold 0.5":
-                "150000;29900000;2500;P;0.5;4;10;OFF;ON;0",
-            "--start 0.1503 --stop 0.3 --step 0.0003": "150300;300000;300;P;0;6;10;OFF;ON;0",
-        }  # fmt: skip
-
-        def Corpo(opzioni):
-            dati = self.Sottocartella("d%d" % list(casi).index(opzioni))
-            self.Tabella("T", opzioni, dati=dati)
-            modello = "5540" if "band C" in opzioni else "5520"
-            with Peer(modello, flussi=[Flusso(passi=20)]) as peer:
-                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
-            self.assertIn(f"#SSFD {casi[opzioni]}*", peer.comandi)
-
-        InParallelo(self, casi, Corpo)
-
-    def test_modelli(self):
-        """Without battery or generator their commands stay away; two inputs are switched per line."""
-        casi = {
-            "5520F": ("B", [], ["#SSTP*", "#?CO6*"], "6"),
-            "3360/01": ("B", [], ["#SSTP*", "#S3PRC*"], "6"),
-            "K3X low": ("C", GENERATORE, ["#?BAT*", "#SSTP*", "#S3PRR*"], "10"),
-            "5590": ("22", GENERATORE, ["#?BAT*"], "9"),
-            "GX2207F": ("B", ["#SIHPOFF*", "#SMODA*", "#SITG 0*"], ["#?BAT*"], "6"),
-        }
-
-        def Corpo(modello):
-            banda, generatore, prima, filtro = casi[modello]
-            dati = self.Sottocartella(modello.replace("/", "-"))
-            opzioni = "--start 7000 --stop 18000" if banda == "22" else "--band " + banda
-            if modello.startswith(("3360", "K3X")):  # no preselector there
-                opzioni += " --presel off"
-            self.Tabella("T", opzioni, dati=dati)
-            con_header = modello in ("5520F", "GX2207F")
-            flusso = Flusso(passi=50, intestazione=5000.0 if con_header else None)
-            with Peer(modello, flussi=[flusso]) as peer:
-                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
-            da = peer.comandi.index("#SCFA -1*")
-            # What the 3360 family lacks never reaches the line.
-            tronco = PRIMA if modello != "3360/01" else PRIMA[:1]
-            if modello == "GX2207F":  # brought to swept operation, and identified anew
-                tronco = [PRIMA[0], "#CHGS*", *IDENTIFICA[1:5], *PRIMA[1:]]
-            quanti = len(tronco) + len(generatore) + len(prima)
-            comandi = peer.comandi[da : da + quanti + 1]
-            self.assertEqual([c.split("S80;")[0] for c in comandi[:quanti]],
-                             [c.split("S80;")[0] for c in tronco + generatore + prima])  # fmt: skip
-            campi = comandi[quanti].split(";")
-            self.assertTrue(comandi[quanti].startswith("#SSFD "), comandi)
-            self.assertEqual(campi[5], filtro)
-            self.assertEqual(campi[8], "ON" if modello in ("5520F", "GX2207F") else "OFF")
-            self.assertEqual(self.FileMisura("M", "RS0", dati).stat().st_size, 50 * 12)
-
-        InParallelo(self, casi, Corpo)
-
     def test_due_linee(self):
         """Two overlapping lines: a command and a file each; the trace takes the higher level."""
         self.Tabella("T", f"{BREVE} --detector P,A", "--start 0.65 --stop 1.65 --step 0.01")
         with Peer(flussi=[Flusso(LivelloPlausibile), Flusso(lambda k, d: 4000 + 30 * k)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, risposta="yes")
+            self.Riesce(*SWEEP, peer=peer, risposta="yes")
         inizio = peer.comandi.index("#?BAT*")
         attesi = Linea("#SSFD 150000;1150000;10000;PA;0;6;10;OFF;ON;0*")
         attesi += Linea("#SSFD 650000;1650000;10000;P;0;6;10;OFF;ON;0*")
@@ -237,7 +153,7 @@ class ProvaSweep(ProvaStrada):
         """A fast model may step otherwise than it was told: the header of the measure says so."""
         self.Tabella("T", BREVE)
         with Peer("5520F", flussi=[Flusso(intestazione=12500.0, passi=81)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer)
+            self.Riesce(*SWEEP, peer=peer)
         # Told to keep its step, since the line does not leave it to the receiver.
         self.assertIn("#SSFDS 150000;1150000;10000;P;0;6;10;OFF;ON;0*", peer.comandi)
         ksh = self.FileMisura("M", "KSH").read_bytes()
@@ -256,62 +172,30 @@ class ProvaSweep(ProvaStrada):
         flussi = {
             "mark torn after each byte": Flusso(tagli_fine=(1, 2, 3, 4, 5, 6)),
             "every odd level": Flusso(livello=lambda k, d: (0x7FFF, 0x8000, 0xFFFE, 0xFFFF)[k % 4]),
-            "odd blocks": Flusso(pezzi=7, pausa=0.001),
             "every byte by itself": Flusso(),
-            "late bytes behind the mark": Flusso(coda=b"\x12\x34\x56\x78" * 3),
-            "letters of the mark among the samples":
-                Flusso(livello=lambda k, d: (0x4653, 0x5F44, 0x4E45, 0x4644)[k % 4]),
-            "a reply of before in front": Flusso(riscontro=b"UHT=5\r\nSFD=OK\r\n"),
-            "a part-step before the mark": Flusso(taglia=101 * 4 + 3, passi=102, fine=True),
         }  # fmt: skip
 
         def Corpo(nome):
             dati = self.Sottocartella(nome.replace(" ", "-"))
             self.Tabella("T", f"{BREVE} --detector P,Q", dati=dati)
             with Peer(flussi=[flussi[nome]], spezza=nome == "every byte by itself") as peer:
-                self.Riesce("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+                self.Riesce(*SWEEP, peer=peer, dati=dati)
             rs = self.FileMisura("M", "RS0", dati).read_bytes()
             self.assertEqual(len(rs), 101 * 12)
             self.assertEqual(rs, Passi(peer.campioni[0], [0, 1]))
 
         InParallelo(self, flussi, Corpo)
 
-    def test_nomi_occupati(self):
-        """A name that is taken, in whatever case: No refuses and keeps, Yes takes the next free one."""
-        self.Tabella("T", BREVE)
-        with Peer(flussi=[Flusso(), Flusso(LivelloPlausibile)]) as peer:
-            self.Riesce("sweep", "--scan", "T", "--name", "TEST", peer=peer)
-            prima = self.FileMisura("TEST", "RS0").read_bytes()
-            esito = self.Orvane("sweep", "--scan", "T", "--name", "test", peer=peer)
-            self.assertEqual((esito.codice, esito.out), (1, ""), str(esito))
-            self.assertIn("[box] Sweep test already exists. Rename in test_000? -> No\n", esito.err)
-            self.assertIn("[box] Replace it? -> No\n", esito.err)
-            for nome in ("test_000", "TEST_001"):
-                esito = self.Riesce("sweep", "--scan", "T", "--name", nome[:4], peer=peer, risposta="yes")
-                self.assertEqual(esito.out, f"{self.dati}/Sweep/{nome}\n")
-        self.assertEqual(self.FileMisura("TEST", "RS0").read_bytes(), prima)
-        self.assertEqual(len(peer.campioni), 3)  # the refused run asked for no sweep
-
-    def test_rifiuti_dei_controlli(self):
+    def test_rifiuto_dei_controlli(self):
         """The checks before a run refuse with their words; no file of the measure is made."""
-        casi = {
-            "--start 19000 --stop 20000": "Start/Stop Frequency Error",
-            "--start 0.15 --stop 1 --step 0.6": "Too big step",
-            "--band B --detector N": "Rms-Avg Detector not available",
-        }
-
-        def Corpo(opzioni):
-            dati = self.Sottocartella("c%d" % list(casi).index(opzioni))
-            self.Tabella("T", opzioni, dati=dati)
-            with Peer(regole={"?CRA": "CRA=N/A"}) as peer:
-                esito = self.Orvane("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
-            self.assertEqual(esito.codice, 1, str(esito))
-            self.assertIn(casi[opzioni], esito.err)
-            self.assertIn("line 1: ", esito.err)
-            self.assertFalse((dati / "Sweep" / "M").exists())
-            self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
-
-        InParallelo(self, casi, Corpo)
+        self.Tabella("T", "--band B --detector N")
+        with Peer(regole={"?CRA": "CRA=N/A"}) as peer:
+            esito = self.Orvane(*SWEEP, peer=peer)
+        self.assertEqual(esito.codice, 1, str(esito))
+        self.assertIn("Rms-Avg Detector not available", esito.err)
+        self.assertIn("line 1: ", esito.err)
+        self.assertFalse((self.dati / "Sweep" / "M").exists())
+        self.assertFalse([c for c in peer.comandi if c.startswith("#SSFD")])
 
 
 if __name__ == "__main__":

@@ -12,7 +12,7 @@ import time
 from collections import Counter
 from contextlib import contextmanager
 
-from comune import PROGRAMMI, Esegui, InParallelo, Passi, ProvaStrada
+from comune import Esegui, InParallelo, Passi, PROGRAMMI, ProvaStrada, SWEEP
 from peer import Flusso, LivelloPlausibile, Peer
 
 MOMENTI = int(sys.argv[2]) if len(sys.argv) > 2 else 10
@@ -57,7 +57,7 @@ class ProvaUccisione(ProvaStrada):
         self.trovate = Counter()
 
     def Uccidi(self, dati, quando, peer):
-        corsa = self.Avvia("sweep", "--scan", "T", "--name", "M", peer=peer, dati=dati)
+        corsa = self.Avvia(*SWEEP, peer=peer, dati=dati)
         time.sleep(quando)
         os.kill(corsa.processo.pid, signal.SIGKILL)  # one that has ended is still a zombie
         self.assertIn(corsa.Attendi().codice, (-9, 0))

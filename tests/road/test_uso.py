@@ -34,9 +34,13 @@ CASI = [
     (["sweep", "--scan", "Missing"], 4, "there is no scan table"),
     (["sweep", "--scan", "../X"], 2, "is no valid name"),
     (["sweep", "--scan", "X", "--name", "a.b"], 2, "is no valid name"),
-    (["trace"], 2, "wants one MEASURE"),
-    (["trace", "Missing"], 4, "there is no measure Sweep\\Missing\\Missing.KSH"),
-    (["trace", "X", "--sub", "../X"], 2, "is no valid name"),
+    (["sweep", "--scan", "X", "--timer", "0"], 2, "--timer wants seconds"),
+    (["sweep", "--scan", "X", "--timer", "1.5"], 2, "--timer wants whole seconds"),
+    (["sweep", "--scan", "X", "--trigger", "2"], 2, "--trigger wants 0 or 1"),
+    (["sweep", "--scan", "X", "--timer", "3", "--trigger", "1"], 2, "exclude each other"),
+    (["sweep", "--scan", "X", "--pause-for", "3"], 2, "--pause-for wants --pause-after"),
+    (["sweep", "--scan", "X", "--pause-after", "3"], 2, "wants --pause-for where there is no terminal"),
+    (["sweep", "--scan", "X", "--pause-after", "nan", "--pause-for", "1"], 2, "wants seconds"),
 ]
 
 

@@ -107,14 +107,13 @@ TEST_F(ComandiRigaTest, ALineByATableSendsItsListOrSaysWhyNot) {
     EXPECT_EQ(InTesti(Prepara().elenco),
               (Testi{"#SSFW 0,1000000*", "#SSFW 1,13560000*", "#SSFW 2,30000000*"}));
 
-    // Room for 202: four frequencies by 49 steps are 5 x 49 + 1.
-    for (const auto& [frequenze, troppe] : {std::pair{3, false}, {4, true}}) {
+    // Room for 202, both ends of the line among them.
+    for (const auto& [frequenze, troppe] : {std::pair{200, false}, {201, true}}) {
         for (int i = 0; i < frequenze; ++i)
-            tabella.Elementi[static_cast<size_t>(i)].Freq = 2 + i;
+            tabella.Elementi[static_cast<size_t>(i)].Freq = 2 + 0.1 * i;
         ASSERT_TRUE(SalvaFreqTab(s, FormaFreqTab::Semplice, PercorsoFreqTab("Spots"), tabella));
-        riga.NumStepFT = 49;
         EXPECT_EQ(Prepara().testo == "---", troppe);
-        EXPECT_EQ(Prepara().elenco.size(), troppe ? 0u : 4u * 49 + 1);
+        EXPECT_EQ(Prepara().elenco.size(), troppe ? 0u : 202u);
         EXPECT_EQ(Prepara().obiezione.testo.starts_with("Too many frequencies.\rReduce"), troppe);
     }
 

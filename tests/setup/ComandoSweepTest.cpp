@@ -103,10 +103,10 @@ TEST(ComandoSweepTest, TheNineKilohertzFilterHasTwoCodes) {
         int16_t oem;
         double stop;
         int codice;
-    } const casi[] = {{false, false, 0, 30, 6},   {true, false, 0, 30, 12},
-                      {false, false, 0, 1000, 6}, {false, true, 0, 30, 6},
-                      {false, true, 0, 30.1, 12}, {true, true, 0, 30, 6},
-                      {false, false, 2, 31, 12},  {false, false, 3, 30, 6}};
+    } const casi[] = {{false, false, 0, 30, 6},        {true, false, 0, 30, 12},
+                      {false, false, 0, 1000, 6},      {false, true, 0, 30, 6},
+                      {false, true, 0, 30.000001, 12}, {true, true, 0, 30, 6},
+                      {false, false, 2, 31, 12},       {false, false, 3, 30, 6}};
     for (const auto& caso : casi) {
         ReceiverModel modello;
         modello.EstensioneAttiva = caso.estensione;

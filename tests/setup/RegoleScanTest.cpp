@@ -57,19 +57,6 @@ ScanLine Span(double start, double stop) {
     return {.Start = start, .Stop = stop, .Detector = {1}};
 }
 
-TEST(RegoleScan, AnEmptyTablePassesEveryRule) {
-    for (const ReceiverModel& m : {ReceiverModel{}, K3X(), Modello3360(nullptr)}) {
-        const Tavolo t(m);
-        EXPECT_TRUE(ControllaLineScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaCondRadScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaFstartFstopScanTab(t.C(), true, 0, 9).empty());
-        EXPECT_TRUE(ControllaRBWScanTab(t.C()).empty());
-        EXPECT_TRUE(ControllaSovrapposizioniFreq(t.C()).empty());
-        EXPECT_TRUE(ControlloStepScanTab(t.C()).empty());
-        EXPECT_TRUE(ControlloStepScanTabK3XK6X(t.C()).empty());
-    }
-}
-
 enum class Esame { Passa, Trovato, Segnato };
 
 /// Flags as digits: "0110" of the lines, then "11" of the polarisations.
@@ -505,16 +492,13 @@ struct BancoUnita : BancoAperto {
 const std::string kAccendi = TestoCambioUnita(UnitaRichiesta::Estesa, "");
 const std::string kNonVa = "*** KRV 5520 Connected ***\r  This span cannot be swept";
 
-TEST(RigaPerRiga, NothingIsAskedWhereTheUnitFits) {
+TEST(RigaPerRiga, TheUnitIsAskedForWhereItDoesNotFitAndIdentified) {
     BancoUnita b;
     b.r.modello = ConUnita(1);
     EXPECT_TRUE(b.Esegui());
     EXPECT_EQ(b.Riquadri(), Testi{});
     EXPECT_EQ(b.peer.scritti, Testi{});
-}
-
-TEST(RigaPerRiga, TheUnitIsSwitchedOnAndIdentified) {
-    BancoUnita b;
+    b.r.modello = {};
     b.Collega("BCD=ON;5570");
     EXPECT_TRUE(b.Esegui());
     EXPECT_EQ(b.Riquadri(), Testi{kAccendi});

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "aiuto/BancoSimulato.h"
-#include "data/Misure.h"
 #include "data/TabelleFrequenza.h"
 #include "data/TabelleLimFac.h"
 #include "link/Identificazione.h"
@@ -12,20 +11,13 @@
 #include "setup/FattoriSweep.h"
 #include "setup/FrontEndSweep.h"
 #include "setup/ListaFrequenze.h"
-#include "setup/TabellaScan.h"
 
 namespace orvane {
 namespace {
 
 using prova::BancoSimulato;
+using prova::Banda;
 using Testi = std::vector<std::string>;
-
-ScanLine Banda(const char* banda, const char* detector) {
-    ScanLine riga;
-    ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
-    riga.Detector = *LeggiDetector(detector);
-    return riga;
-}
 
 void Salva(BancoSimulato& banco, const std::string& percorso, int slot,
            const std::vector<std::pair<float, int16_t>>& punti) {
@@ -173,40 +165,24 @@ TEST(CorsaComandiTest, EveryModelIsToldWhatIsComposedForIt) {
 }
 
 TEST(CorsaComandiTest, ALineThatCannotBeSentEndsTheRun) {
-    struct {
-        const char* nome;
-        std::function<void(ScanLine&)> guasta;
-        const char* parole;
-    } const casi[] = {
-        {"no table",
-         [](ScanLine& r) {
-             r.FreqTable = "None";
-             r.StepMode = 1;
-         },
-         "Frequency table None  NOT FOUND"},
-        {"no limit",
-         [](ScanLine& r) {
-             r.Limit = "None";
-             r.Smart = r.LimitOn = 1;
-         },
-         "Too few limit frequencies\rMin 2 different frequencies"},
-    };
-    for (const auto& caso : casi) {
-        SCOPED_TRACE(caso.nome);
+    ScanLine senzaTabella = Banda("B", "P"), senzaLimite = senzaTabella;
+    senzaTabella.FreqTable = senzaLimite.Limit = "None";
+    senzaTabella.StepMode = senzaLimite.Smart = senzaLimite.LimitOn = 1;
+    for (const auto& [riga, parole] :
+         {std::pair{senzaTabella, "Frequency table None  NOT FOUND"},
+          {senzaLimite, "Too few limit frequencies\rMin 2 different frequencies"}}) {
+        SCOPED_TRACE(parole);
         BancoSimulato banco;
-        banco.scan.Righe[0] = Banda("B", "P");
-        caso.guasta(banco.scan.Righe[0]);
+        banco.scan.Righe[0] = riga;
         // Whether a check finds it or the run: no sweep begins.
         EXPECT_NE(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
         ASSERT_FALSE(banco.ambiente.riquadri.empty());
-        const auto& comandi = banco.simulato.Comandi();
-        EXPECT_TRUE(std::none_of(comandi.begin(), comandi.end(),
-                                 [](const std::string& c) { return c.starts_with("#SSFD"); }));
+        EXPECT_EQ(banco.Quanti("#SSFD"), 0u);
         const ScanComposto scan =
             ComponiScan(banco.scrivania, banco.ricevitore.modello, banco.scan.Righe);
         EXPECT_FALSE(scan.intero);
         ASSERT_EQ(scan.obiezioni.size(), 1u);
-        EXPECT_EQ(scan.obiezioni[0].testo, caso.parole);
+        EXPECT_EQ(scan.obiezioni[0].testo, parole);
     }
 }
 

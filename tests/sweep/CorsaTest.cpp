@@ -7,36 +7,28 @@
 #include <fstream>
 
 #include "aiuto/BancoSimulato.h"
-#include "data/Misure.h"
-#include "setup/TabellaScan.h"
 #include "sweep/FlussoSweep.h"
 
 namespace orvane {
 namespace {
 
 using prova::BancoSimulato;
-
-void MettiBanda(ScanLine& riga, const char* banda, const char* detector) {
-    ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
-    riga.Detector = *LeggiDetector(detector);
-}
+using prova::Banda;
 
 struct CorsaTest : testing::Test {
     void SetUp() override {
-        MettiBanda(banco.scan.Righe[0], "B", "P,Q");
+        banco.scan.Righe[0] = Banda("B", "P,Q");
         banco.scan.Righe[0].Stop = 0.65;
     }
     EsitoCorsa Esegui(const char* misura = "M") { return ClickExecuteSweep(banco.corsa, misura); }
-    size_t PassiSuDisco(int riga = 0) const {
-        return banco.File(PercorsoRS("M", "M", riga)).size() / kByteCampione;
-    }
+    size_t PassiSuDisco(int riga = 0) const { return banco.Passi("M", "M", riga); }
     void Capriccia(Capriccio capriccio) { banco.simulato.Aggiungi(capriccio); }
 
     BancoSimulato banco;
 };
 
 TEST_F(CorsaTest, GoesFromReceiverToDisk) {
-    MettiBanda(banco.scan.Righe[1], "B", "A");
+    banco.scan.Righe[1] = Banda("B", "A");
     banco.scan.Righe[1].Start = 1;
     banco.scan.Righe[1].Stop = 1.5;
     ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
@@ -77,12 +69,10 @@ TEST_F(CorsaTest, SpeaksToTheReceiverInTheFixedOrder) {
 
 TEST(CorsaFermata, KeepsWhatHasArrivedAndTellsTheReceiver) {
     BancoSimulato banco({.byteAlSecondo = kByteAlSecondoLinea});
-    MettiBanda(banco.scan.Righe[0], "B", "P,Q");
+    banco.scan.Righe[0] = Banda("B", "P,Q");
     banco.vista.alPasso = [&] { ChiediStop(banco.statoCorsa); };
     EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Fermata);
-    const auto PassiSuDisco = [&] {
-        return banco.File(PercorsoRS("M", "M", 0)).size() / kByteCampione;
-    };
+    const auto PassiSuDisco = [&] { return banco.Passi("M", "M"); };
     EXPECT_EQ(PassiSuDisco(), banco.vista.passi);
     EXPECT_GT(PassiSuDisco(), 0u);
     EXPECT_LT(PassiSuDisco(), 5971u);
@@ -113,11 +103,11 @@ TEST_F(CorsaTest, AnOlderMeasureStandsUntilTheNewOneHasBegun) {
 
 TEST_F(CorsaTest, TrackingIsSetOnceMoreBeforeEachLine) {
     banco.scrivania.setup.TGOn = 1;
-    MettiBanda(banco.scan.Righe[1], "B", "A");
+    banco.scan.Righe[1] = Banda("B", "A");
     banco.scan.Righe[1].Start = 1;
     ASSERT_EQ(Esegui(), EsitoCorsa::Compiuta);
+    EXPECT_EQ(banco.Quanti("#STGTON*"), 3u);
     const auto& comandi = banco.simulato.Comandi();
-    EXPECT_EQ(std::count(comandi.begin(), comandi.end(), "#STGTON*"), 3);
     for (size_t i = 1; i < comandi.size(); ++i) {
         if (comandi[i].starts_with("#SSFD")) {
             EXPECT_EQ(comandi[i - 1], "#STGTON*");
@@ -190,7 +180,13 @@ TEST_F(CorsaTest, ASecondClickInARunIsTheStop) {
     EXPECT_EQ(Esegui(), EsitoCorsa::Fermata);
 }
 
-TEST_F(CorsaTest, EndsAsToldWhenTheReceiverMisbehaves) {
+long Aperti() {
+    const std::filesystem::directory_iterator cartella("/proc/self/fd");
+    return std::distance(begin(cartella), end(cartella));
+}
+
+TEST_F(CorsaTest, EndsAsToldWhateverTheReceiverDoesAndLeavesNothingOpen) {
+    using enum Capriccio::Tipo;
     struct Caso {
         const char* nome;
         Capriccio capriccio;
@@ -198,32 +194,37 @@ TEST_F(CorsaTest, EndsAsToldWhenTheReceiverMisbehaves) {
         const char* parole; ///< in a box or in the banner
     };
     const Caso casi[] = {
+        {"whole", {.tipo = Testo, .comando = "?UHT", .testo = "UHT=25"}, EsitoCorsa::Compiuta, ""},
+        {"stop", {}, EsitoCorsa::Fermata, ""},
         {"refused",
-         {.tipo = Capriccio::Tipo::Errore, .comando = "SSFD", .numero = 5},
+         {.tipo = Errore, .comando = "SSFD", .numero = 5},
          EsitoCorsa::GuastoLink,
          "Error set RBW"},
         {"no acknowledgement",
-         {.tipo = Capriccio::Tipo::Muto, .comando = "SSFD"},
+         {.tipo = Muto, .comando = "SSFD"},
          EsitoCorsa::GuastoLink,
          "5520 Time out"},
         {"silent in mid-sample",
-         {.tipo = Capriccio::Tipo::StreamMuto, .numero = 41},
+         {.tipo = StreamMuto, .numero = 41},
          EsitoCorsa::GuastoLink,
          "5520 Time out"},
-        {"line gone",
-         {.tipo = Capriccio::Tipo::Scollegato, .numero = 102},
-         EsitoCorsa::GuastoLink,
-         "5520 Time out"},
+        {"line gone", {.tipo = Scollegato, .numero = 102}, EsitoCorsa::GuastoLink, "5520 Time out"},
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
-        BancoSimulato altro;
+        const bool ferma = caso.esito == EsitoCorsa::Fermata;
+        BancoSimulato altro({.byteAlSecondo = ferma ? kByteAlSecondoLinea : 0});
         altro.scan = banco.scan;
-        altro.simulato.Aggiungi(caso.capriccio);
+        if (ferma)
+            altro.vista.alPasso = [&] { ChiediStop(altro.statoCorsa); };
+        else
+            altro.simulato.Aggiungi(caso.capriccio);
+        const long prima = Aperti();
         EXPECT_EQ(ClickExecuteSweep(altro.corsa, "M"), caso.esito);
+        EXPECT_EQ(Aperti(), prima);
         std::string detto;
-        for (const auto& riquadro : altro.ambiente.riquadri)
-            detto += riquadro.testo + "\n";
+        for (const std::string& testo : altro.ambiente.Testi())
+            detto += testo + "\n";
         for (const auto& striscia : altro.vista.strisce)
             detto += striscia + "\n";
         EXPECT_NE(detto.find(caso.parole), std::string::npos) << detto;
@@ -246,47 +247,18 @@ TEST_F(CorsaTest, TheAbortEndsARunThatWaitsForASetter) {
     EXPECT_EQ(banco.vista.strisce.size(), 1u);
     EXPECT_FALSE(banco.vista.strisciaVisibile);
     EXPECT_FALSE(banco.scrivania.albero.EsisteCartella(CartellaMisura("M")));
+    banco.simulato.Scorda();
+    EXPECT_EQ(Esegui(), EsitoCorsa::Compiuta) << "the next run begins anew";
 }
 
 TEST_F(CorsaTest, ChecksRefuseBeforeAnythingIsWritten) {
-    struct Caso {
-        const char* nome;
-        std::function<void(ScanLine&)> guasta;
-        const char* parole;
-    };
-    const Caso casi[] = {
-        {"span turned round", [](ScanLine& r) { r.Stop = r.Start; }, "Start/Stop Frequency Error"},
-        {"out of reach",
-         [](ScanLine& r) {
-             r.Start = 19000;
-             r.Stop = 20000;
-         },
-         "Start/Stop Frequency Error"},
-        {"step too small",
-         [](ScanLine& r) {
-             r.AutoStep = 0;
-             r.Step = 0.00005;
-         },
-         "Too small step"},
-        {"step too big",
-         [](ScanLine& r) {
-             r.AutoStep = 0;
-             r.Step = 0.3;
-         },
-         "Too big step"},
-        {"span too small", [](ScanLine& r) { r.Stop = r.Start + 0.00009; }, "Too small Span"},
-    };
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.nome);
-        BancoSimulato altro;
-        altro.scan = banco.scan;
-        caso.guasta(altro.scan.Righe[0]);
-        EXPECT_EQ(ClickExecuteSweep(altro.corsa, "M"), EsitoCorsa::Rifiutata);
-        ASSERT_EQ(altro.ambiente.riquadri.size(), 1u);
-        EXPECT_NE(altro.ambiente.riquadri[0].testo.find(caso.parole), std::string::npos);
-        EXPECT_FALSE(altro.vista.celleErrate.empty());
-        EXPECT_FALSE(altro.scrivania.albero.EsisteCartella("Sweep\\"));
-    }
+    banco.scan.Righe[0].Stop = banco.scan.Righe[0].Start;
+    EXPECT_EQ(Esegui(), EsitoCorsa::Rifiutata);
+    ASSERT_EQ(banco.ambiente.riquadri.size(), 1u);
+    EXPECT_NE(banco.ambiente.riquadri[0].testo.find("Start/Stop Frequency Error"),
+              std::string::npos);
+    EXPECT_FALSE(banco.vista.celleErrate.empty());
+    EXPECT_FALSE(banco.scrivania.albero.EsisteCartella("Sweep\\"));
     BancoSimulato vuoto;
     EXPECT_EQ(ClickExecuteSweep(vuoto.corsa, "M"), EsitoCorsa::Rifiutata);
 }
@@ -303,19 +275,16 @@ TEST_F(CorsaTest, AFileThatCannotBeWrittenStopsTheRun) {
 
 TEST(Corsa5520F, AFastFrontEndThatSendsNoHeaderIsAskedAgainThreeTimes) {
     BancoSimulato banco({.modello = "GX2207F"});
-    MettiBanda(banco.scan.Righe[0], "B", "P");
+    banco.scan.Righe[0] = Banda("B", "P");
     banco.simulato.Aggiungi({.tipo = Capriccio::Tipo::StreamMuto, .numero = 0});
     EXPECT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::GuastoLink);
-    const auto& comandi = banco.simulato.Comandi();
-    EXPECT_EQ(std::count_if(comandi.begin(), comandi.end(),
-                            [](const std::string& c) { return c.starts_with("#SSFD"); }),
-              4);
+    EXPECT_EQ(banco.Quanti("#SSFD"), 4u);
     EXPECT_EQ(banco.ambiente.riquadri.back().testo, "5520 Time out");
 }
 
 TEST(Corsa5520F, TakesTheStepThatTheReceiverAnnounces) {
     BancoSimulato banco({.modello = "5520F"});
-    MettiBanda(banco.scan.Righe[0], "B", "P");
+    banco.scan.Righe[0] = Banda("B", "P");
     banco.scan.Righe[0].Stop = 1.15;
     ASSERT_EQ(ClickExecuteSweep(banco.corsa, "M"), EsitoCorsa::Compiuta);
     ScanRecord scan;

@@ -111,10 +111,18 @@ TEST(LettoreFlusso, ReadsRefusalsAndPassesOverLinesOfOtherCommands) {
         EXPECT_EQ(letto.stato, caso.stato) << caso.stream;
         EXPECT_EQ(letto.codice, caso.codice) << caso.stream;
     }
-    EXPECT_EQ(ParoleErroreSweep(1), "set start or stop freq.");
-    EXPECT_EQ(ParoleErroreSweep(8), "set Presel.");
-    EXPECT_EQ(ParoleErroreSweep(9), "");
-    EXPECT_EQ(ParoleErroreSweep(-1), "");
+    const std::pair<int, const char*> parole[] = {{-1, ""},
+                                                  {1, "set start or stop freq."},
+                                                  {2, "set step freq."},
+                                                  {3, "set detector"},
+                                                  {4, "set Hold Time"},
+                                                  {5, "set RBW"},
+                                                  {6, "set MinAtt"},
+                                                  {7, "set Preamp."},
+                                                  {8, "set Presel."},
+                                                  {9, ""}};
+    for (const auto& [codice, testo] : parole)
+        EXPECT_EQ(ParoleErroreSweep(codice), testo) << codice;
 }
 
 TEST(LettoreFlusso, RoundsTheStepOfThe5520FByItsSize) {

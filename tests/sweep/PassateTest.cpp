@@ -6,15 +6,14 @@
 
 #include "aiuto/BancoSimulato.h"
 #include "data/Incompiute.h"
-#include "data/Misure.h"
 #include "data/TabelleLimFac.h"
-#include "setup/TabellaScan.h"
 #include "sweep/TracciaRiga.h"
 
 namespace orvane {
 namespace {
 
 using prova::BancoSimulato;
+using prova::Banda;
 using Testi = std::vector<std::string>;
 
 /// Notes what the run says of its passes and of its start.
@@ -44,18 +43,11 @@ struct PassateTest : testing::Test {
         banco.scan.Righe[0].HoldTime = 10;
     }
     void Metti(const char* banda, const char* detector, double stopMhz) {
-        ScanLine& riga = banco.scan.Righe[0];
-        ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda(banda))], 0);
-        riga.Detector = *LeggiDetector(detector);
-        riga.Stop = stopMhz;
+        banco.scan.Righe[0] = Banda(banda, detector);
+        banco.scan.Righe[0].Stop = stopMhz;
     }
     EsitoCorsa Esegui() { return ClickExecuteSweep(corsa, "M"); }
-    Testi Riquadri() const {
-        Testi testi;
-        for (const Riquadro& r : banco.ambiente.riquadri)
-            testi.push_back(r.testo);
-        return testi;
-    }
+    Testi Riquadri() const { return banco.ambiente.Testi(); }
     /// From the first one on that holds `chiave`.
     Testi ComandiDa(std::string_view chiave) const {
         const Testi& tutti = banco.simulato.Comandi();
@@ -63,9 +55,7 @@ struct PassateTest : testing::Test {
                     tutti, [&](const std::string& c) { return c.find(chiave) != c.npos; }),
                 tutti.end()};
     }
-    size_t Passi(const std::string& base) const {
-        return banco.File(PercorsoRS("M", base, 0)).size() / kByteCampione;
-    }
+    size_t Passi(const std::string& base) const { return banco.Passi("M", base); }
 
     BancoSimulato banco;
     VistaPassate vista;

@@ -4,8 +4,6 @@
 #include <algorithm>
 
 #include "aiuto/BancoSimulato.h"
-#include "data/Misure.h"
-#include "setup/TabellaScan.h"
 
 namespace orvane {
 namespace {
@@ -39,10 +37,8 @@ struct VistaPausa : prova::VistaNota {
 struct Banco : BancoSimulato {
     explicit Banco(const char* firmware = "")
         : BancoSimulato({.firmware = firmware, .byteAlSecondo = kByteAlSecondoLinea}) {
-        ScanLine& riga = scan.Righe[0];
-        ImpostaBanda(riga, TabellaBande()[static_cast<size_t>(TrovaBanda("B"))], 0);
-        riga.Detector = *LeggiDetector("P,Q,A");
-        riga.HoldTime = 10;
+        scan.Righe[0] = prova::Banda("B", "P,Q,A");
+        scan.Righe[0].HoldTime = 10;
         pausa.alPasso = [this] {
             if (corsaPausa.stato.SweepInCorso && chiesta == 0) {
                 chiesta = ambiente.ora;
@@ -230,10 +226,7 @@ TEST(PausaSweep, APressBetweenTwoPassesHoldsTheNextOne) {
         banco.scrivania.setup.AncillaryKind = 1;
         banco.scan.Righe[0].LineSwitch = {0, 1, 1, 0};
         banco.pausa.inRiga = [&] {
-            const auto& comandi = banco.simulato.Comandi();
-            const auto sweep = std::ranges::count_if(
-                comandi, [](const std::string& c) { return c.starts_with("#SSFD"); });
-            if (sweep == 1)
+            if (banco.Quanti("#SSFD") == 1)
                 ChiediPausa(banco.statoCorsa);
         };
         EXPECT_EQ(banco.Esegui(), EsitoCorsa::Compiuta);

@@ -60,6 +60,8 @@ TEST(Progresso, CountsThePassesOfALine) {
     EXPECT_EQ(seconda.passata, 1);
     EXPECT_EQ(seconda.numPassate, 2);
     EXPECT_EQ(seconda.nomePassata, "L1");
+    progresso.Aggiungi(300);
+    EXPECT_NEAR(progresso.Adesso().frazione, 0.5, 1e-9) << "more steps than foreseen";
     progresso.FineRiga();
     progresso.IniziaRiga(1);
     EXPECT_NEAR(progresso.Adesso().frazione, 0.5, 1e-9);

@@ -1,34 +1,12 @@
 // The verbs that read a stored measure: trace, peaks, verdict, and the options that they share.
-#include <gtest/gtest.h>
-
-#include <sstream>
-
-#include "aiuto/BancoSimulato.h"
-#include "base/Testo.h"
+#include "aiuto/BancoVerbi.h"
 #include "data/Misure.h"
 #include "data/TabelleLimFac.h"
-#include "verbs/Verbo.h"
 
 namespace orvane::prova {
 namespace {
 
-struct MisureVerbiTest : ::testing::Test {
-    BancoSimulato b;
-    Scrivania& s = b.scrivania;
-    std::ostringstream dati;
-    std::ostringstream messaggi;
-    bool interrotto = false;
-    VistaTerminale vista{b.ambiente, messaggi, false, false};
-    Banco banco{.scrivania = s,
-                .ricevitore = b.ricevitore,
-                .corsa = b.statoCorsa,
-                .vista = vista,
-                .catalogo = b.catalogo,
-                .linkScelto = true,
-                .interrotto = interrotto,
-                .dati = dati,
-                .messaggi = messaggi};
-
+struct MisureVerbiTest : BancoVerbi {
     /// "M": 1 to 5 MHz, Peak and QPeak, with its factor of 10 dB on and the limit "Wide QP" at
     /// 60 dB; a sub-measure "L1" with one step.
     MisureVerbiTest() {
@@ -68,16 +46,6 @@ struct MisureVerbiTest : ::testing::Test {
         t.Freq = {campo.first, campo.second};
         t.Value = {valore, valore};
         ASSERT_TRUE(SalvaLimFac(s, tabelle, percorso, 1));
-    }
-    /// Words parted by "|", the verb first.
-    EsitoVerbo Esegui(const std::string& riga) {
-        const auto parole = Dividi(riga, '|');
-        return Esegui(parole[0], {parole.begin() + 1, parole.end()});
-    }
-    EsitoVerbo Esegui(const std::string& verbo, const std::vector<std::string>& parole) {
-        dati.str("");
-        messaggi.str("");
-        return TrovaVerbo(verbo)->esegui(banco, parole);
     }
 };
 

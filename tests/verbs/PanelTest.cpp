@@ -1,48 +1,21 @@
 // The panel verb: every field with its place, damaged files, and wrong words.
 #include <fstream>
-#include <sstream>
 
-#include "aiuto/BancoSimulato.h"
+#include "aiuto/BancoVerbi.h"
 #include "data/Misure.h"
 #include "data/Panels.h"
-#include "verbs/Verbo.h"
 
 namespace orvane::prova {
 namespace {
 
-struct PanelTest : ::testing::Test {
-    BancoSimulato simulato;
-    Scrivania& s = simulato.scrivania;
-    std::ostringstream dati;
-    std::ostringstream messaggi;
-
-    EsitoVerbo Esegui(std::vector<std::string> parole, bool json = false) {
-        dati.str("");
-        messaggi.str("");
-        VistaTerminale vista(simulato.ambiente, messaggi, false, json);
-        const bool interrotto = false;
-        Banco banco{.scrivania = s,
-                    .ricevitore = simulato.ricevitore,
-                    .corsa = simulato.statoCorsa,
-                    .vista = vista,
-                    .catalogo = simulato.catalogo,
-                    .interrotto = interrotto,
-                    .dati = dati,
-                    .messaggi = messaggi,
-                    .json = json};
-        return VerboPanel(banco, parole);
-    }
-    bool Ha(const std::string& riga) const {
-        return ("\n" + dati.str()).find("\n" + riga + "\n") != std::string::npos;
-    }
-};
+using PanelTest = BancoVerbi;
 
 TEST_F(PanelTest, TellsEveryFieldAndTheRangesWithoutAName) {
     s.setup.RefLevel = -20;
     s.setup.LimitName[0] = "EN 55011 \xC2\xB5";
     s.setup.SwRelease = "1\t2";
     ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
-    ASSERT_EQ(Esegui({"show"}), kFatto);
+    ASSERT_EQ(Esegui("panel|show"), kFatto);
     EXPECT_TRUE(Ha("38\t(604 bytes)"));
     EXPECT_TRUE(Ha("1308\tLimitOn\t0 x10"));
     EXPECT_TRUE(Ha("1328\tLimitName\tEN 55011 \xC2\xB5, NONE x9"));
@@ -71,45 +44,42 @@ TEST_F(PanelTest, TheExtensionTellsTheKindAndWhereABareNameLies) {
         {"Untitled.PTH", "0\tPath\t x100"},
     };
     for (const auto& [nome, riga] : casi) {
-        EXPECT_EQ(Esegui({"show", nome}), kFatto) << nome << messaggi.str();
+        EXPECT_EQ(Esegui("panel", {"show", nome}), kFatto) << nome << messaggi.str();
         EXPECT_TRUE(Ha(riga)) << nome;
     }
 }
 
 TEST_F(PanelTest, JsonTellsTheSameFacts) {
+    banco.json = true;
     s.setup.HoldTimeAn = 1.9f;
     ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
-    ASSERT_EQ(Esegui({"show"}, true), kFatto);
-    const std::string json = dati.str();
-    for (const char* parte :
-         {"\"kind\":\"EAM\"", "{\"offset\":38,\"bytes\":604}",
-          "{\"offset\":18,\"bytes\":4,\"name\":\"HoldTimeAn\",\"type\":\"f32\",\"value\":1.9}",
-          "\"name\":\"ScaleAn\",\"type\":\"f32\",\"value\":[0,0]}",
-          "\"name\":\"LimitName\",\"type\":\"char[60]\",\"value\":[\"NONE\","})
-        EXPECT_NE(json.find(parte), std::string::npos) << parte;
+    ASSERT_EQ(Esegui("panel|show"), kFatto);
+    DiceTutte({"\"kind\":\"EAM\"", "{\"offset\":38,\"bytes\":604}",
+               "{\"offset\":18,\"bytes\":4,\"name\":\"HoldTimeAn\",\"type\":\"f32\",\"value\":1.9}",
+               "\"name\":\"ScaleAn\",\"type\":\"f32\",\"value\":[0,0]}",
+               "\"name\":\"LimitName\",\"type\":\"char[60]\",\"value\":[\"NONE\","});
 }
 
 TEST_F(PanelTest, AShortFileIsToldAfterTheFieldsThatItHas) {
     ASSERT_TRUE(SalvaPanelEAM(s, kPannelloEAM));
     std::filesystem::resize_file(s.albero.Host(kPannelloEAM), 20);
-    EXPECT_EQ(Esegui({"show"}), kGuastoFile);
+    EXPECT_EQ(Esegui("panel|show"), kGuastoFile);
     EXPECT_TRUE(Ha("16\tGraphFlag\t1"));
     EXPECT_EQ(dati.str().find("HoldTimeAn"), std::string::npos) << "it has only half of this";
     EXPECT_NE(messaggi.str().find("Untitled.EAM ends after 20 of 5094 bytes"), std::string::npos);
 }
 
 TEST_F(PanelTest, WrongWordsAndAbsentFilesAreTold) {
-    using Parole = std::vector<std::string>;
-    for (const Parole& parole :
-         {Parole{}, {"edit"}, {"list", "x"}, {"show", "x", "y"}, {"show", "x.5SL"}})
-        EXPECT_EQ(Esegui(parole), kUsoErrato);
+    for (const char* riga :
+         {"panel", "panel|edit", "panel|list|x", "panel|show|x|y", "panel|show|x.5SL"})
+        EXPECT_EQ(Esegui(riga), kUsoErrato) << riga;
     std::filesystem::create_directories(s.albero.Host("Panels"));
     std::ofstream(s.albero.Host("Panels\\Torn.EST")) << "x";
-    EXPECT_EQ(Esegui({"list"}), kFatto);
+    EXPECT_EQ(Esegui("panel|list"), kFatto);
     EXPECT_EQ(dati.str(), "Panels\\Torn.EST\t1 bytes\tnot the size of its kind\n");
-    EXPECT_EQ(Esegui({"show", "absent"}), kGuastoFile);
+    EXPECT_EQ(Esegui("panel|show|absent"), kGuastoFile);
     EXPECT_NE(messaggi.str().find("Panels\\absent.EAM"), std::string::npos);
-    EXPECT_EQ(Esegui({"show", "..\\x.EAM"}), kGuastoFile);
+    EXPECT_EQ(Esegui("panel|show|..\\x.EAM"), kGuastoFile);
 }
 
 } // namespace

@@ -1,39 +1,18 @@
 // The scan verb: every field of a line by the rules of its window, and whole lines.
 #include <map>
-#include <sstream>
 
-#include "aiuto/BancoSimulato.h"
-#include "base/Testo.h"
+#include "aiuto/BancoVerbi.h"
 #include "data/Panels.h"
 #include "data/TabelleLimFac.h"
 #include "setup/CampiRiga.h"
-#include "verbs/Verbo.h"
 
 namespace orvane::prova {
 namespace {
 
-struct ScanTest : ::testing::Test {
-    BancoSimulato simulato;
-    Scrivania& s = simulato.scrivania;
-    std::ostringstream dati;
-    std::ostringstream messaggi;
-
-    /// Words parted by "|".
-    EsitoVerbo Esegui(std::string_view parole, bool json = false) {
-        dati.str("");
-        messaggi.str("");
-        VistaTerminale vista(simulato.ambiente, messaggi, false, json);
-        const bool interrotto = false;
-        Banco banco{.scrivania = s,
-                    .ricevitore = simulato.ricevitore,
-                    .corsa = simulato.statoCorsa,
-                    .vista = vista,
-                    .catalogo = simulato.catalogo,
-                    .interrotto = interrotto,
-                    .dati = dati,
-                    .messaggi = messaggi,
-                    .json = json};
-        return VerboScan(banco, Dividi(parole, '|'));
+struct ScanTest : BancoVerbi {
+    EsitoVerbo Scan(const std::string& parole, bool json = false) {
+        banco.json = json;
+        return Esegui("scan|" + parole);
     }
     ScanTable Tabella() {
         ScanRecord scan;
@@ -51,11 +30,11 @@ struct ScanTest : ::testing::Test {
 TEST_F(ScanTest, EachOptionWritesItsField) {
     s.setup.AncillaryKind = 1;
     SalvaLimite(0);
-    ASSERT_EQ(Esegui("add|T|--band|B"), kFatto);
-    ASSERT_EQ(Esegui("set|T|1|--start|1|--stop|2,5|--rbw|10 kHz|--step|0.01|--steps-between|99"
-                     "|--smart|on|--detector|Q,A|--hold|-5|--peak-hold|40000|--margin|-25"
-                     "|--limit|Log|--limit-dsd|Log|--min-att|30|--preamp|on|--presel|off"
-                     "|--prompt|Turn it|--lines|L2"),
+    ASSERT_EQ(Scan("add|T|--band|B"), kFatto);
+    ASSERT_EQ(Scan("set|T|1|--start|1|--stop|2,5|--rbw|10 kHz|--step|0.01|--steps-between|99"
+                   "|--smart|on|--detector|Q,A|--hold|-5|--peak-hold|40000|--margin|-25"
+                   "|--limit|Log|--limit-dsd|Log|--min-att|30|--preamp|on|--presel|off"
+                   "|--prompt|Turn it|--lines|L2"),
               kFatto)
         << messaggi.str();
     const ScanLine riga = Tabella()[0];
@@ -73,20 +52,18 @@ TEST_F(ScanTest, EachOptionWritesItsField) {
     EXPECT_EQ(riga.LimitOn, 1);
     EXPECT_EQ(riga.LimitDSDOn, 1);
     EXPECT_EQ(riga.PromptOn, 1);
-    ASSERT_EQ(Esegui("show|T", true), kFatto);
-    for (const char* atteso :
-         {"\"ancillary\":1", "\"double_smart\":true", "\"peak_hold_ms\":30000", "\"passes\":1",
-          "\"lines\":[\"L2\"]", "\"prompt\":\"Turn it\"", "\"margin_db\":-19"})
-        EXPECT_NE(dati.str().find(atteso), std::string::npos) << atteso;
+    ASSERT_EQ(Scan("show|T", true), kFatto);
+    DiceTutte({"\"ancillary\":1", "\"double_smart\":true", "\"peak_hold_ms\":30000", "\"passes\":1",
+               "\"lines\":[\"L2\"]", "\"prompt\":\"Turn it\"", "\"margin_db\":-19"});
     // A float is told as it was typed.
-    ASSERT_EQ(Esegui("add|Short|--band|B"), kFatto);
-    ASSERT_EQ(Esegui("show|Short", true), kFatto);
+    ASSERT_EQ(Scan("add|Short|--band|B"), kFatto);
+    ASSERT_EQ(Scan("show|Short", true), kFatto);
     EXPECT_NE(dati.str().find("\"hold_ms\":1.9,"), std::string::npos) << dati.str();
 }
 
 TEST_F(ScanTest, WhatTheRulesRefuseChangesNothing) {
     SalvaLimite(1);
-    ASSERT_EQ(Esegui("add|T|--band|B|--detector|P,Q,A"), kFatto);
+    ASSERT_EQ(Scan("add|T|--band|B|--detector|P,Q,A"), kFatto);
     const ScanTable prima = Tabella();
     struct {
         const char* parole;
@@ -112,10 +89,10 @@ TEST_F(ScanTest, WhatTheRulesRefuseChangesNothing) {
         {"insert|Other|1|--band|B", kGuastoFile, "there is no scan table"},
     };
     for (const auto& caso : casi) {
-        simulato.ambiente.riquadri.clear();
-        EXPECT_EQ(Esegui(caso.parole), caso.esito) << caso.parole;
+        b.ambiente.riquadri.clear();
+        EXPECT_EQ(Scan(caso.parole), caso.esito) << caso.parole;
         std::string detto = messaggi.str();
-        for (const Riquadro& riquadro : simulato.ambiente.riquadri)
+        for (const Riquadro& riquadro : b.ambiente.riquadri)
             detto += riquadro.testo;
         EXPECT_NE(detto.find(caso.detto), std::string::npos) << caso.parole << ": " << detto;
     }
@@ -126,14 +103,14 @@ TEST_F(ScanTest, LinesComeGoAndChangePlaces) {
     for (const char* parole :
          {"add|T|--band|A+B|--ancillary|1", "insert|T|2|--start|1|--stop|2|--hold|3", "copy|T|1",
           "move|T|4|1", "remove|T|2"})
-        ASSERT_EQ(Esegui(parole), kFatto) << parole << messaggi.str();
+        ASSERT_EQ(Scan(parole), kFatto) << parole << messaggi.str();
     const ScanTable tabella = Tabella();
     const std::array<double, 4> inizi = {0.15, 0.009, 1, 0};
     for (size_t i = 0; i < inizi.size(); ++i)
         EXPECT_EQ(tabella[i].Start, inizi[i]) << i;
     EXPECT_EQ(tabella[0].LineSwitch, (std::array<int16_t, 4>{0, 1, 1, 0}));
     EXPECT_EQ(tabella[2].HoldTime, 3);
-    ASSERT_EQ(Esegui("show|T|--ancillary|1"), kFatto);
+    ASSERT_EQ(Scan("show|T|--ancillary|1"), kFatto);
     EXPECT_EQ(Dividi(Dividi(dati.str(), '\n')[0], '\t').back(), "L1, L2");
     EXPECT_NE(messaggi.str().find(" points"), std::string::npos);
 }

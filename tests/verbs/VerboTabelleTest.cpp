@@ -1,37 +1,10 @@
 // The verbs of tables: what they print, and what `store` sends.
-#include <gtest/gtest.h>
-
-#include <sstream>
-
-#include "aiuto/BancoSimulato.h"
-#include "base/Testo.h"
-#include "verbs/Verbo.h"
+#include "aiuto/BancoVerbi.h"
 
 namespace orvane::prova {
 namespace {
 
-struct VerboTabelleTest : ::testing::Test {
-    BancoSimulato b;
-    std::ostringstream dati;
-    std::ostringstream messaggi;
-    bool interrotto = false;
-    VistaTerminale vista{b.ambiente, messaggi, false, false};
-    Banco banco{.scrivania = b.scrivania,
-                .ricevitore = b.ricevitore,
-                .corsa = b.statoCorsa,
-                .vista = vista,
-                .catalogo = b.catalogo,
-                .linkScelto = true,
-                .interrotto = interrotto,
-                .dati = dati,
-                .messaggi = messaggi};
-
-    EsitoVerbo Esegui(const std::string& verbo, const std::vector<std::string>& parole) {
-        dati.str("");
-        messaggi.str("");
-        return TrovaVerbo(verbo)->esegui(banco, parole);
-    }
-};
+using VerboTabelleTest = BancoVerbi;
 
 TEST_F(VerboTabelleTest, ValuesComeOneALineOrAsJson) {
     ASSERT_EQ(Esegui("limit", {"library"}), kFatto);
@@ -79,8 +52,7 @@ TEST_F(VerboTabelleTest, WrongWordsAreWrongUse) {
           "limit store X --slot 1.5", "limit store X --slot 0", "limit store X --slot 100",
           "factor library", "factor import X f --lin", "limit import X f --unit dBx",
           "table value X 1", "table import X f --title T"}) {
-        const std::vector<std::string> parole = Dividi(riga, ' ');
-        EXPECT_EQ(Esegui(parole[0], {parole.begin() + 1, parole.end()}), kUsoErrato) << riga;
+        EXPECT_EQ(Esegui(Sostituisci(riga, " ", "|")), kUsoErrato) << riga;
     }
 }
 
