@@ -159,10 +159,13 @@ std::vector<Picco> TrovaPicchi(const SweepTrace& traccia, DetectorKind detector,
 std::optional<size_t> PiccoDaTastiera(const std::vector<Picco>& picchi, size_t indice,
                                       VersoPicco verso) {
     const auto qui = std::ranges::find(picchi, indice, &Picco::indice);
-    if (verso == VersoPicco::PiuAlto || (verso == VersoPicco::Prossimo && qui == picchi.end()))
+    const bool perAltezza = verso == VersoPicco::Prossimo || verso == VersoPicco::Superiore;
+    if (verso == VersoPicco::PiuAlto || (perAltezza && qui == picchi.end()))
         return picchi.empty() ? std::nullopt : std::optional(picchi.front().indice);
     if (verso == VersoPicco::Prossimo)
         return qui + 1 == picchi.end() ? std::nullopt : std::optional((qui + 1)->indice);
+    if (verso == VersoPicco::Superiore)
+        return qui == picchi.begin() ? std::nullopt : std::optional((qui - 1)->indice);
     std::optional<size_t> vicino;
     for (const Picco& p : picchi) {
         if (verso == VersoPicco::Sinistra && p.indice < indice)

@@ -34,10 +34,10 @@ std::vector<Picco> TrovaPicchi(const SweepTrace& traccia, DetectorKind detector,
 std::vector<Picco> TrovaPicchi(const SweepTrace& traccia, DetectorKind detector, int quanti,
                                double daMhz, double aMhz, double emergenzaDb = kEmergenzaPicco);
 
-enum class VersoPicco { PiuAlto, Prossimo, Sinistra, Destra };
-/// Where the keys take the marker from a sample: always the highest peak; the next lower one, and
-/// from a place that is no peak the highest; the nearest to the left or to the right. Empty where
-/// there is none. The way up begins at the top again: there is no key for the next higher one.
+enum class VersoPicco { PiuAlto, Prossimo, Superiore, Sinistra, Destra };
+/// Where the keys take the marker from a sample: always the highest peak; the next lower and the
+/// next higher one, from a place that is no peak the highest; the nearest to the left or to the
+/// right. Empty where there is none.
 std::optional<size_t> PiccoDaTastiera(const std::vector<Picco>& picchi, size_t indice,
                                       VersoPicco verso);
 

@@ -42,6 +42,8 @@ std::span<const MainPict::Comando> MainPict::Comandi() {
                 QT_TR_NOOP("Highest Peak")},
         Comando{Qt::Key_N, kSolo, [](M& m) { m.VaiAlPicco(VersoPicco::Prossimo); },
                 QT_TR_NOOP("Next Lower Peak")},
+        Comando{Qt::Key_N, Qt::ShiftModifier, [](M& m) { m.VaiAlPicco(VersoPicco::Superiore); },
+                QT_TR_NOOP("Next Higher Peak")},
         Comando{Qt::Key_Left, Qt::ControlModifier, [](M& m) { m.VaiAlPicco(VersoPicco::Sinistra); },
                 QT_TR_NOOP("Peak to the Left")},
         Comando{Qt::Key_Right, Qt::ControlModifier, [](M& m) { m.VaiAlPicco(VersoPicco::Destra); },

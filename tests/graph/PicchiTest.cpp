@@ -83,8 +83,9 @@ TEST(Picchi, KeysGoFromOneToTheNext) {
     using Da = std::tuple<size_t, VersoPicco, std::optional<size_t>>;
     for (const auto& [da, verso, a] :
          {Da{1, PiuAlto, 3}, Da{3, PiuAlto, 3}, Da{3, Prossimo, 5}, Da{5, Prossimo, 1},
-          Da{1, Prossimo, {}}, Da{0, Prossimo, 3}, Da{4, Sinistra, 3}, Da{5, Sinistra, 3},
-          Da{1, Sinistra, {}}, Da{1, Destra, 3}, Da{99, Destra, {}}})
+          Da{1, Prossimo, {}}, Da{5, Superiore, 3}, Da{3, Superiore, {}}, Da{0, Prossimo, 3},
+          Da{4, Sinistra, 3}, Da{5, Sinistra, 3}, Da{1, Sinistra, {}}, Da{1, Destra, 3},
+          Da{99, Destra, {}}})
         EXPECT_EQ(PiccoDaTastiera(picchi, da, verso), a) << da << " " << static_cast<int>(verso);
     EXPECT_FALSE(PiccoDaTastiera({}, 0, PiuAlto));
 }
